@@ -1,0 +1,15 @@
+/* Every exported interface of TorvaneRTL_Minimal. C11 and C++20. */
+#ifndef TORVANE_TORVANE_H
+#define TORVANE_TORVANE_H
+
+#include "types.h"
+#include "memory.h"
+#include "failure.h"
+#include "startup.h"
+#include "tensor.h"
+#include "operators.h"
+#include "elementwise.h"
+#include "scalars.h"
+#include "machfuncs.h"
+
+#endif
