@@ -1,0 +1,37 @@
+#include "child_process.h"
+
+#include <chrono>
+#include <cstdio>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace torvane::test {
+
+ChildOutcome runInChild(const std::function<void()> &body) {
+  int ends[2];
+  if (pipe(ends) != 0) return {};
+  std::fflush(stdout);
+  const auto start = std::chrono::steady_clock::now();
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(ends[1], STDOUT_FILENO);
+    close(ends[0]);
+    close(ends[1]);
+    body();
+    _exit(99);
+  }
+  close(ends[1]);
+  ChildOutcome outcome;
+  char buffer[512];
+  for (ssize_t got; (got = read(ends[0], buffer, sizeof buffer)) > 0;)
+    outcome.output.append(buffer, static_cast<size_t>(got));
+  close(ends[0]);
+  int status = 0;
+  waitpid(child, &status, 0);
+  outcome.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  outcome.exited = WIFEXITED(status);
+  outcome.status = outcome.exited ? WEXITSTATUS(status) : WTERMSIG(status);
+  return outcome;
+}
+
+} // namespace torvane::test
