@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace torvane::test {
@@ -30,9 +31,9 @@ public:
   friend Exact operator-(const Exact &x, const Exact &y) { return x + (-y); }
   friend Exact operator*(const Exact &x, const Exact &y) {
     Limbs product{};
-    for (size_t i = 0; i < x.limbs.size(); ++i) {
+    for (std::size_t i = 0; i < x.limbs.size(); ++i) {
       uint64_t carry = 0;
-      for (size_t j = 0; i + j < product.size(); ++j) {
+      for (std::size_t j = 0; i + j < product.size(); ++j) {
         const uint64_t sum = uint64_t{x.limbs[i]} * y.limbs[j] + product[i + j] + carry;
         product[i + j] = uint32_t(sum);
         carry = sum >> 32;
@@ -45,7 +46,7 @@ public:
   template <class T> bool fits() const {
     constexpr bool isSigned = T(-1) < T(0);
     if (negative && !isSigned) return false;
-    for (size_t i = 2; i < limbs.size(); ++i)
+    for (std::size_t i = 2; i < limbs.size(); ++i)
       if (limbs[i] != 0) return false;
     const uint64_t top = uint64_t{1} << (8 * sizeof(T) - 1), low = low64();
     if (isSigned) return negative ? low <= top : low < top;
@@ -71,14 +72,14 @@ private:
     return result;
   }
   static bool below(const Limbs &x, const Limbs &y) {
-    for (size_t i = x.size(); i-- > 0;)
+    for (std::size_t i = x.size(); i-- > 0;)
       if (x[i] != y[i]) return x[i] < y[i];
     return false;
   }
   static Limbs add(const Limbs &x, const Limbs &y) {
     Limbs sum{};
     uint64_t carry = 0;
-    for (size_t i = 0; i < sum.size(); ++i) {
+    for (std::size_t i = 0; i < sum.size(); ++i) {
       carry += uint64_t{x[i]} + y[i];
       sum[i] = uint32_t(carry);
       carry >>= 32;
@@ -88,7 +89,7 @@ private:
   static Limbs difference(const Limbs &x, const Limbs &y) {
     Limbs rest{};
     int64_t borrow = 0;
-    for (size_t i = 0; i < rest.size(); ++i) {
+    for (std::size_t i = 0; i < rest.size(); ++i) {
       borrow += int64_t{x[i]} - y[i];
       rest[i] = uint32_t(borrow);
       borrow >>= 32;
