@@ -1,5 +1,5 @@
 // The memory services, as the rest of the library calls them. The exports in <torvane/memory.h> are
-// these with errorMode kFatal. The allocator behind them is in heap.cpp.
+// these with errorMode kFatal. The allocator behind them stands in the heap_ files.
 #pragma once
 
 #include "types.h"
@@ -45,5 +45,13 @@ void adjustExternalBytes(uint32_t newTotal);
 
 // Frees the reserve, prints the message, waits three seconds and ends the process with status 1.
 [[noreturn]] void fatalOutOfMemory();
+
+// Makes a state of this same allocator, which the host made, the process's; the host's heaps are shared from
+// then on. Null leaves the state that is there.
+void adoptAllocatorState(void *state);
+
+// Releases everything in every heap, whatever is still in use, and the state. Only when no other thread is in
+// the library any more; the next allocation starts anew.
+void tearDownMemory();
 
 } // namespace torvane
