@@ -315,13 +315,13 @@ std::vector<uintptr_t> keysInOrder(HashTable *table) {
 
 TEST_F(Table, ForEachWalksTheBucketsInOrderAndEachChainFromItsLatest) {
   table = plainTable(0);
-  for (uintptr_t key : {0, 7, 14, 3, 10, 6, 1}) HashTable_insert(table, key);
+  for (uintptr_t key : {0u, 7u, 14u, 3u, 10u, 6u, 1u}) HashTable_insert(table, key);
   EXPECT_EQ(keysInOrder(table), (std::vector<uintptr_t>{14, 7, 0, 1, 10, 3, 6}));
 }
 
 TEST_F(Table, ResizeMovesNodesToTheHeadsOfTheirNewChainsInBucketOrder) {
   table = plainTable(0);
-  for (uintptr_t key : {0, 11, 22, 33, 77, 154}) HashTable_insert(table, key);
+  for (uintptr_t key : {0u, 11u, 22u, 33u, 77u, 154u}) HashTable_insert(table, key);
   // In seven buckets: 0: 154 77 0, 1: 22, 4: 11, 5: 33. All of them meet in one bucket of eleven.
   for (uintptr_t key = 1; key <= 9; ++key) HashTable_insert(table, key);
   ASSERT_EQ(table->bucketCount, 11);
