@@ -1,5 +1,6 @@
 // Memory that runs out: every request of every operation fails in turn, and the limit of the thread's heap.
-// Extents and payloads here are blocks of their own in the process heap, so that each is one request.
+// Extents and payloads here are above 1 MiB: no thread heap keeps blocks of that size for reuse, so that each
+// is one request of the process heap.
 #include "hook_log.h"
 #include "runtime/memory.h"
 #include "support/failing_heap.h"
@@ -16,7 +17,7 @@ namespace {
 
 using Calls = std::vector<HookCall>;
 
-constexpr mint kWideRank = 20000;
+constexpr mint kWideRank = 300000;
 
 // {1, 1, ..., 1, last}
 Extents wide(mint last) {
@@ -39,39 +40,40 @@ struct Operation {
 };
 
 const Tensor &wideSource() {
-  static const Tensor source = newTensor(TORVANE_TYPE_REAL, wide(30000));
+  static const Tensor source = newTensor(TORVANE_TYPE_REAL, wide(300000));
   return source;
 }
 
 MTensor *emptySlot() { return nullptr; }
-MTensor *vectorOf20000() { return newTensor(TORVANE_TYPE_INTEGER, {20000}).release(); }
+MTensor *longVector() { return newTensor(TORVANE_TYPE_INTEGER, {300000}).release(); }
 
 const std::vector<Operation> kOperations = {
     {"new tensor", 2, emptySlot,
-     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, wide(30000), mode); },
-     240000},
+     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, wide(300000), mode); },
+     2400000},
     {"fresh record", 2, MTensor_new,
-     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, wide(30000), mode); },
-     240000},
-    {"growing shape", 2, vectorOf20000,
-     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, wide(30000), mode); },
-     240000},
-    {"growing payload", 1, vectorOf20000,
-     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_INTEGER, {60000}, mode); },
-     240000},
-    {"shrinking payload", 1, [] { return newTensor(TORVANE_TYPE_REAL, {100000}).release(); },
-     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, {20000}, mode); }, 160000},
-    {"another type", 1, vectorOf20000,
-     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_COMPLEX, {20000}, mode); },
-     320000},
-    {"copy", 2, vectorOf20000,
+     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, wide(300000), mode); },
+     2400000},
+    {"growing shape", 2, longVector,
+     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, wide(300000), mode); },
+     2400000},
+    {"growing payload", 1, longVector,
+     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_INTEGER, {900000}, mode); },
+     3600000},
+    {"shrinking payload", 1, [] { return newTensor(TORVANE_TYPE_REAL, {1500000}).release(); },
+     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_REAL, {300000}, mode); },
+     2400000},
+    {"another type", 1, longVector,
+     [](MTensor **slot, mint mode) { return allocateSlot(slot, TORVANE_TYPE_COMPLEX, {300000}, mode); },
+     4800000},
+    {"copy", 2, longVector,
      [](MTensor **slot, mint mode) { return MTensor_copyUniqueCommon(*slot, wideSource().get(), mode); },
-     240000},
-    {"like", 2, vectorOf20000,
+     2400000},
+    {"like", 2, longVector,
      [](MTensor **slot, mint mode) {
        return MTensor_allocateMemoryLikeCommon(*slot, wideSource().get(), mode);
      },
-     240000},
+     2400000},
 };
 
 // Runs the operation with its k-th request failing; whether one failed.
@@ -135,25 +137,25 @@ TEST(OutOfMemory, IsOverWhenTheSameRequestIsMadeAgain) {
 }
 
 TEST(OutOfMemory, KeepsATensorWhoseTypeAloneWasToChange) {
-  const Tensor tensor = newTensor(TORVANE_TYPE_INTEGER, {20000});
+  const Tensor tensor = newTensor(TORVANE_TYPE_INTEGER, {300000});
   MTensor_initialize(tensor.get(), 3);
   FailingHeap heap;
   heap.failFrom(1);
-  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_COMPLEX, {20000}), 403);
+  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_COMPLEX, {300000}), 403);
   heap.succeed();
   EXPECT_TRUE(isValidTensor(tensor.get()));
-  EXPECT_EQ(elements<mint>(tensor)[19999], 3);
+  EXPECT_EQ(elements<mint>(tensor)[299999], 3);
 }
 
 TEST(OutOfMemory, MakesNoTensorFromNothing) {
   const Tensor warm = newTensor(TORVANE_TYPE_REAL, {2});
   const uint32_t before = usedBytesOfThisThread();
-  const mint extents[] = {20000};
+  const mint extents[] = {300000};
   FailingHeap heap;
   heap.failFrom(1);
   takeHookCalls();
   EXPECT_EQ(CreatePackedArray(TORVANE_TYPE_COMPLEX, 1, extents), nullptr);
-  EXPECT_EQ(takeHookCalls(), Calls({{"report", 320000}}));
+  EXPECT_EQ(takeHookCalls(), Calls({{"report", 4800000}}));
   EXPECT_EQ(MTensor_newAllocatedCommon(TORVANE_TYPE_COMPLEX, 1, extents, kQuiet), nullptr);
   EXPECT_EQ(takeHookCalls(), Calls());
   heap.succeed();
@@ -183,8 +185,8 @@ protected:
 };
 
 TEST_F(HeapLimit, IsHeededByTheQuietModeAlone) {
-  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_REAL, {20000}, kQuiet), 403);
-  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_REAL, {20000}, kReport), 0);
+  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_REAL, {300000}, kQuiet), 403);
+  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_REAL, {300000}, kReport), 0);
   EXPECT_TRUE(isValidTensor(tensor.get()));
 }
 
@@ -202,15 +204,15 @@ TEST_F(HeapLimit, TellsItsHookBeforeTheReportOfAFailedAllocation) {
   const uint32_t used = usedBytesOfThisThread();
   FailingHeap heap;
   heap.failFrom(1);
-  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_REAL, {20000}, kReport), 403);
+  EXPECT_EQ(allocateAs(tensor, TORVANE_TYPE_REAL, {300000}, kReport), 403);
   heap.succeed();
   const Calls calls = takeHookCalls();
   ASSERT_GE(calls.size(), 2u);
   for (size_t i = 0; i + 1 < calls.size(); ++i) {
     EXPECT_EQ(calls[i].hook, "limit");
-    EXPECT_GE(calls[i].bytes, used + 160000);
+    EXPECT_GE(calls[i].bytes, used + 2400000);
   }
-  EXPECT_EQ(calls.back(), (HookCall{"report", 160000}));
+  EXPECT_EQ(calls.back(), (HookCall{"report", 2400000}));
 }
 
 TEST_F(HeapLimit, TellsNobodyOfATypeWithoutWidthButTheReport) {
