@@ -91,7 +91,7 @@ static bool deviationsArePositive(const Study *study, const Csv *csv) {
     machfunc_d_minmax(range, rowOf(study->values, row), csv->rowCount, dense, 0);
     if (range[0] == range[1] || !(element(study->deviations, row) > 0))
       return csvComplain(csv, csv->headerLine, csvNumericColumn(csv, row) + 1,
-                         "cannot be standardised: it is constant, its deviation is 0");
+                         "its deviation is 0, it cannot be standardised");
   }
   return true;
 }
