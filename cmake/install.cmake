@@ -15,6 +15,10 @@ endforeach()
 install(EXPORT TorvaneRTLTargets NAMESPACE TorvaneRTL:: DESTINATION ${torvane_package_dir})
 configure_package_config_file(cmake/TorvaneRTLConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/TorvaneRTLConfig.cmake
   INSTALL_DESTINATION ${torvane_package_dir})
+# The version file admits users of the same pointer width only; CMake knows the compiler's own width, not -m32's.
+if(TORVANE_ILP32)
+  set(CMAKE_SIZEOF_VOID_P 4)
+endif()
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/TorvaneRTLConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/TorvaneRTLConfig.cmake

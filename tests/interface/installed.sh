@@ -2,7 +2,8 @@
 # installed.sh WAY BUILD SOURCE COMPILER FLAGS: installs the build to a scratch prefix, moves the prefix, and
 # there builds and runs the README's program as a user would, by pkg_config or by find_package.
 set -eu
-way=$1 build=$2 source=$3 compiler=$4 flags=${5//;/ }
+way=$1 build=$2 source=$3 compiler=$4 flags=${5-}
+flags=${flags//;/ }
 . "$source/tests/interface/readme.sh"
 work=$(mktemp -d) && trap 'rm -rf "$work"' EXIT
 
