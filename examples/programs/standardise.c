@@ -83,13 +83,26 @@ static bool totals(MTensor **sums, const MTensor *table, const Csv *csv) {
   return true;
 }
 
+typedef struct Range {
+  mreal low, high;
+} Range;
+
+static Range rangeOf(const MTensor *table, mint row) {
+  const mreal *x = rowOf(table, row), *end = x + table->dimensions[1];
+  Range range = {*x, *x};
+  while (++x < end) {
+    if (*x < range.low) range.low = *x;
+    if (*x > range.high) range.high = *x;
+  }
+  return range;
+}
+
 /* Rounding can leave equal values a deviation that is not quite 0, and tiny ones can have squares that
  * are 0: neither can be standardised. */
 static bool deviationsArePositive(const Study *study, const Csv *csv) {
   for (mint row = 0; row < csv->numericCount; row++) {
-    mreal range[2];
-    machfunc_d_minmax(range, rowOf(study->values, row), csv->rowCount, dense, 0);
-    if (range[0] == range[1] || !(element(study->deviations, row) > 0))
+    Range range = rangeOf(study->values, row);
+    if (range.low == range.high || !(element(study->deviations, row) > 0))
       return csvComplain(csv, csv->headerLine, csvNumericColumn(csv, row) + 1,
                          "its deviation is 0, it cannot be standardised");
   }
@@ -146,10 +159,9 @@ static void printSummary(const Csv *csv, const Study *study, const Study *again)
   printf("\n%-*s %6s %12s %12s %9s %9s %10s %12s\n", nameWidth(csv), "column", "count", "mean", "deviation",
          "z min", "z max", "z mean", "z deviation");
   for (mint row = 0; row < csv->numericCount; row++) {
-    mreal range[2];
-    machfunc_d_minmax(range, rowOf(study->standardised, row), csv->rowCount, dense, 0);
+    Range z = rangeOf(study->standardised, row);
     printf("%-*s %6d %12.6g %12.6g %9.5f %9.5f %10.1e %12.9f\n", nameWidth(csv), nameOf(csv, row),
-           csv->rowCount, element(study->means, row), element(study->deviations, row), range[0], range[1],
+           csv->rowCount, element(study->means, row), element(study->deviations, row), z.low, z.high,
            element(again->means, row), element(again->deviations, row));
   }
 }
