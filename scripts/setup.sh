@@ -1,6 +1,6 @@
 # Sourced by ./demo and ./check: the one list of Debian packages, and how they get there.
 build_packages=(cmake ninja-build g++)
-check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev pkg-config)
+check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev libmpc-dev pkg-config)
 packages_32=(g++-multilib)
 
 say() { printf '[%02d:%02d] %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*" >&2; }

@@ -46,30 +46,33 @@ template <size_t resultBytes, class Hash> uint32_t verificationValue(Hash hash) 
 }
 
 TEST(HashFunctions, Murmur3OfOneWordHasThePublishedVerificationValue) {
-  EXPECT_EQ(verificationValue<4>([](const void *bytes, uint32_t length, uint32_t seed, unsigned char *result) {
-              const uint32_t hash = murmur3x86_32(bytes, length, seed);
-              memcpy(result, &hash, sizeof hash);
-            }),
-            0xB0F57EE3u);
+  EXPECT_EQ(
+      verificationValue<4>([](const void *bytes, uint32_t length, uint32_t seed, unsigned char *result) {
+        const uint32_t hash = murmur3x86_32(bytes, length, seed);
+        memcpy(result, &hash, sizeof hash);
+      }),
+      0xB0F57EE3u);
 }
 
 TEST(HashFunctions, Murmur3OfFourNarrowLanesHasThePublishedVerificationValue) {
-  EXPECT_EQ(verificationValue<16>([](const void *bytes, uint32_t length, uint32_t seed, unsigned char *result) {
-              uint32_t words[4];
-              murmur3x86_128(bytes, length, seed, words);
-              memcpy(result, words, sizeof words);
-            }),
-            0xB3ECE62Au);
+  EXPECT_EQ(
+      verificationValue<16>([](const void *bytes, uint32_t length, uint32_t seed, unsigned char *result) {
+        uint32_t words[4];
+        murmur3x86_128(bytes, length, seed, words);
+        memcpy(result, words, sizeof words);
+      }),
+      0xB3ECE62Au);
 }
 
 TEST(HashFunctions, Murmur3OfTwoWideLanesHasThePublishedVerificationValue) {
-  EXPECT_EQ(verificationValue<16>([](const void *bytes, uint32_t length, uint32_t seed, unsigned char *result) {
-              const uint64_t seeds[2] = {seed, seed};
-              uint64_t words[2];
-              murmur3x64_128(bytes, length, seeds, words);
-              memcpy(result, words, sizeof words);
-            }),
-            0x6384BA69u);
+  EXPECT_EQ(
+      verificationValue<16>([](const void *bytes, uint32_t length, uint32_t seed, unsigned char *result) {
+        const uint64_t seeds[2] = {seed, seed};
+        uint64_t words[2];
+        murmur3x64_128(bytes, length, seeds, words);
+        memcpy(result, words, sizeof words);
+      }),
+      0x6384BA69u);
 }
 
 TEST(HashFunctions, WideLanesOfMurmur3AreSeededApart) {
@@ -288,7 +291,8 @@ TEST_F(SelectedHash, LongerKeysAreHashedByBothEndsAndTheirLength) {
     EXPECT_EQ(rememberedLength[1], 5u);
     EXPECT_EQ(rememberedLength[2], 4u);
     EXPECT_TRUE((rememberedBytes[0] == bytes.data()) != (rememberedBytes[1] == bytes.data()));
-    EXPECT_TRUE((rememberedBytes[0] == bytes.data() + length - 5) != (rememberedBytes[1] == bytes.data() + length - 5));
+    EXPECT_TRUE((rememberedBytes[0] == bytes.data() + length - 5) !=
+                (rememberedBytes[1] == bytes.data() + length - 5));
   }
 }
 
