@@ -46,4 +46,12 @@ void adjustExternalBytes(uint32_t newTotal);
 // Frees the reserve, prints the message, waits three seconds and ends the process with status 1.
 [[noreturn]] void fatalOutOfMemory();
 
+// Makes a state of this same allocator, which the host made, the process's; the host's heaps are shared from
+// then on. Null leaves the state that is there.
+void adoptAllocatorState(void *state);
+
+// Releases everything in every heap, whatever is still in use, and the state. Only when no other thread is in
+// the library any more; the next allocation starts anew.
+void tearDownMemory();
+
 } // namespace torvane

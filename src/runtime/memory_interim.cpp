@@ -27,7 +27,9 @@ uint32_t allocatedBytesFor(uint32_t r) { return (r + 7) & ~7u; }
 void checkLimit(uint32_t) {}
 uint32_t usedBytesOfThisThread() { return used; }
 void fatalOutOfMemory() { endProcess(1); }
-void initializeMemory(mint) {}
+void initializeMemory(mint stage) { if (stage == 1) createThreadHookLists(); }
+void adoptAllocatorState(void *) {}
+void tearDownMemory() {}
 } // namespace torvane
 using namespace torvane;
 void *Malloc_fun(uint32_t size) { return allocate(size, 0, kFatal); }

@@ -38,6 +38,10 @@ mint MTensor_setShape(MTensor *tensor, mint rank, const mint *dimensions, mint c
 mint MTensor_setPayload(MTensor *tensor, mint type, mint rank, mint count, mint errorMode);
 mint MTensor_copyAsConstant(MTensor *target, const MTensor *source);
 
+// Whether an allocated tensor holds the invariant above, its blocks are as large as its fields say, and its
+// flags, tag and bound are those of its type.
+bool isValidTensor(const MTensor *tensor);
+
 // Compiled code reads the fields where they stand.
 #if UINTPTR_MAX > 0xFFFFFFFF
 static_assert(offsetof(MTensor, rank) == 16 && offsetof(MTensor, type) == 20 &&
