@@ -26,7 +26,7 @@ MTensor *CreatePackedArray(mint type, mint rank, const mint *dimensions) {
 
 void MTensor_delete(MTensor *tensor) {
   if (tensor == nullptr || (tensor->flags & kDeletionGuard) != 0) return;
-  if (isTracking()) return trackDeletion(tensor);
+  if (isTracking() && trackDeletion(tensor)) return;
   torvane::free(tensor->data);
   torvane::free(tensor->dimensions);
   torvane::free(tensor);

@@ -3,7 +3,6 @@
 #include "runtime/memory.h"
 #include "runtime/set_jump.h"
 #include "runtime/startup.h"
-#include "support/child_process.h"
 #include <torvane/exception.hpp>
 
 #include <gtest/gtest.h>
@@ -66,11 +65,15 @@ protected:
 };
 INSTANTIATE_TEST_SUITE_P(Styles, InEveryStyle, testing::Values(1, 2, 0, 3, -1, 77));
 
-TEST(FailureAtLoad, StyleIsOneAndNothingIsPending) {
-  const test::ChildOutcome child =
-      test::runInChild([] { std::_Exit(RTL_exceptionStyle * 16 + RTL_exceptionActive); });
-  EXPECT_TRUE(child.exited);
-  EXPECT_EQ(child.status, 16);
+// Read when this program is loaded, before anything of the library has run.
+const mint styleAtLoad = RTL_exceptionStyle;
+const mint pendingAtLoad = getExceptionActive();
+const SetJumpFrame *const topAtLoad = setJumpTop();
+
+TEST(FailureAtLoad, StyleIsOneNothingIsPendingAndThereIsNoFrame) {
+  EXPECT_EQ(styleAtLoad, 1);
+  EXPECT_EQ(pendingAtLoad, 0);
+  EXPECT_EQ(topAtLoad, nullptr);
 }
 
 TEST_F(Failure, SetExceptionStyleStoresAndReturnsAnyStyle) {
