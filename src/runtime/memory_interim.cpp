@@ -6,9 +6,10 @@
 #include <torvane/memory.h>
 #include <cstring>
 namespace torvane {
-namespace { thread_local uint32_t used; }
+namespace { thread_local uint32_t used, limit; }
 void *allocate(uint32_t size, mint, mint errorMode) {
   if (size == 0) return nullptr;
+  if (limit != 0 && errorMode == kQuiet && used + size > limit) return nullptr;
   auto *p = static_cast<uint64_t *>(processHeap.load()->take(size_t{size} + 8));
   if (p == nullptr) { if (errorMode == kFatal) fatalOutOfMemory(); return nullptr; }
   *p = size; used += size; return p + 1;
@@ -27,6 +28,7 @@ uint32_t allocatedBytesFor(uint32_t r) { return (r + 7) & ~7u; }
 void checkLimit(uint32_t) {}
 uint32_t usedBytesOfThisThread() { return used; }
 void fatalOutOfMemory() { endProcess(1); }
+void setLimitOfThisThread(uint32_t l) { limit = l; }
 void initializeMemory(mint stage) { if (stage == 1) createThreadHookLists(); }
 void adoptAllocatorState(void *) {}
 void tearDownMemory() {}
