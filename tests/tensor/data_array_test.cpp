@@ -1,6 +1,5 @@
 // Tensors made over elements that exist.
 #include "runtime/memory.h"
-#include "support/child_process.h"
 #include "support/tensor_builders.h"
 
 #include <gtest/gtest.h>
@@ -101,29 +100,6 @@ TEST(CopiedData, OfAShapeThatIsEmptyBeforeItsLastExtentIsNone) {
 TEST(CopiedData, OfATypeWithoutWidthHasNoPayload) {
   const mint source[1] = {};
   EXPECT_EQ(copyOf(TORVANE_TYPE_NONE, {1}, source)->data, nullptr);
-}
-
-void expectFatal(const std::function<void()> &body) {
-  const ChildOutcome outcome = runInChild(body);
-  EXPECT_TRUE(outcome.exited);
-  EXPECT_EQ(outcome.status, 1);
-}
-
-TEST(FatalDataArray, AdoptingANegativeExtent) {
-  expectFatal([] { (void)adopt(TORVANE_TYPE_REAL, {2, -1}, newReals(1)); });
-}
-
-TEST(FatalDataArray, AdoptingAnOverflowingShape) {
-  expectFatal([] { (void)adopt(TORVANE_TYPE_REAL, {65536, 65536}, newReals(1)); });
-}
-
-TEST(FatalDataArray, CopyingANegativeExtentEvenAfterAZero) {
-  expectFatal([] { (void)copyOf(TORVANE_TYPE_REAL, {0, -1}, nullptr); });
-}
-
-TEST(FatalDataArray, CopyingAnOverflowingByteSize) {
-  const mreal source[1] = {};
-  expectFatal([&] { (void)copyOf(TORVANE_TYPE_REAL, {1 << 29}, source); });
 }
 
 } // namespace
