@@ -427,8 +427,11 @@ void *takeSmallOnly(size_t bytes) {
   ++refusals;
   return nullptr;
 }
-const ProcessHeap smallOnly = {takeSmallOnly, platformProcessHeap.give, platformProcessHeap.takeAligned,
-                               platformProcessHeap.giveAligned};
+ProcessHeap heapOfSmallBlocks() {
+  ProcessHeap heap = platformProcessHeap;
+  heap.take = takeSmallOnly;
+  return heap;
+}
 
 TEST_F(Table, ResizeThatCannotHaveItsBucketsLeavesTheTableAsItWas) {
   table = plainTable(16000);
@@ -436,6 +439,7 @@ TEST_F(Table, ResizeThatCannotHaveItsBucketsLeavesTheTableAsItWas) {
   for (uintptr_t key = 0; key < 2 * 16411; ++key) HashTable_insertValue(table, key, key + 1);
   HashNode **const buckets = table->buckets;
   refusals = 0;
+  const ProcessHeap smallOnly = heapOfSmallBlocks();
   processHeap = &smallOnly;
   for (uintptr_t key = 2 * 16411; key < 2 * 16411 + 100; ++key) HashTable_insertValue(table, key, key + 1);
   processHeap = &platformProcessHeap;
