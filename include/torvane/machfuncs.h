@@ -19,10 +19,6 @@ TORVANE_API mint machfunc_i_minus(void *result, const void *x, mint count, const
 TORVANE_API mint machfunc_d_minus(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_c_minus(void *result, const void *x, mint count, const mint *strides, mint flags);
 
-/* round: x rounded to the nearest integer, ties to even. */
-TORVANE_API mint machfunc_i_round(void *result, const void *x, mint count, const mint *strides, mint flags);
-TORVANE_API mint machfunc_d_round(void *result, const void *x, mint count, const mint *strides, mint flags);
-
 /* square: x * x. */
 TORVANE_API mint machfunc_i_square(void *result, const void *x, mint count, const mint *strides,
                                    mint flags);
@@ -31,9 +27,117 @@ TORVANE_API mint machfunc_d_square(void *result, const void *x, mint count, cons
 TORVANE_API mint machfunc_c_square(void *result, const void *x, mint count, const mint *strides,
                                    mint flags);
 
+/* recip: 1 / x. */
+TORVANE_API mint machfunc_d_recip(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_recip(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* abs: the absolute value; of a complex, the modulus. */
+TORVANE_API mint machfunc_i_abs(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_abs(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_abs(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* abssquare: x * x; of a complex, re * re + im * im. */
+TORVANE_API mint machfunc_i_abssquare(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+TORVANE_API mint machfunc_d_abssquare(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+TORVANE_API mint machfunc_c_abssquare(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+
+/* arg: the argument; of an integer or real, 0 unless negative. */
+TORVANE_API mint machfunc_i_arg(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_arg(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_arg(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* conj: the complex conjugate. */
+TORVANE_API mint machfunc_i_conj(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_conj(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_conj(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* im: the imaginary part. */
+TORVANE_API mint machfunc_i_im(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_im(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_im(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* re: the real part. */
+TORVANE_API mint machfunc_i_re(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_re(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_re(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* sign: -1, 0 or 1; of a complex, x / abs x, and 0 of 0. */
+TORVANE_API mint machfunc_i_sign(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_sign(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_sign(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* copy: x itself. */
+
+/* zero: 0; the argument is not read. */
+
+/* one: 1; the argument is not read. */
+
+/* fpexception: 0; checked, 1 for an infinite or NaN value. */
+
+/* pos: x > 0, as 1 or 0. */
+TORVANE_API mint machfunc_i_pos(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_pos(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* neg: x < 0, as 1 or 0. */
+TORVANE_API mint machfunc_i_neg(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_neg(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* npos: x <= 0, as 1 or 0. */
+TORVANE_API mint machfunc_i_npos(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_npos(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* nneg: x >= 0, as 1 or 0. */
+TORVANE_API mint machfunc_i_nneg(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_nneg(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* unitize: 1 unless x is 0. */
+TORVANE_API mint machfunc_i_unitize(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+TORVANE_API mint machfunc_d_unitize(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+TORVANE_API mint machfunc_c_unitize(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+
+/* ramp: the larger of x and 0. */
+TORVANE_API mint machfunc_i_ramp(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_ramp(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* evenq: 1 for an even x, else 0. */
+TORVANE_API mint machfunc_i_evenq(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_evenq(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* oddq: 1 for an odd x, else 0. */
+TORVANE_API mint machfunc_i_oddq(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_oddq(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* bit_not: the bitwise complement. */
+TORVANE_API mint machfunc_i_bit_not(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+
+/* bit_length: the bits that x needs; of a negative x, those of its complement. */
+TORVANE_API mint machfunc_i_bit_length(void *result, const void *x, mint count, const mint *strides,
+                                       mint flags);
+
+/* bit_count: the number of 1 bits. */
+
 /* sqrt: the square root of x; of a complex, the root in the right half plane. */
 TORVANE_API mint machfunc_d_sqrt(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_c_sqrt(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* round: x rounded to the nearest integer, ties to even. */
+TORVANE_API mint machfunc_i_round(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_round(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* intexp with 10 as second operand. */
+TORVANE_API mint machfunc_i_intexp(void *result, const void *x, mint count, const mint *strides,
+                                   mint flags);
+
+/* intlen with 10 as second operand. */
+TORVANE_API mint machfunc_i_intlen(void *result, const void *x, mint count, const mint *strides,
+                                   mint flags);
 
 /* plus: x + y. */
 TORVANE_API mint machfunc_ii_plus(void *result, const void *x, const void *y, mint count,
@@ -113,6 +217,108 @@ TORVANE_API mint machfunc_cd_div(void *result, const void *x, const void *y, min
 TORVANE_API mint machfunc_cc_div(void *result, const void *x, const void *y, mint count,
                                  const mint *strides, mint flags);
 
+/* fpexception: 0; checked, a test of x and then y. */
+
+/* max: the larger of x and y. */
+
+/* min: the smaller of x and y. */
+
+/* chop: x, or 0 where abs x is below the tolerance y. */
+TORVANE_API mint machfunc_dd_chop(void *result, const void *x, const void *y, mint count,
+                                  const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_chop(void *result, const void *x, const void *y, mint count,
+                                  const mint *strides, mint flags);
+
+/* abserr: abs(x - y). */
+TORVANE_API mint machfunc_ii_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_id_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_ic_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_dc_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_abserr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* relerr: abs((x - y) / y). */
+TORVANE_API mint machfunc_id_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_ic_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_dc_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_relerr(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* maxabs: the larger of abs x and abs y. */
+TORVANE_API mint machfunc_ii_maxabs(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_maxabs(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_maxabs(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* unitize: 1 where abs x is at least the tolerance y, else 0. */
+TORVANE_API mint machfunc_ii_unitize(void *result, const void *x, const void *y, mint count,
+                                     const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_unitize(void *result, const void *x, const void *y, mint count,
+                                     const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_unitize(void *result, const void *x, const void *y, mint count,
+                                     const mint *strides, mint flags);
+
+/* bitand: the bitwise and. */
+TORVANE_API mint machfunc_ii_bitand(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* bitor: the bitwise or. */
+TORVANE_API mint machfunc_ii_bitor(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+
+/* bitxor: the bitwise exclusive or. */
+TORVANE_API mint machfunc_ii_bitxor(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* intexp: the exponent of the highest power of y that divides x. */
+TORVANE_API mint machfunc_ii_intexp(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* intlen: the number of digits of x in base y. */
+TORVANE_API mint machfunc_ii_intlen(void *result, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+
+/* bitshiftleft: the magnitude of x times 2 to the power y, truncated, with the sign of x. */
+TORVANE_API mint machfunc_ii_bitshiftleft(void *result, const void *x, const void *y, mint count,
+                                          const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_bitshiftleft(void *result, const void *x, const void *y, mint count,
+                                          const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_bitshiftleft(void *result, const void *x, const void *y, mint count,
+                                          const mint *strides, mint flags);
+
+/* bitshiftright: the magnitude of x divided by 2 to the power y, truncated, with the sign of x. */
+TORVANE_API mint machfunc_ii_bitshiftright(void *result, const void *x, const void *y, mint count,
+                                           const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_bitshiftright(void *result, const void *x, const void *y, mint count,
+                                           const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_bitshiftright(void *result, const void *x, const void *y, mint count,
+                                           const mint *strides, mint flags);
+
 /* axpy: a * x + y. */
 TORVANE_API mint machfunc_iii_axpy(void *result, const void *a, const void *x, const void *y, mint count,
                                    const mint *strides, mint flags);
@@ -120,6 +326,28 @@ TORVANE_API mint machfunc_ddd_axpy(void *result, const void *a, const void *x, c
                                    const mint *strides, mint flags);
 TORVANE_API mint machfunc_ccc_axpy(void *result, const void *a, const void *x, const void *y, mint count,
                                    const mint *strides, mint flags);
+
+/* axmy: a * x - y. */
+TORVANE_API mint machfunc_iii_axmy(void *result, const void *a, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_ddd_axmy(void *result, const void *a, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_ccc_axmy(void *result, const void *a, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+
+/* ymax: y - a * x. */
+TORVANE_API mint machfunc_iii_ymax(void *result, const void *a, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_ddd_ymax(void *result, const void *a, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_ccc_ymax(void *result, const void *a, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+
+/* adxmy: a / (x - y). */
+TORVANE_API mint machfunc_ddd_adxmy(void *result, const void *a, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
+TORVANE_API mint machfunc_ccc_adxmy(void *result, const void *a, const void *x, const void *y, mint count,
+                                    const mint *strides, mint flags);
 
 /* total: the sum of the elements, left to right; 0 for none. */
 TORVANE_API mint machfunc_i_total(mint *accumulator, const mint *data, mint count, const mint *strides,

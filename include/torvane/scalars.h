@@ -45,35 +45,6 @@ TORVANE_API double checked_unary_minus_Real64(double x);
 TORVANE_API float *checked_unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im);
 TORVANE_API double *checked_unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im);
 
-/* round: x rounded to the nearest integer, ties to even.
- * Codes: integers no test - reals 1 - complexes code 17. */
-TORVANE_API int8_t unary_round_Integer8(int8_t x);
-TORVANE_API uint8_t unary_round_UnsignedInteger8(uint8_t x);
-TORVANE_API int16_t unary_round_Integer16(int16_t x);
-TORVANE_API uint16_t unary_round_UnsignedInteger16(uint16_t x);
-TORVANE_API int32_t unary_round_Integer32(int32_t x);
-TORVANE_API uint32_t unary_round_UnsignedInteger32(uint32_t x);
-TORVANE_API int64_t unary_round_Integer64(int64_t x);
-TORVANE_API uint64_t unary_round_UnsignedInteger64(uint64_t x);
-TORVANE_API mint unary_round_Real16(uint16_t x);
-TORVANE_API mint unary_round_Real32(float x);
-TORVANE_API mint unary_round_Real64(double x);
-TORVANE_API float *unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im);
-TORVANE_API double *unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im);
-TORVANE_API int8_t checked_unary_round_Integer8(int8_t x);
-TORVANE_API uint8_t checked_unary_round_UnsignedInteger8(uint8_t x);
-TORVANE_API int16_t checked_unary_round_Integer16(int16_t x);
-TORVANE_API uint16_t checked_unary_round_UnsignedInteger16(uint16_t x);
-TORVANE_API int32_t checked_unary_round_Integer32(int32_t x);
-TORVANE_API uint32_t checked_unary_round_UnsignedInteger32(uint32_t x);
-TORVANE_API int64_t checked_unary_round_Integer64(int64_t x);
-TORVANE_API uint64_t checked_unary_round_UnsignedInteger64(uint64_t x);
-TORVANE_API mint checked_unary_round_Real16(uint16_t x);
-TORVANE_API mint checked_unary_round_Real32(float x);
-TORVANE_API mint checked_unary_round_Real64(double x);
-TORVANE_API float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im);
-TORVANE_API double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im);
-
 /* square: x * x.
  * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
 TORVANE_API int8_t unary_square_Integer8(int8_t x);
@@ -103,6 +74,673 @@ TORVANE_API double checked_unary_square_Real64(double x);
 TORVANE_API float *checked_unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im);
 TORVANE_API double *checked_unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im);
 
+/* recip: 1 / x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_recip_Integer8(int8_t x);
+TORVANE_API uint8_t unary_recip_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_recip_Integer16(int16_t x);
+TORVANE_API uint16_t unary_recip_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_recip_Integer32(int32_t x);
+TORVANE_API uint32_t unary_recip_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_recip_Integer64(int64_t x);
+TORVANE_API uint64_t unary_recip_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_recip_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_recip_Real32(float x);
+TORVANE_API double unary_recip_Real64(double x);
+TORVANE_API float *unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_recip_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_recip_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_recip_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_recip_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_recip_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_recip_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_recip_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_recip_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_recip_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_recip_Real32(float x);
+TORVANE_API double checked_unary_recip_Real64(double x);
+TORVANE_API float *checked_unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* abs: the absolute value; of a complex, the modulus.
+ * Codes: signed integers checked 1 - unsigned no test - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_abs_Integer8(int8_t x);
+TORVANE_API uint8_t unary_abs_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_abs_Integer16(int16_t x);
+TORVANE_API uint16_t unary_abs_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_abs_Integer32(int32_t x);
+TORVANE_API uint32_t unary_abs_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_abs_Integer64(int64_t x);
+TORVANE_API uint64_t unary_abs_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_abs_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_abs_Real32(float x);
+TORVANE_API double unary_abs_Real64(double x);
+TORVANE_API float unary_abs_ComplexReal32(float x_re, float x_im);
+TORVANE_API double unary_abs_ComplexReal64(double x_re, double x_im);
+TORVANE_API int8_t checked_unary_abs_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_abs_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_abs_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_abs_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_abs_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_abs_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_abs_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_abs_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_abs_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_abs_Real32(float x);
+TORVANE_API double checked_unary_abs_Real64(double x);
+TORVANE_API float checked_unary_abs_ComplexReal32(float x_re, float x_im);
+TORVANE_API double checked_unary_abs_ComplexReal64(double x_re, double x_im);
+
+/* abssquare: x * x; of a complex, re * re + im * im.
+ * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_abssquare_Integer8(int8_t x);
+TORVANE_API uint8_t unary_abssquare_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_abssquare_Integer16(int16_t x);
+TORVANE_API uint16_t unary_abssquare_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_abssquare_Integer32(int32_t x);
+TORVANE_API uint32_t unary_abssquare_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_abssquare_Integer64(int64_t x);
+TORVANE_API uint64_t unary_abssquare_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_abssquare_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_abssquare_Real32(float x);
+TORVANE_API double unary_abssquare_Real64(double x);
+TORVANE_API float unary_abssquare_ComplexReal32(float x_re, float x_im);
+TORVANE_API double unary_abssquare_ComplexReal64(double x_re, double x_im);
+TORVANE_API int8_t checked_unary_abssquare_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_abssquare_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_abssquare_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_abssquare_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_abssquare_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_abssquare_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_abssquare_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_abssquare_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_abssquare_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_abssquare_Real32(float x);
+TORVANE_API double checked_unary_abssquare_Real64(double x);
+TORVANE_API float checked_unary_abssquare_ComplexReal32(float x_re, float x_im);
+TORVANE_API double checked_unary_abssquare_ComplexReal64(double x_re, double x_im);
+
+/* arg: the argument; of an integer or real, 0 unless negative.
+ * Codes: signed integers 14 - unsigned no test - reals 14 - complexes no test. */
+TORVANE_API int8_t unary_arg_Integer8(int8_t x);
+TORVANE_API uint8_t unary_arg_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_arg_Integer16(int16_t x);
+TORVANE_API uint16_t unary_arg_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_arg_Integer32(int32_t x);
+TORVANE_API uint32_t unary_arg_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_arg_Integer64(int64_t x);
+TORVANE_API uint64_t unary_arg_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_arg_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_arg_Real32(float x);
+TORVANE_API double unary_arg_Real64(double x);
+TORVANE_API float unary_arg_ComplexReal32(float x_re, float x_im);
+TORVANE_API double unary_arg_ComplexReal64(double x_re, double x_im);
+TORVANE_API int8_t checked_unary_arg_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_arg_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_arg_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_arg_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_arg_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_arg_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_arg_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_arg_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_arg_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_arg_Real32(float x);
+TORVANE_API double checked_unary_arg_Real64(double x);
+TORVANE_API float checked_unary_arg_ComplexReal32(float x_re, float x_im);
+TORVANE_API double checked_unary_arg_ComplexReal64(double x_re, double x_im);
+
+/* conj: the complex conjugate.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_conj_Integer8(int8_t x);
+TORVANE_API uint8_t unary_conj_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_conj_Integer16(int16_t x);
+TORVANE_API uint16_t unary_conj_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_conj_Integer32(int32_t x);
+TORVANE_API uint32_t unary_conj_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_conj_Integer64(int64_t x);
+TORVANE_API uint64_t unary_conj_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_conj_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_conj_Real32(float x);
+TORVANE_API double unary_conj_Real64(double x);
+TORVANE_API float *unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_conj_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_conj_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_conj_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_conj_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_conj_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_conj_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_conj_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_conj_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_conj_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_conj_Real32(float x);
+TORVANE_API double checked_unary_conj_Real64(double x);
+TORVANE_API float *checked_unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* im: the imaginary part.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_im_Integer8(int8_t x);
+TORVANE_API uint8_t unary_im_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_im_Integer16(int16_t x);
+TORVANE_API uint16_t unary_im_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_im_Integer32(int32_t x);
+TORVANE_API uint32_t unary_im_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_im_Integer64(int64_t x);
+TORVANE_API uint64_t unary_im_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_im_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_im_Real32(float x);
+TORVANE_API double unary_im_Real64(double x);
+TORVANE_API float unary_im_ComplexReal32(float x_re, float x_im);
+TORVANE_API double unary_im_ComplexReal64(double x_re, double x_im);
+TORVANE_API int8_t checked_unary_im_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_im_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_im_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_im_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_im_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_im_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_im_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_im_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_im_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_im_Real32(float x);
+TORVANE_API double checked_unary_im_Real64(double x);
+TORVANE_API float checked_unary_im_ComplexReal32(float x_re, float x_im);
+TORVANE_API double checked_unary_im_ComplexReal64(double x_re, double x_im);
+
+/* re: the real part.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_re_Integer8(int8_t x);
+TORVANE_API uint8_t unary_re_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_re_Integer16(int16_t x);
+TORVANE_API uint16_t unary_re_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_re_Integer32(int32_t x);
+TORVANE_API uint32_t unary_re_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_re_Integer64(int64_t x);
+TORVANE_API uint64_t unary_re_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_re_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_re_Real32(float x);
+TORVANE_API double unary_re_Real64(double x);
+TORVANE_API float unary_re_ComplexReal32(float x_re, float x_im);
+TORVANE_API double unary_re_ComplexReal64(double x_re, double x_im);
+TORVANE_API int8_t checked_unary_re_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_re_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_re_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_re_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_re_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_re_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_re_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_re_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_re_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_re_Real32(float x);
+TORVANE_API double checked_unary_re_Real64(double x);
+TORVANE_API float checked_unary_re_ComplexReal32(float x_re, float x_im);
+TORVANE_API double checked_unary_re_ComplexReal64(double x_re, double x_im);
+
+/* sign: -1, 0 or 1; of a complex, x / abs x, and 0 of 0.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API mint unary_sign_Integer8(int8_t x);
+TORVANE_API mint unary_sign_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_sign_Integer16(int16_t x);
+TORVANE_API mint unary_sign_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_sign_Integer32(int32_t x);
+TORVANE_API mint unary_sign_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_sign_Integer64(int64_t x);
+TORVANE_API mint unary_sign_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_sign_Real16(uint16_t x);
+TORVANE_API mint unary_sign_Real32(float x);
+TORVANE_API mint unary_sign_Real64(double x);
+TORVANE_API float *unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API mint checked_unary_sign_Integer8(int8_t x);
+TORVANE_API mint checked_unary_sign_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_sign_Integer16(int16_t x);
+TORVANE_API mint checked_unary_sign_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_sign_Integer32(int32_t x);
+TORVANE_API mint checked_unary_sign_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_sign_Integer64(int64_t x);
+TORVANE_API mint checked_unary_sign_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_sign_Real16(uint16_t x);
+TORVANE_API mint checked_unary_sign_Real32(float x);
+TORVANE_API mint checked_unary_sign_Real64(double x);
+TORVANE_API float *checked_unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* copy: x itself.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_copy_Integer8(int8_t x);
+TORVANE_API uint8_t unary_copy_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_copy_Integer16(int16_t x);
+TORVANE_API uint16_t unary_copy_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_copy_Integer32(int32_t x);
+TORVANE_API uint32_t unary_copy_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_copy_Integer64(int64_t x);
+TORVANE_API uint64_t unary_copy_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_copy_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_copy_Real32(float x);
+TORVANE_API double unary_copy_Real64(double x);
+TORVANE_API float *unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_copy_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_copy_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_copy_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_copy_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_copy_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_copy_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_copy_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_copy_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_copy_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_copy_Real32(float x);
+TORVANE_API double checked_unary_copy_Real64(double x);
+TORVANE_API float *checked_unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* zero: 0; the argument is not read.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_zero_Integer8(int8_t x);
+TORVANE_API uint8_t unary_zero_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_zero_Integer16(int16_t x);
+TORVANE_API uint16_t unary_zero_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_zero_Integer32(int32_t x);
+TORVANE_API uint32_t unary_zero_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_zero_Integer64(int64_t x);
+TORVANE_API uint64_t unary_zero_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_zero_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_zero_Real32(float x);
+TORVANE_API double unary_zero_Real64(double x);
+TORVANE_API float *unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_zero_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_zero_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_zero_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_zero_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_zero_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_zero_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_zero_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_zero_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_zero_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_zero_Real32(float x);
+TORVANE_API double checked_unary_zero_Real64(double x);
+TORVANE_API float *checked_unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* one: 1; the argument is not read.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_one_Integer8(int8_t x);
+TORVANE_API uint8_t unary_one_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_one_Integer16(int16_t x);
+TORVANE_API uint16_t unary_one_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_one_Integer32(int32_t x);
+TORVANE_API uint32_t unary_one_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_one_Integer64(int64_t x);
+TORVANE_API uint64_t unary_one_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_one_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_one_Real32(float x);
+TORVANE_API double unary_one_Real64(double x);
+TORVANE_API float *unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_one_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_one_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_one_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_one_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_one_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_one_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_one_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_one_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_one_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_one_Real32(float x);
+TORVANE_API double checked_unary_one_Real64(double x);
+TORVANE_API float *checked_unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* fpexception: 0; checked, 1 for an infinite or NaN value.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API mint unary_fpexception_Integer8(int8_t x);
+TORVANE_API mint unary_fpexception_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_fpexception_Integer16(int16_t x);
+TORVANE_API mint unary_fpexception_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_fpexception_Integer32(int32_t x);
+TORVANE_API mint unary_fpexception_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_fpexception_Integer64(int64_t x);
+TORVANE_API mint unary_fpexception_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_fpexception_Real16(uint16_t x);
+TORVANE_API mint unary_fpexception_Real32(float x);
+TORVANE_API mint unary_fpexception_Real64(double x);
+TORVANE_API mint unary_fpexception_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_fpexception_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_fpexception_Integer8(int8_t x);
+TORVANE_API mint checked_unary_fpexception_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_fpexception_Integer16(int16_t x);
+TORVANE_API mint checked_unary_fpexception_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_fpexception_Integer32(int32_t x);
+TORVANE_API mint checked_unary_fpexception_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_fpexception_Integer64(int64_t x);
+TORVANE_API mint checked_unary_fpexception_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_fpexception_Real16(uint16_t x);
+TORVANE_API mint checked_unary_fpexception_Real32(float x);
+TORVANE_API mint checked_unary_fpexception_Real64(double x);
+TORVANE_API mint checked_unary_fpexception_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_fpexception_ComplexReal64(double x_re, double x_im);
+
+/* pos: x > 0, as 1 or 0.
+ * Codes: integers no test - reals no test - complexes code 17. */
+TORVANE_API mint unary_pos_Integer8(int8_t x);
+TORVANE_API mint unary_pos_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_pos_Integer16(int16_t x);
+TORVANE_API mint unary_pos_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_pos_Integer32(int32_t x);
+TORVANE_API mint unary_pos_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_pos_Integer64(int64_t x);
+TORVANE_API mint unary_pos_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_pos_Real16(uint16_t x);
+TORVANE_API mint unary_pos_Real32(float x);
+TORVANE_API mint unary_pos_Real64(double x);
+TORVANE_API mint unary_pos_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_pos_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_pos_Integer8(int8_t x);
+TORVANE_API mint checked_unary_pos_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_pos_Integer16(int16_t x);
+TORVANE_API mint checked_unary_pos_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_pos_Integer32(int32_t x);
+TORVANE_API mint checked_unary_pos_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_pos_Integer64(int64_t x);
+TORVANE_API mint checked_unary_pos_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_pos_Real16(uint16_t x);
+TORVANE_API mint checked_unary_pos_Real32(float x);
+TORVANE_API mint checked_unary_pos_Real64(double x);
+TORVANE_API mint checked_unary_pos_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_pos_ComplexReal64(double x_re, double x_im);
+
+/* neg: x < 0, as 1 or 0.
+ * Codes: integers no test - reals no test - complexes code 17. */
+TORVANE_API mint unary_neg_Integer8(int8_t x);
+TORVANE_API mint unary_neg_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_neg_Integer16(int16_t x);
+TORVANE_API mint unary_neg_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_neg_Integer32(int32_t x);
+TORVANE_API mint unary_neg_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_neg_Integer64(int64_t x);
+TORVANE_API mint unary_neg_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_neg_Real16(uint16_t x);
+TORVANE_API mint unary_neg_Real32(float x);
+TORVANE_API mint unary_neg_Real64(double x);
+TORVANE_API mint unary_neg_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_neg_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_neg_Integer8(int8_t x);
+TORVANE_API mint checked_unary_neg_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_neg_Integer16(int16_t x);
+TORVANE_API mint checked_unary_neg_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_neg_Integer32(int32_t x);
+TORVANE_API mint checked_unary_neg_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_neg_Integer64(int64_t x);
+TORVANE_API mint checked_unary_neg_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_neg_Real16(uint16_t x);
+TORVANE_API mint checked_unary_neg_Real32(float x);
+TORVANE_API mint checked_unary_neg_Real64(double x);
+TORVANE_API mint checked_unary_neg_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_neg_ComplexReal64(double x_re, double x_im);
+
+/* npos: x <= 0, as 1 or 0.
+ * Codes: integers no test - reals no test - complexes code 17. */
+TORVANE_API mint unary_npos_Integer8(int8_t x);
+TORVANE_API mint unary_npos_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_npos_Integer16(int16_t x);
+TORVANE_API mint unary_npos_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_npos_Integer32(int32_t x);
+TORVANE_API mint unary_npos_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_npos_Integer64(int64_t x);
+TORVANE_API mint unary_npos_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_npos_Real16(uint16_t x);
+TORVANE_API mint unary_npos_Real32(float x);
+TORVANE_API mint unary_npos_Real64(double x);
+TORVANE_API mint unary_npos_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_npos_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_npos_Integer8(int8_t x);
+TORVANE_API mint checked_unary_npos_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_npos_Integer16(int16_t x);
+TORVANE_API mint checked_unary_npos_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_npos_Integer32(int32_t x);
+TORVANE_API mint checked_unary_npos_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_npos_Integer64(int64_t x);
+TORVANE_API mint checked_unary_npos_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_npos_Real16(uint16_t x);
+TORVANE_API mint checked_unary_npos_Real32(float x);
+TORVANE_API mint checked_unary_npos_Real64(double x);
+TORVANE_API mint checked_unary_npos_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_npos_ComplexReal64(double x_re, double x_im);
+
+/* nneg: x >= 0, as 1 or 0.
+ * Codes: integers no test - reals no test - complexes code 17. */
+TORVANE_API mint unary_nneg_Integer8(int8_t x);
+TORVANE_API mint unary_nneg_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_nneg_Integer16(int16_t x);
+TORVANE_API mint unary_nneg_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_nneg_Integer32(int32_t x);
+TORVANE_API mint unary_nneg_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_nneg_Integer64(int64_t x);
+TORVANE_API mint unary_nneg_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_nneg_Real16(uint16_t x);
+TORVANE_API mint unary_nneg_Real32(float x);
+TORVANE_API mint unary_nneg_Real64(double x);
+TORVANE_API mint unary_nneg_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_nneg_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_nneg_Integer8(int8_t x);
+TORVANE_API mint checked_unary_nneg_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_nneg_Integer16(int16_t x);
+TORVANE_API mint checked_unary_nneg_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_nneg_Integer32(int32_t x);
+TORVANE_API mint checked_unary_nneg_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_nneg_Integer64(int64_t x);
+TORVANE_API mint checked_unary_nneg_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_nneg_Real16(uint16_t x);
+TORVANE_API mint checked_unary_nneg_Real32(float x);
+TORVANE_API mint checked_unary_nneg_Real64(double x);
+TORVANE_API mint checked_unary_nneg_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_nneg_ComplexReal64(double x_re, double x_im);
+
+/* unitize: 1 unless x is 0.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API mint unary_unitize_Integer8(int8_t x);
+TORVANE_API mint unary_unitize_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_unitize_Integer16(int16_t x);
+TORVANE_API mint unary_unitize_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_unitize_Integer32(int32_t x);
+TORVANE_API mint unary_unitize_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_unitize_Integer64(int64_t x);
+TORVANE_API mint unary_unitize_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_unitize_Real16(uint16_t x);
+TORVANE_API mint unary_unitize_Real32(float x);
+TORVANE_API mint unary_unitize_Real64(double x);
+TORVANE_API mint unary_unitize_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_unitize_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_unitize_Integer8(int8_t x);
+TORVANE_API mint checked_unary_unitize_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_unitize_Integer16(int16_t x);
+TORVANE_API mint checked_unary_unitize_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_unitize_Integer32(int32_t x);
+TORVANE_API mint checked_unary_unitize_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_unitize_Integer64(int64_t x);
+TORVANE_API mint checked_unary_unitize_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_unitize_Real16(uint16_t x);
+TORVANE_API mint checked_unary_unitize_Real32(float x);
+TORVANE_API mint checked_unary_unitize_Real64(double x);
+TORVANE_API mint checked_unary_unitize_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_unitize_ComplexReal64(double x_re, double x_im);
+
+/* ramp: the larger of x and 0.
+ * Codes: integers no test - reals no test - complexes code 17. */
+TORVANE_API int8_t unary_ramp_Integer8(int8_t x);
+TORVANE_API uint8_t unary_ramp_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_ramp_Integer16(int16_t x);
+TORVANE_API uint16_t unary_ramp_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_ramp_Integer32(int32_t x);
+TORVANE_API uint32_t unary_ramp_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_ramp_Integer64(int64_t x);
+TORVANE_API uint64_t unary_ramp_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_ramp_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_ramp_Real32(float x);
+TORVANE_API double unary_ramp_Real64(double x);
+TORVANE_API float *unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_ramp_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_ramp_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_ramp_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_ramp_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_ramp_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_ramp_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_ramp_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_ramp_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_ramp_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_ramp_Real32(float x);
+TORVANE_API double checked_unary_ramp_Real64(double x);
+TORVANE_API float *checked_unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* evenq: 1 for an even x, else 0.
+ * Codes: integers no test - reals code 17 - complexes code 17. */
+TORVANE_API mint unary_evenq_Integer8(int8_t x);
+TORVANE_API mint unary_evenq_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_evenq_Integer16(int16_t x);
+TORVANE_API mint unary_evenq_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_evenq_Integer32(int32_t x);
+TORVANE_API mint unary_evenq_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_evenq_Integer64(int64_t x);
+TORVANE_API mint unary_evenq_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_evenq_Real16(uint16_t x);
+TORVANE_API mint unary_evenq_Real32(float x);
+TORVANE_API mint unary_evenq_Real64(double x);
+TORVANE_API mint unary_evenq_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_evenq_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_evenq_Integer8(int8_t x);
+TORVANE_API mint checked_unary_evenq_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_evenq_Integer16(int16_t x);
+TORVANE_API mint checked_unary_evenq_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_evenq_Integer32(int32_t x);
+TORVANE_API mint checked_unary_evenq_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_evenq_Integer64(int64_t x);
+TORVANE_API mint checked_unary_evenq_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_evenq_Real16(uint16_t x);
+TORVANE_API mint checked_unary_evenq_Real32(float x);
+TORVANE_API mint checked_unary_evenq_Real64(double x);
+TORVANE_API mint checked_unary_evenq_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_evenq_ComplexReal64(double x_re, double x_im);
+
+/* oddq: 1 for an odd x, else 0.
+ * Codes: integers no test - reals code 17 - complexes code 17. */
+TORVANE_API mint unary_oddq_Integer8(int8_t x);
+TORVANE_API mint unary_oddq_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_oddq_Integer16(int16_t x);
+TORVANE_API mint unary_oddq_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_oddq_Integer32(int32_t x);
+TORVANE_API mint unary_oddq_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_oddq_Integer64(int64_t x);
+TORVANE_API mint unary_oddq_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_oddq_Real16(uint16_t x);
+TORVANE_API mint unary_oddq_Real32(float x);
+TORVANE_API mint unary_oddq_Real64(double x);
+TORVANE_API mint unary_oddq_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_oddq_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_oddq_Integer8(int8_t x);
+TORVANE_API mint checked_unary_oddq_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_oddq_Integer16(int16_t x);
+TORVANE_API mint checked_unary_oddq_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_oddq_Integer32(int32_t x);
+TORVANE_API mint checked_unary_oddq_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_oddq_Integer64(int64_t x);
+TORVANE_API mint checked_unary_oddq_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_oddq_Real16(uint16_t x);
+TORVANE_API mint checked_unary_oddq_Real32(float x);
+TORVANE_API mint checked_unary_oddq_Real64(double x);
+TORVANE_API mint checked_unary_oddq_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_oddq_ComplexReal64(double x_re, double x_im);
+
+/* bit_not: the bitwise complement.
+ * Codes: signed integers checked 1 - unsigned no test - reals code 17 - complexes code 17. */
+TORVANE_API int8_t unary_bit_not_Integer8(int8_t x);
+TORVANE_API uint8_t unary_bit_not_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_bit_not_Integer16(int16_t x);
+TORVANE_API uint16_t unary_bit_not_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_bit_not_Integer32(int32_t x);
+TORVANE_API uint32_t unary_bit_not_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_bit_not_Integer64(int64_t x);
+TORVANE_API uint64_t unary_bit_not_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_bit_not_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_bit_not_Real32(float x);
+TORVANE_API double unary_bit_not_Real64(double x);
+TORVANE_API float *unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_bit_not_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_bit_not_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_bit_not_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_bit_not_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_bit_not_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_bit_not_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_bit_not_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_bit_not_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_bit_not_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_bit_not_Real32(float x);
+TORVANE_API double checked_unary_bit_not_Real64(double x);
+TORVANE_API float *checked_unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* bit_length: the bits that x needs; of a negative x, those of its complement.
+ * Codes: integers no test - reals code 17 - complexes code 17. */
+TORVANE_API mint unary_bit_length_Integer8(int8_t x);
+TORVANE_API mint unary_bit_length_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_bit_length_Integer16(int16_t x);
+TORVANE_API mint unary_bit_length_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_bit_length_Integer32(int32_t x);
+TORVANE_API mint unary_bit_length_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_bit_length_Integer64(int64_t x);
+TORVANE_API mint unary_bit_length_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_bit_length_Real16(uint16_t x);
+TORVANE_API mint unary_bit_length_Real32(float x);
+TORVANE_API mint unary_bit_length_Real64(double x);
+TORVANE_API mint unary_bit_length_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_bit_length_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_bit_length_Integer8(int8_t x);
+TORVANE_API mint checked_unary_bit_length_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_bit_length_Integer16(int16_t x);
+TORVANE_API mint checked_unary_bit_length_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_bit_length_Integer32(int32_t x);
+TORVANE_API mint checked_unary_bit_length_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_bit_length_Integer64(int64_t x);
+TORVANE_API mint checked_unary_bit_length_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_bit_length_Real16(uint16_t x);
+TORVANE_API mint checked_unary_bit_length_Real32(float x);
+TORVANE_API mint checked_unary_bit_length_Real64(double x);
+TORVANE_API mint checked_unary_bit_length_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_bit_length_ComplexReal64(double x_re, double x_im);
+
+/* bit_count: the number of 1 bits.
+ * Codes: integers no test - reals code 17 - complexes code 17. */
+TORVANE_API mint unary_bit_count_Integer8(int8_t x);
+TORVANE_API mint unary_bit_count_UnsignedInteger8(uint8_t x);
+TORVANE_API mint unary_bit_count_Integer16(int16_t x);
+TORVANE_API mint unary_bit_count_UnsignedInteger16(uint16_t x);
+TORVANE_API mint unary_bit_count_Integer32(int32_t x);
+TORVANE_API mint unary_bit_count_UnsignedInteger32(uint32_t x);
+TORVANE_API mint unary_bit_count_Integer64(int64_t x);
+TORVANE_API mint unary_bit_count_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_bit_count_Real16(uint16_t x);
+TORVANE_API mint unary_bit_count_Real32(float x);
+TORVANE_API mint unary_bit_count_Real64(double x);
+TORVANE_API mint unary_bit_count_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint unary_bit_count_ComplexReal64(double x_re, double x_im);
+TORVANE_API mint checked_unary_bit_count_Integer8(int8_t x);
+TORVANE_API mint checked_unary_bit_count_UnsignedInteger8(uint8_t x);
+TORVANE_API mint checked_unary_bit_count_Integer16(int16_t x);
+TORVANE_API mint checked_unary_bit_count_UnsignedInteger16(uint16_t x);
+TORVANE_API mint checked_unary_bit_count_Integer32(int32_t x);
+TORVANE_API mint checked_unary_bit_count_UnsignedInteger32(uint32_t x);
+TORVANE_API mint checked_unary_bit_count_Integer64(int64_t x);
+TORVANE_API mint checked_unary_bit_count_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_bit_count_Real16(uint16_t x);
+TORVANE_API mint checked_unary_bit_count_Real32(float x);
+TORVANE_API mint checked_unary_bit_count_Real64(double x);
+TORVANE_API mint checked_unary_bit_count_ComplexReal32(float x_re, float x_im);
+TORVANE_API mint checked_unary_bit_count_ComplexReal64(double x_re, double x_im);
+
 /* sqrt: the square root of x; of a complex, the root in the right half plane.
  * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
 TORVANE_API int8_t unary_sqrt_Integer8(int8_t x);
@@ -131,6 +769,35 @@ TORVANE_API float checked_unary_sqrt_Real32(float x);
 TORVANE_API double checked_unary_sqrt_Real64(double x);
 TORVANE_API float *checked_unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im);
 TORVANE_API double *checked_unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* round: x rounded to the nearest integer, ties to even.
+ * Codes: integers no test - reals 1 - complexes code 17. */
+TORVANE_API int8_t unary_round_Integer8(int8_t x);
+TORVANE_API uint8_t unary_round_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_round_Integer16(int16_t x);
+TORVANE_API uint16_t unary_round_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_round_Integer32(int32_t x);
+TORVANE_API uint32_t unary_round_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_round_Integer64(int64_t x);
+TORVANE_API uint64_t unary_round_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_round_Real16(uint16_t x);
+TORVANE_API mint unary_round_Real32(float x);
+TORVANE_API mint unary_round_Real64(double x);
+TORVANE_API float *unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_round_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_round_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_round_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_round_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_round_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_round_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_round_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_round_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_round_Real16(uint16_t x);
+TORVANE_API mint checked_unary_round_Real32(float x);
+TORVANE_API mint checked_unary_round_Real64(double x);
+TORVANE_API float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im);
 
 /* plus: x + y.
  * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
@@ -266,6 +933,519 @@ TORVANE_API double *checked_binary_divide_ComplexReal64_ComplexReal64(double *re
                                                                       double x_im, double y_re,
                                                                       double y_im);
 
+/* fpexception: 0; checked, a test of x and then y.
+ * Codes: integers no test - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API mint binary_fpexception_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API mint binary_fpexception_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API mint binary_fpexception_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API mint binary_fpexception_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API mint binary_fpexception_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API mint binary_fpexception_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API mint binary_fpexception_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API mint binary_fpexception_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API mint binary_fpexception_Real16_Real16(uint16_t x, uint16_t y);
+TORVANE_API mint binary_fpexception_Real32_Real32(float x, float y);
+TORVANE_API mint binary_fpexception_Real64_Real64(double x, double y);
+TORVANE_API mint binary_fpexception_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re,
+                                                                float y_im);
+TORVANE_API mint binary_fpexception_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re,
+                                                                double y_im);
+TORVANE_API mint checked_binary_fpexception_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API mint checked_binary_fpexception_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API mint checked_binary_fpexception_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API mint checked_binary_fpexception_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API mint checked_binary_fpexception_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API mint checked_binary_fpexception_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API mint checked_binary_fpexception_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API mint checked_binary_fpexception_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API mint checked_binary_fpexception_Real16_Real16(uint16_t x, uint16_t y);
+TORVANE_API mint checked_binary_fpexception_Real32_Real32(float x, float y);
+TORVANE_API mint checked_binary_fpexception_Real64_Real64(double x, double y);
+TORVANE_API mint checked_binary_fpexception_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re,
+                                                                        float y_im);
+TORVANE_API mint checked_binary_fpexception_ComplexReal64_ComplexReal64(double x_re, double x_im,
+                                                                        double y_re, double y_im);
+
+/* max: the larger of x and y.
+ * Codes: signed integers checked 1 - unsigned no test - reals no test - complexes code 17. */
+TORVANE_API int8_t binary_max_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_max_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_max_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_max_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_max_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_max_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_max_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_max_Real32_Real32(float x, float y);
+TORVANE_API double binary_max_Real64_Real64(double x, double y);
+TORVANE_API float *binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im);
+TORVANE_API double *binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_max_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_max_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_max_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_max_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_max_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_max_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_max_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_max_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_max_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im);
+
+/* min: the smaller of x and y.
+ * Codes: signed integers checked 1 - unsigned no test - reals no test - complexes code 17. */
+TORVANE_API int8_t binary_min_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_min_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_min_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_min_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_min_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_min_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_min_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_min_Real32_Real32(float x, float y);
+TORVANE_API double binary_min_Real64_Real64(double x, double y);
+TORVANE_API float *binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im);
+TORVANE_API double *binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_min_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_min_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_min_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_min_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_min_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_min_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_min_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_min_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_min_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im);
+
+/* chop: x, or 0 where abs x is below the tolerance y.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes code 17. */
+TORVANE_API int8_t binary_chop_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_chop_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_chop_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_chop_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_chop_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_chop_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_chop_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_chop_Real32_Real32(float x, float y);
+TORVANE_API double binary_chop_Real64_Real64(double x, double y);
+TORVANE_API float *binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                           float y_re, float y_im);
+TORVANE_API double *binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                            double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_chop_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_chop_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_chop_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_chop_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_chop_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_chop_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_chop_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_chop_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_chop_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                   float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                    double x_im, double y_re, double y_im);
+
+/* abserr: abs(x - y).
+ * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t binary_abserr_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_abserr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_abserr_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_abserr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_abserr_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_abserr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_abserr_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_abserr_Real32_Real32(float x, float y);
+TORVANE_API double binary_abserr_Real64_Real64(double x, double y);
+TORVANE_API float *binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im);
+TORVANE_API double *binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_abserr_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_abserr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_abserr_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_abserr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_abserr_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_abserr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_abserr_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_abserr_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_abserr_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+
+/* relerr: abs((x - y) / y).
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t binary_relerr_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_relerr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_relerr_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_relerr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_relerr_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_relerr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_relerr_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_relerr_Real32_Real32(float x, float y);
+TORVANE_API double binary_relerr_Real64_Real64(double x, double y);
+TORVANE_API float *binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im);
+TORVANE_API double *binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_relerr_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_relerr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_relerr_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_relerr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_relerr_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_relerr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_relerr_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_relerr_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_relerr_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+
+/* maxabs: the larger of abs x and abs y.
+ * Codes: signed integers checked 1 - unsigned no test - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t binary_maxabs_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_maxabs_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_maxabs_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_maxabs_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_maxabs_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_maxabs_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_maxabs_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_maxabs_Real32_Real32(float x, float y);
+TORVANE_API double binary_maxabs_Real64_Real64(double x, double y);
+TORVANE_API float *binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im);
+TORVANE_API double *binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_maxabs_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_maxabs_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_maxabs_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_maxabs_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_maxabs_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_maxabs_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_maxabs_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_maxabs_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_maxabs_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+
+/* unitize: 1 where abs x is at least the tolerance y, else 0.
+ * Codes: signed integers 14; checked 1 - unsigned 14 - reals 14; checked 6, 9 - complexes code 17. */
+TORVANE_API mint binary_unitize_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API mint binary_unitize_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API mint binary_unitize_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API mint binary_unitize_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API mint binary_unitize_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API mint binary_unitize_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API mint binary_unitize_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API mint binary_unitize_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API mint binary_unitize_Real16_Real16(uint16_t x, uint16_t y);
+TORVANE_API mint binary_unitize_Real32_Real32(float x, float y);
+TORVANE_API mint binary_unitize_Real64_Real64(double x, double y);
+TORVANE_API mint binary_unitize_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re, float y_im);
+TORVANE_API mint binary_unitize_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re,
+                                                            double y_im);
+TORVANE_API mint checked_binary_unitize_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API mint checked_binary_unitize_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API mint checked_binary_unitize_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API mint checked_binary_unitize_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API mint checked_binary_unitize_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API mint checked_binary_unitize_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API mint checked_binary_unitize_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API mint checked_binary_unitize_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API mint checked_binary_unitize_Real16_Real16(uint16_t x, uint16_t y);
+TORVANE_API mint checked_binary_unitize_Real32_Real32(float x, float y);
+TORVANE_API mint checked_binary_unitize_Real64_Real64(double x, double y);
+TORVANE_API mint checked_binary_unitize_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re,
+                                                                    float y_im);
+TORVANE_API mint checked_binary_unitize_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re,
+                                                                    double y_im);
+
+/* bit_and: the bitwise and.
+ * Codes: signed integers checked 1 - unsigned no test - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_bit_and_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_bit_and_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_bit_and_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_bit_and_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_bit_and_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_bit_and_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_bit_and_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_bit_and_Real32_Real32(float x, float y);
+TORVANE_API double binary_bit_and_Real64_Real64(double x, double y);
+TORVANE_API float *binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                              float y_re, float y_im);
+TORVANE_API double *binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                               double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_bit_and_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_bit_and_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_bit_and_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_bit_and_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_bit_and_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_bit_and_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_bit_and_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_bit_and_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_bit_and_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                      float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                       double x_im, double y_re,
+                                                                       double y_im);
+
+/* bit_or: the bitwise or.
+ * Codes: signed integers checked 1 - unsigned no test - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_bit_or_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_bit_or_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_bit_or_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_bit_or_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_bit_or_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_bit_or_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_bit_or_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_bit_or_Real32_Real32(float x, float y);
+TORVANE_API double binary_bit_or_Real64_Real64(double x, double y);
+TORVANE_API float *binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im);
+TORVANE_API double *binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_bit_or_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_bit_or_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_bit_or_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_bit_or_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_bit_or_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_bit_or_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_bit_or_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_bit_or_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_bit_or_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+
+/* bit_xor: the bitwise exclusive or.
+ * Codes: signed integers checked 1 - unsigned no test - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_bit_xor_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_bit_xor_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_bit_xor_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_bit_xor_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_bit_xor_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_bit_xor_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_bit_xor_Real32_Real32(float x, float y);
+TORVANE_API double binary_bit_xor_Real64_Real64(double x, double y);
+TORVANE_API float *binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                              float y_re, float y_im);
+TORVANE_API double *binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                               double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_bit_xor_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_bit_xor_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_bit_xor_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_bit_xor_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_bit_xor_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_bit_xor_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_bit_xor_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_bit_xor_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                      float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                       double x_im, double y_re,
+                                                                       double y_im);
+
+/* intexp: the exponent of the highest power of y that divides x.
+ * Codes: signed integers 14; checked 1 - unsigned 14 - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_intexp_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_intexp_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_intexp_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_intexp_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_intexp_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_intexp_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_intexp_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_intexp_Real32_Real32(float x, float y);
+TORVANE_API double binary_intexp_Real64_Real64(double x, double y);
+TORVANE_API float *binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im);
+TORVANE_API double *binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_intexp_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_intexp_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_intexp_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_intexp_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_intexp_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_intexp_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_intexp_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_intexp_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_intexp_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+
+/* intlen: the number of digits of x in base y.
+ * Codes: signed integers 14; checked 1 - unsigned 14 - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_intlen_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_intlen_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_intlen_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_intlen_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_intlen_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_intlen_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_intlen_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_intlen_Real32_Real32(float x, float y);
+TORVANE_API double binary_intlen_Real64_Real64(double x, double y);
+TORVANE_API float *binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im);
+TORVANE_API double *binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_intlen_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_intlen_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_intlen_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_intlen_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_intlen_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_intlen_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_intlen_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_intlen_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_intlen_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+
+/* bit_shiftleft: the magnitude of x times 2 to the power y, truncated, with the sign of x.
+ * Codes: signed integers 14; checked 1 - unsigned code 17 - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_bit_shiftleft_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_bit_shiftleft_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_bit_shiftleft_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_bit_shiftleft_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_bit_shiftleft_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_bit_shiftleft_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_bit_shiftleft_Real32_Real32(float x, float y);
+TORVANE_API double binary_bit_shiftleft_Real64_Real64(double x, double y);
+TORVANE_API float *binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                    float x_im, float y_re, float y_im);
+TORVANE_API double *binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                     double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_bit_shiftleft_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_bit_shiftleft_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_bit_shiftleft_UnsignedInteger16_UnsignedInteger16(uint16_t x,
+                                                                                      uint16_t y);
+TORVANE_API int32_t checked_binary_bit_shiftleft_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_bit_shiftleft_UnsignedInteger32_UnsignedInteger32(uint32_t x,
+                                                                                      uint32_t y);
+TORVANE_API int64_t checked_binary_bit_shiftleft_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64_t x,
+                                                                                      uint64_t y);
+TORVANE_API uint16_t *checked_binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_bit_shiftleft_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_bit_shiftleft_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                            float x_re, float x_im,
+                                                                            float y_re, float y_im);
+TORVANE_API double *checked_binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                             double x_re, double x_im,
+                                                                             double y_re, double y_im);
+
+/* bit_shiftright: the magnitude of x divided by 2 to the power y, truncated, with the sign of x.
+ * Codes: signed integers 14; checked 1 - unsigned code 17 - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_bit_shiftright_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_bit_shiftright_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_bit_shiftright_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_bit_shiftright_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_bit_shiftright_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_bit_shiftright_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_bit_shiftright_Real32_Real32(float x, float y);
+TORVANE_API double binary_bit_shiftright_Real64_Real64(double x, double y);
+TORVANE_API float *binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                     float x_im, float y_re, float y_im);
+TORVANE_API double *binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im);
+TORVANE_API int8_t checked_binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_bit_shiftright_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_bit_shiftright_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_bit_shiftright_UnsignedInteger16_UnsignedInteger16(uint16_t x,
+                                                                                       uint16_t y);
+TORVANE_API int32_t checked_binary_bit_shiftright_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_bit_shiftright_UnsignedInteger32_UnsignedInteger32(uint32_t x,
+                                                                                       uint32_t y);
+TORVANE_API int64_t checked_binary_bit_shiftright_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint64_t x,
+                                                                                       uint64_t y);
+TORVANE_API uint16_t *checked_binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_bit_shiftright_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_bit_shiftright_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                             float x_re, float x_im,
+                                                                             float y_re, float y_im);
+TORVANE_API double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                              double x_re, double x_im,
+                                                                              double y_re, double y_im);
+
 /* axpy: a * x + y.
  * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
 TORVANE_API int8_t ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
@@ -326,6 +1506,192 @@ TORVANE_API double *checked_ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal
                                                                                    double x_im,
                                                                                    double y_re,
                                                                                    double y_im);
+
+/* axmy: a * x - y.
+ * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
+TORVANE_API uint8_t ternary_axmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                    uint8_t y);
+TORVANE_API int16_t ternary_axmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y);
+TORVANE_API uint16_t ternary_axmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                        uint16_t x,
+                                                                                        uint16_t y);
+TORVANE_API int32_t ternary_axmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y);
+TORVANE_API uint32_t ternary_axmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                        uint32_t x,
+                                                                                        uint32_t y);
+TORVANE_API int64_t ternary_axmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y);
+TORVANE_API uint64_t ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                        uint64_t x,
+                                                                                        uint64_t y);
+TORVANE_API uint16_t *ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                        uint16_t y);
+TORVANE_API float ternary_axmy_Real32_Real32_Real32(float a, float x, float y);
+TORVANE_API double ternary_axmy_Real64_Real64_Real64(double a, double x, double y);
+TORVANE_API float *ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                          float a_im, float x_re,
+                                                                          float x_im, float y_re,
+                                                                          float y_im);
+TORVANE_API double *ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                           double a_re, double a_im,
+                                                                           double x_re, double x_im,
+                                                                           double y_re, double y_im);
+TORVANE_API int8_t checked_ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
+TORVANE_API uint8_t checked_ternary_axmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                            uint8_t x,
+                                                                                            uint8_t y);
+TORVANE_API int16_t checked_ternary_axmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y);
+TORVANE_API uint16_t checked_ternary_axmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                                uint16_t x,
+                                                                                                uint16_t y);
+TORVANE_API int32_t checked_ternary_axmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y);
+TORVANE_API uint32_t checked_ternary_axmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                                uint32_t x,
+                                                                                                uint32_t y);
+TORVANE_API int64_t checked_ternary_axmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y);
+TORVANE_API uint64_t checked_ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                                uint64_t x,
+                                                                                                uint64_t y);
+TORVANE_API uint16_t *checked_ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                                uint16_t y);
+TORVANE_API float checked_ternary_axmy_Real32_Real32_Real32(float a, float x, float y);
+TORVANE_API double checked_ternary_axmy_Real64_Real64_Real64(double a, double x, double y);
+TORVANE_API float *checked_ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                                  float a_re, float a_im,
+                                                                                  float x_re, float x_im,
+                                                                                  float y_re, float y_im);
+TORVANE_API double *checked_ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                                   double a_re,
+                                                                                   double a_im,
+                                                                                   double x_re,
+                                                                                   double x_im,
+                                                                                   double y_re,
+                                                                                   double y_im);
+
+/* ymax: y - a * x.
+ * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
+TORVANE_API uint8_t ternary_ymax_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                    uint8_t y);
+TORVANE_API int16_t ternary_ymax_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y);
+TORVANE_API uint16_t ternary_ymax_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                        uint16_t x,
+                                                                                        uint16_t y);
+TORVANE_API int32_t ternary_ymax_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y);
+TORVANE_API uint32_t ternary_ymax_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                        uint32_t x,
+                                                                                        uint32_t y);
+TORVANE_API int64_t ternary_ymax_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y);
+TORVANE_API uint64_t ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                        uint64_t x,
+                                                                                        uint64_t y);
+TORVANE_API uint16_t *ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                        uint16_t y);
+TORVANE_API float ternary_ymax_Real32_Real32_Real32(float a, float x, float y);
+TORVANE_API double ternary_ymax_Real64_Real64_Real64(double a, double x, double y);
+TORVANE_API float *ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                          float a_im, float x_re,
+                                                                          float x_im, float y_re,
+                                                                          float y_im);
+TORVANE_API double *ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                           double a_re, double a_im,
+                                                                           double x_re, double x_im,
+                                                                           double y_re, double y_im);
+TORVANE_API int8_t checked_ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
+TORVANE_API uint8_t checked_ternary_ymax_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                            uint8_t x,
+                                                                                            uint8_t y);
+TORVANE_API int16_t checked_ternary_ymax_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y);
+TORVANE_API uint16_t checked_ternary_ymax_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                                uint16_t x,
+                                                                                                uint16_t y);
+TORVANE_API int32_t checked_ternary_ymax_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y);
+TORVANE_API uint32_t checked_ternary_ymax_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                                uint32_t x,
+                                                                                                uint32_t y);
+TORVANE_API int64_t checked_ternary_ymax_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y);
+TORVANE_API uint64_t checked_ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                                uint64_t x,
+                                                                                                uint64_t y);
+TORVANE_API uint16_t *checked_ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                                uint16_t y);
+TORVANE_API float checked_ternary_ymax_Real32_Real32_Real32(float a, float x, float y);
+TORVANE_API double checked_ternary_ymax_Real64_Real64_Real64(double a, double x, double y);
+TORVANE_API float *checked_ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                                  float a_re, float a_im,
+                                                                                  float x_re, float x_im,
+                                                                                  float y_re, float y_im);
+TORVANE_API double *checked_ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                                   double a_re,
+                                                                                   double a_im,
+                                                                                   double x_re,
+                                                                                   double x_im,
+                                                                                   double y_re,
+                                                                                   double y_im);
+
+/* adxmy: a / (x - y).
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
+TORVANE_API uint8_t ternary_adxmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                     uint8_t y);
+TORVANE_API int16_t ternary_adxmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y);
+TORVANE_API uint16_t ternary_adxmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                         uint16_t x,
+                                                                                         uint16_t y);
+TORVANE_API int32_t ternary_adxmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y);
+TORVANE_API uint32_t ternary_adxmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                         uint32_t x,
+                                                                                         uint32_t y);
+TORVANE_API int64_t ternary_adxmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y);
+TORVANE_API uint64_t ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                         uint64_t x,
+                                                                                         uint64_t y);
+TORVANE_API uint16_t *ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                         uint16_t y);
+TORVANE_API float ternary_adxmy_Real32_Real32_Real32(float a, float x, float y);
+TORVANE_API double ternary_adxmy_Real64_Real64_Real64(double a, double x, double y);
+TORVANE_API float *ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                           float a_re, float a_im,
+                                                                           float x_re, float x_im,
+                                                                           float y_re, float y_im);
+TORVANE_API double *ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                            double a_re, double a_im,
+                                                                            double x_re, double x_im,
+                                                                            double y_re, double y_im);
+TORVANE_API int8_t checked_ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y);
+TORVANE_API uint8_t checked_ternary_adxmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                             uint8_t x,
+                                                                                             uint8_t y);
+TORVANE_API int16_t checked_ternary_adxmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y);
+TORVANE_API uint16_t checked_ternary_adxmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(
+                                                                                                 uint16_t a,
+                                                                                                 uint16_t x,
+                                                                                                 uint16_t y);
+TORVANE_API int32_t checked_ternary_adxmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y);
+TORVANE_API uint32_t checked_ternary_adxmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(
+                                                                                                 uint32_t a,
+                                                                                                 uint32_t x,
+                                                                                                 uint32_t y);
+TORVANE_API int64_t checked_ternary_adxmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y);
+TORVANE_API uint64_t checked_ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(
+                                                                                                 uint64_t a,
+                                                                                                 uint64_t x,
+                                                                                                 uint64_t y);
+TORVANE_API uint16_t *checked_ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                                 uint16_t y);
+TORVANE_API float checked_ternary_adxmy_Real32_Real32_Real32(float a, float x, float y);
+TORVANE_API double checked_ternary_adxmy_Real64_Real64_Real64(double a, double x, double y);
+TORVANE_API float *checked_ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                                   float a_re, float a_im,
+                                                                                   float x_re, float x_im,
+                                                                                   float y_re, float y_im);
+TORVANE_API double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                                    double a_re,
+                                                                                    double a_im,
+                                                                                    double x_re,
+                                                                                    double x_im,
+                                                                                    double y_re,
+                                                                                    double y_im);
 
 TORVANE_END_DECLARATIONS
 

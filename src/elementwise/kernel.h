@@ -32,6 +32,9 @@ template <class T> constexpr T convertTo(mreal x) requires(isComplex<T>) { retur
 template <class T> inline constexpr int kRank = isInteger<T> ? 0 : isReal<T> ? 1 : 2;
 template <class X, class Y> using WiderOf = ChooseOf<(kRank<X> < kRank<Y>), Y, X>;
 
+template <class T, class... Rest> struct First { using Type = T; };
+template <class... T> using FirstOf = typename First<T...>::Type;
+
 // Element k of an operand at a stride.
 template <class X> struct Walk {
   const X *data;
@@ -39,12 +42,28 @@ template <class X> struct Walk {
   X at(mint k) const { return data[ptrdiff_t{k} * stride]; }
 };
 
+// Operators whose second operand keeps its own kind: powers, shifts, tolerances.
+template <class Op> inline constexpr bool hasSeparateOperands = requires { requires Op::separateOperands; };
+
+// One element as the loops compute it. A functor's `element` is the routine's own form, where it does what
+// the typed entry of the kind does not.
+template <class Op, class Form, class T, class... X> constexpr auto computeElement(error &code, X... x) {
+  if constexpr (requires { Op::template element<Form>(code, x...); })
+    return Op::template element<Form>(code, x...);
+  else if constexpr (hasSeparateOperands<Op>)
+    return compute<Op, Form>(code, x...);
+  else if constexpr (isComplex<T> && requires { requires Op::storesRealPart; })
+    return compute<Op, Form>(code, convertTo<T>(x)...).re;
+  else
+    return compute<Op, Form>(code, convertTo<T>(x)...);
+}
+
 template <class Form, class Op, class T, class Result, class... X>
 inline __attribute__((always_inline)) mint runLoop(Result *result, mint step, mint count,
                                                    Walk<X>... operands) {
   for (mint k = 0; k < count; ++k) {
     error code = error::none;
-    const Result value = compute<Op, Form>(code, convertTo<T>(operands.at(k))...);
+    const Result value = computeElement<Op, Form, T>(code, operands.at(k)...);
     if (code != error::none) [[unlikely]]
       return k + 1;
     result[ptrdiff_t{k} * step] = value;
@@ -81,21 +100,25 @@ mint runShape(Result *result, mint count, const mint *strides, const A *a, const
 // Underflow and inexact never fail an element.
 inline constexpr int kFailingExceptions = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
 
-template <class Op, class T> constexpr bool isTestedBy(mint flags) {
-  return (flags & (isInteger<T> ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS)) != 0 &&
-         (kChecks<Op, T> & (checks::c1 | checks::c69)) != 0;
+template <class Op, class... T> constexpr bool isTestedBy(mint flags) {
+  constexpr bool ofIntegers = isInteger<CellTypeOf<Op, T...>>;
+  return (flags & (ofIntegers ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS)) != 0 &&
+         (kChecks<Op, T...> & (checks::c1 | checks::c69)) != 0;
 }
 
-template <class Op, class T, class First, class... X>
-mint runRoutine(void *result, mint count, const mint *strides, mint flags, const First *first,
+// T... are the types that the operator computes with.
+template <class Op, class... T, class Head, class... X>
+mint runRoutine(void *result, mint count, const mint *strides, mint flags, const Head *first,
                 const X *...rest) {
-  using Result = ResultOf<Op, T>;
+  using T1 = FirstOf<T...>;
+  error ignored;
+  using Result = decltype(computeElement<Op, Plain, T1>(ignored, Head{}, X{}...));
   auto *target = static_cast<Result *>(result);
-  if (!isTestedBy<Op, T>(flags)) return runShape<Plain, Op, T>(target, count, strides, first, rest...);
-  if (isInteger<T> || result == static_cast<const void *>(first))
-    return runShape<Checked, Op, T>(target, count, strides, first, rest...);
+  if (!isTestedBy<Op, T...>(flags)) return runShape<Plain, Op, T1>(target, count, strides, first, rest...);
+  if (isInteger<CellTypeOf<Op, T...>> || result == static_cast<const void *>(first))
+    return runShape<Checked, Op, T1>(target, count, strides, first, rest...);
   feclearexcept(kFailingExceptions);
-  const mint position = runShape<Plain, Op, T>(target, count, strides, first, rest...);
+  const mint position = runShape<Plain, Op, T1>(target, count, strides, first, rest...);
   if (position != 0) return position;
   return fetestexcept(kFailingExceptions) != 0 ? 1 : 0;
 }
@@ -107,15 +130,27 @@ mint unaryRoutine(void *result, const void *x, mint count, const mint *strides, 
 
 template <class Op, class X, class Y>
 mint binaryRoutine(void *result, const void *x, const void *y, mint count, const mint *strides, mint flags) {
-  return runRoutine<Op, WiderOf<X, Y>>(result, count, strides, flags, static_cast<const X *>(x),
-                                       static_cast<const Y *>(y));
+  const auto *first = static_cast<const X *>(x);
+  const auto *second = static_cast<const Y *>(y);
+  if constexpr (hasSeparateOperands<Op>)
+    return runRoutine<Op, X, Y>(result, count, strides, flags, first, second);
+  else
+    return runRoutine<Op, WiderOf<X, Y>, WiderOf<X, Y>>(result, count, strides, flags, first, second);
+}
+
+// A binary operator with a constant second operand.
+template <class Op, class X, mint operand>
+mint boundRoutine(void *result, const void *x, mint count, const mint *strides, mint flags) {
+  const X second = operand;
+  const mint withConstant[3] = {strides[0], strides[1], 0};
+  return binaryRoutine<Op, X, X>(result, x, &second, count, withConstant, flags);
 }
 
 template <class Op, class X>
 mint ternaryRoutine(void *result, const void *a, const void *x, const void *y, mint count,
                     const mint *strides, mint flags) {
-  return runRoutine<Op, X>(result, count, strides, flags, static_cast<const X *>(a),
-                           static_cast<const X *>(x), static_cast<const X *>(y));
+  return runRoutine<Op, X, X, X>(result, count, strides, flags, static_cast<const X *>(a),
+                                 static_cast<const X *>(x), static_cast<const X *>(y));
 }
 
 } // namespace torvane

@@ -116,62 +116,80 @@ constexpr PairType typeByPairRule(PairRule rule, mint k1, mint k2) {
   return both(kInteger);
 }
 
-// Rows by operator number; null where a number is reserved.
-constexpr mint kFirstBinary = 256;
-template <class Row, size_t n> struct ByNumber {
-  const Row *rows[n] = {};
-  mint first;
+// The rules of an operator number; absent where the number is reserved.
+struct UnaryRules {
+  TypeGroup group;
+  RangeRule range;
+};
+struct NumberedUnary {
+  bool isPresent = false;
+  UnaryRules rules = {};
+};
+struct NumberedPair {
+  bool isPresent = false;
+  PairRule rule = {};
+};
 
-  template <size_t count>
-  constexpr ByNumber(const Row (&table)[count], mint firstNumber) : first(firstNumber) {
-    for (const Row &row : table)
-      if (row.number != 0) rows[row.number - first] = &row; // operators without a number carry 0
+constexpr mint kUnaryNumbers = 85, kFirstBinary = 256, kBinaryNumbers = 22;
+
+struct RulesByNumber {
+  NumberedUnary unary[kUnaryNumbers];
+  NumberedPair pairs[kBinaryNumbers];
+
+  constexpr RulesByNumber() {
+    for (const auto &row : table::kUnary) enter(row);
+    for (const auto &row : table::kAliases) enter(row);
+    for (const auto &row : table::kBound) enter(row);
+    for (const BinaryRow &row : table::kBinary)
+      if (row.number != 0) pairs[row.number - kFirstBinary] = {true, row.rule};
   }
-  constexpr const Row *at(mint number) const {
-    const uint32_t index = static_cast<uint32_t>(number) - static_cast<uint32_t>(first);
-    return index < n ? rows[index] : nullptr;
+
+private:
+  // Operators without a number carry 0.
+  template <class Row> constexpr void enter(const Row &row) {
+    if (row.number != 0) unary[row.number] = {true, {row.group, row.range}};
   }
 };
-constexpr ByNumber<UnaryRow, 85> kUnaryRows(table::kUnary, 0);
-constexpr ByNumber<BinaryRow, 22> kBinaryRows(table::kBinary, kFirstBinary);
+constexpr RulesByNumber kRules;
+
+const UnaryRules *unaryRules(mint op) {
+  return op >= 0 && op < kUnaryNumbers && kRules.unary[op].isPresent ? &kRules.unary[op].rules : nullptr;
+}
+
+PairType pairTypes(mint op, mint kind1, mint kind2) {
+  if (op < kFirstBinary || op >= kFirstBinary + kBinaryNumbers) return kUndefinedPair;
+  const NumberedPair &pair = kRules.pairs[op - kFirstBinary];
+  return pair.isPresent ? typeByPairRule(pair.rule, kind1, kind2) : kUndefinedPair;
+}
 
 } // namespace
 
 // A routine stores what the plain function names; the integer identities, which need no call and so
 // have no plain type, store integers.
 mint storedKind1(mint op, mint kind) {
-  const UnaryRow *row = kUnaryRows.at(op);
-  if (row == nullptr) return kNoType;
-  const mint type = typeByGroup(row->group, kind);
+  const UnaryRules *rules = unaryRules(op);
+  if (rules == nullptr) return kNoType;
+  const mint type = typeByGroup(rules->group, kind);
   return type == kNoType ? kInteger : type;
 }
 
-mint storedKind2(mint op, mint kind1, mint kind2) {
-  const BinaryRow *row = kBinaryRows.at(op);
-  return row == nullptr ? kNoType : typeByPairRule(row->rule, kind1, kind2).plain;
-}
+mint storedKind2(mint op, mint kind1, mint kind2) { return pairTypes(op, kind1, kind2).plain; }
 
 } // namespace torvane
 
 using namespace torvane;
 
 mint ReturnType1(mint op, mint kind) {
-  const UnaryRow *row = kUnaryRows.at(op);
-  return row == nullptr ? kNoType : typeByGroup(row->group, kind);
+  const UnaryRules *rules = unaryRules(op);
+  return rules == nullptr ? kNoType : typeByGroup(rules->group, kind);
 }
 
 mint ReturnRangeType1(mint op, mint kind, mint *flag) {
   *flag = 0;
-  const UnaryRow *row = kUnaryRows.at(op);
-  return row == nullptr ? kNoRange : rangeByRule(row->range, kind, flag);
+  const UnaryRules *rules = unaryRules(op);
+  return rules == nullptr ? kNoRange : rangeByRule(rules->range, kind, flag);
 }
 
-mint ReturnType2(mint op, mint kind1, mint kind2) {
-  const BinaryRow *row = kBinaryRows.at(op);
-  return row == nullptr ? kNoType : typeByPairRule(row->rule, kind1, kind2).plain;
-}
+mint ReturnType2(mint op, mint kind1, mint kind2) { return pairTypes(op, kind1, kind2).plain; }
 
-mint ReturnRangeType2(mint op, mint kind1, mint kind2) {
-  const BinaryRow *row = kBinaryRows.at(op);
-  return row == nullptr ? kNoRange : typeByPairRule(row->rule, kind1, kind2).range;
-}
+mint ReturnRangeType2(mint op, mint kind1, mint kind2) { return pairTypes(op, kind1, kind2).range; }

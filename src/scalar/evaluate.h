@@ -45,35 +45,33 @@ template <class T> constexpr auto widened(T x) {
   else
     return x;
 }
-template <class R> constexpr auto narrowed(R x) {
-  if constexpr (isSame<R, Real32>)
+template <class Result, class R> constexpr Result narrowed(R x) {
+  if constexpr (isHalf<Result>)
     return narrow(x);
   else
     return x;
 }
 
 template <class Op, class Form, class... T> constexpr auto applyBody(error &code, T... x) {
-  if constexpr ((isHalf<T> || ...)) {
-    if constexpr (requires { Op::template pattern<Form>(code, x...); })
-      return Op::template pattern<Form>(code, x...);
-    else
-      return narrowed(Op::template apply<Form>(code, widened(x)...));
-  } else {
+  using Result = ResultOf<Op, T...>;
+  if constexpr (requires { Op::template pattern<Form>(code, x...); } && (isHalf<T> || ...))
+    return Op::template pattern<Form>(code, x...);
+  else if constexpr ((isHalf<T> || ...))
+    return narrowed<Result>(Op::template apply<Form>(code, widened(x)...));
+  else
     return Op::template apply<Form>(code, x...);
-  }
 }
 
 // The value of an operator, with all its checks; `code` tells a failure and the value is then arbitrary.
-template <class Op, class Form, class T, class... Rest>
-constexpr auto compute(error &code, T x, Rest... rest) {
-  using Result = ResultOf<Op, T>;
-  if constexpr (!isDefined<Op, T>) {
+template <class Op, class Form, class... T> constexpr auto compute(error &code, T... x) {
+  using Result = ResultOf<Op, T...>;
+  if constexpr (!isDefined<Op, T...>) {
     code = error::undefinedForType;
     return Result{};
   } else {
-    const auto result = applyBody<Op, Form>(code, x, rest...);
+    const auto result = applyBody<Op, Form>(code, x...);
     static_assert(isSame<decltype(result), const Result>, "the body's type is not the row's");
-    if constexpr (Form::checked && (kChecks<Op, T> & checks::c69) != 0)
+    if constexpr (Form::checked && (kChecks<Op, T...> & checks::c69) != 0)
       if (code == error::none) code = classify(result);
     return result;
   }

@@ -6,6 +6,8 @@
 //               by type class, error bounds in ulp for reals and (normwise) complexes, meaning.
 // A binary row: the same with the nine kind pairs as columns, one rule for both result-type functions,
 //               and the operand type pairs of the typed entries: both of one type, or all 169.
+// An alias row: a second number for a unary operator's routines, with result-type rules of its own.
+// A bound row:  a unary number and routine that is a binary operator with a constant second operand.
 #pragma once
 
 #include "../runtime/types.h"
@@ -31,10 +33,15 @@ inline constexpr Checks kRaisedByBoth = e1 | e3 | e14 | e16;
 
 // Operand kinds of vector routines, as bits: bit (type - 2), and bit 3 * (type1 - 2) + (type2 - 2).
 using Columns = uint32_t;
-namespace columns {
-inline constexpr Columns i = 1, d = 2, c = 4, id = i | d, dc = d | c, idc = i | d | c;
-inline constexpr Columns all = 0x1FF, notII = 0x1FE;
+namespace columns { // of unary, ternary and reducing operators
+inline constexpr Columns none = 0, i = 1, d = 2, c = 4, id = i | d, dc = d | c, idc = i | d | c;
 } // namespace columns
+namespace pairs { // of binary operators
+inline constexpr Columns none = 0, all = 0x1FF, ii = 1 << 0, notII = all & ~ii;
+inline constexpr Columns id = 1 << 1, di = 1 << 3, dd = 1 << 4, ci = 1 << 6, cd = 1 << 7, cc = 1 << 8;
+inline constexpr Columns equals = ii | dd | cc, noComplex = ii | id | di | dd;
+inline constexpr Columns chop = dd | cd, unitize = ii | dd | cd, shift = ii | di | ci;
+} // namespace pairs
 
 // Result type of a typed entry from its operand type T.
 enum class TypedResult {
@@ -132,6 +139,24 @@ struct BinaryRow {
   const char *meaning;
 };
 
+struct AliasRow {
+  const char *family;
+  mint number;
+  const char *typed, *vector;
+  Columns columns;
+  TypeGroup group;
+  RangeRule range;
+};
+
+struct BoundRow {
+  const char *family;
+  mint number;
+  const char *typed, *vector; // of the binary operator
+  TypeGroup group;
+  RangeRule range;
+  mint operand;
+};
+
 struct TernaryRow {
   const char *family, *typed;
   Columns columns;
@@ -158,12 +183,32 @@ inline constexpr UnaryRow kUnary[] = {
 #include "operators.def"
 };
 
-#define TORVANE_BINARY(family, number, typed, vector, kinds, rule, pairs, result, i, u, r, c, ulpR, ulpC,    \
+#define TORVANE_BINARY(family, number, typed, vector, kinds, rule, operands, result, i, u, r, c, ulpR, ulpC, \
                        meaning)                                                                              \
-  {#family,        number,         #typed,       #vector,                                                    \
-   columns::kinds, PairRule::rule, Pairs::pairs, TypedResult::result,                                        \
-   {i, u, r, c},   {ulpR, ulpC},   meaning},
+  {#family,                                                                                                  \
+   number,                                                                                                   \
+   #typed,                                                                                                   \
+   #vector,                                                                                                  \
+   torvane::pairs::kinds,                                                                                    \
+   PairRule::rule,                                                                                           \
+   Pairs::operands,                                                                                          \
+   TypedResult::result,                                                                                      \
+   {i, u, r, c},                                                                                             \
+   {ulpR, ulpC},                                                                                             \
+   meaning},
 inline constexpr BinaryRow kBinary[] = {
+#include "operators.def"
+};
+
+#define TORVANE_ALIAS(family, number, typed, vector, kinds, group, range)                                    \
+  {#family, number, #typed, #vector, columns::kinds, TypeGroup::group, RangeRule::range},
+inline constexpr AliasRow kAliases[] = {
+#include "operators.def"
+};
+
+#define TORVANE_BOUND(family, number, typed, vector, group, range, operand)                                  \
+  {#family, number, #typed, #vector, TypeGroup::group, RangeRule::range, operand},
+inline constexpr BoundRow kBound[] = {
 #include "operators.def"
 };
 

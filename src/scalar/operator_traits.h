@@ -31,7 +31,7 @@ namespace checks {
 using namespace checks;
 #define TORVANE_UNARY(family, number, typed, vector, kinds, group, range, result, i, u, r, c, ...)           \
   TORVANE_ROW(unary::typed, result, i, u, r, c)
-#define TORVANE_BINARY(family, number, typed, vector, kinds, rule, pairs, result, i, u, r, c, ...)           \
+#define TORVANE_BINARY(family, number, typed, vector, kinds, rule, operands, result, i, u, r, c, ...)        \
   TORVANE_ROW(binary::typed, result, i, u, r, c)
 #define TORVANE_TERNARY(family, typed, kinds, result, i, u, r, c, ...)                                       \
   TORVANE_ROW(ternary::typed, result, i, u, r, c)
@@ -52,16 +52,39 @@ template <class T> constexpr Checks checksFor(const ClassChecks &all) {
   return all.complex;
 }
 
-// Checks of operator Op on operand type T, the first operand's where there are several.
-template <class Op, class T> inline constexpr Checks kChecks = checksFor<T>(RowOf<Op>::checks);
-template <class Op, class T> inline constexpr bool isDefined = (kChecks<Op, T> & checks::e17) == 0;
-
 template <TypedResult rule, class T> struct TypedResultOf {
   static constexpr bool isWord = rule == TypedResult::word ||
                                  (rule == TypedResult::wordOfReal && isReal<T>) ||
                                  (rule == TypedResult::wordUnlessComplex && !isComplex<T>);
   using Type = ChooseOf<isWord, mint, ChooseOf<rule == TypedResult::realPart, RealPartOf<T>, T>>;
 };
-template <class Op, class T> using ResultOf = typename TypedResultOf<RowOf<Op>::result, T>::Type;
+
+// The type of a power: the base's for an integer exponent, else of the wider floating operand's width, and
+// complex if either operand is.
+template <class X, class Y> struct PowerType {
+  using WiderPart = ChooseOf<!isInteger<X> && (sizeof(RealPartOf<X>) > sizeof(RealPartOf<Y>)), RealPartOf<X>,
+                             RealPartOf<Y>>;
+  using Type =
+      ChooseOf<isInteger<Y>, X, ChooseOf<isComplex<X> || isComplex<Y>, Complex<WiderPart>, WiderPart>>;
+};
+
+template <TypedResult rule, class... T> struct OperatorResult;
+template <TypedResult rule, class T, class... Rest> struct OperatorResult<rule, T, Rest...> {
+  using Type = typename TypedResultOf<rule, T>::Type;
+};
+template <class X, class Y> struct OperatorResult<TypedResult::power, X, Y> {
+  using Type = typename PowerType<X, Y>::Type;
+};
+template <class Op, class... T> using ResultOf = typename OperatorResult<RowOf<Op>::result, T...>::Type;
+
+// The type whose class picks the row's cell: the first operand's, and a power's own.
+template <class Op, class T, class... Rest> struct CellType {
+  using Type = ChooseOf<RowOf<Op>::result == TypedResult::power, ResultOf<Op, T, Rest...>, T>;
+};
+template <class Op, class... T> using CellTypeOf = typename CellType<Op, T...>::Type;
+
+template <class Op, class... T>
+inline constexpr Checks kChecks = checksFor<CellTypeOf<Op, T...>>(RowOf<Op>::checks);
+template <class Op, class... T> inline constexpr bool isDefined = (kChecks<Op, T...> & checks::e17) == 0;
 
 } // namespace torvane

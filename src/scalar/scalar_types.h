@@ -33,8 +33,9 @@ static_assert(sizeof(ComplexReal64) == sizeof(mcomplex));
 // All thirteen, in the order of the exported names.
 #define TORVANE_FOR_EACH_SCALAR(X)                                                                           \
   X(Integer8)                                                                                                \
-  X(UnsignedInteger8) X(Integer16) X(UnsignedInteger16) X(Integer32) X(UnsignedInteger32) X(Integer64)       \
-      X(UnsignedInteger64) X(Real16) X(Real32) X(Real64) X(ComplexReal32) X(ComplexReal64)
+  X(UnsignedInteger8)                                                                                        \
+  X(Integer16) X(UnsignedInteger16) X(Integer32) X(UnsignedInteger32) X(Integer64) X(UnsignedInteger64)      \
+      X(Real16) X(Real32) X(Real64) X(ComplexReal32) X(ComplexReal64)
 
 enum class TypeClass { signedInteger, unsignedInteger, real, complex };
 

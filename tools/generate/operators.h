@@ -24,6 +24,8 @@ std::vector<ExportGroup> vectorRoutines();
 
 // The name of the routine in column `column` of a unary or binary row, empty where there is none.
 std::string unaryRoutineName(const torvane::UnaryRow &row, int column);
+std::string aliasRoutineName(const torvane::AliasRow &row, int column);
+std::string boundRoutineName(const torvane::BoundRow &row);
 std::string binaryRoutineName(const torvane::BinaryRow &row, int column);
 
 } // namespace generate

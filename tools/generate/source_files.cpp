@@ -86,9 +86,14 @@ void writeOperatorTables(Files &files) {
   text += "const TorvaneUnaryRoutine machfunsarray_1[85 * 3] = {\n";
   for (mint number = 0; number < 85; ++number) {
     std::vector<std::string> names(3);
-    for (const UnaryRow &row : table::kUnary)
+    const auto enter = [&](const auto &row, auto nameOf) {
       for (int column = 0; row.number == number && column < 3; ++column)
-        names[static_cast<size_t>(column)] = unaryRoutineName(row, column);
+        names[static_cast<size_t>(column)] = nameOf(row, column);
+    };
+    for (const UnaryRow &row : table::kUnary) enter(row, unaryRoutineName);
+    for (const AliasRow &row : table::kAliases) enter(row, aliasRoutineName);
+    for (const BoundRow &row : table::kBound)
+      if (row.number == number) names[0] = boundRoutineName(row);
     text += tableRow(number, names);
   }
   text += "};\n\nconst TorvaneBinaryRoutine machfunsarray_2[22 * 9] = {\n";

@@ -56,6 +56,15 @@ ExportGroup binaryGroup(const BinaryRow &row) {
   return group;
 }
 
+ExportGroup boundGroup(const BoundRow &row) {
+  const std::string operand = std::to_string(row.operand), functor = std::string("binary::") + row.typed;
+  ExportGroup group = {
+      row.family, std::string("/* ") + row.vector + " with " + operand + " as second operand. */", {}};
+  const std::string shell = "boundRoutine<" + listed({functor, kKindType[0], operand}) + ">";
+  group.exports.push_back(makeRoutine(boundRoutineName(row), shell, {"x"}));
+  return group;
+}
+
 ExportGroup ternaryGroup(const TernaryRow &row) {
   ExportGroup group = {row.family, std::string("/* ") + row.typed + ": " + row.meaning + ". */", {}};
   for (int kind = 0; kind < 3; ++kind) {
@@ -92,6 +101,13 @@ std::string unaryRoutineName(const UnaryRow &row, int column) {
   return std::string("machfunc_") + kKindLetter[column] + "_" + row.vector;
 }
 
+std::string aliasRoutineName(const AliasRow &row, int column) {
+  if ((row.columns >> column & 1) == 0) return "";
+  return std::string("machfunc_") + kKindLetter[column] + "_" + row.vector;
+}
+
+std::string boundRoutineName(const BoundRow &row) { return std::string("machfunc_i_") + row.vector; }
+
 std::string binaryRoutineName(const BinaryRow &row, int column) {
   if ((row.columns >> column & 1) == 0) return "";
   return std::string("machfunc_") + kKindLetter[column / 3] + kKindLetter[column % 3] + "_" + row.vector;
@@ -100,6 +116,7 @@ std::string binaryRoutineName(const BinaryRow &row, int column) {
 std::vector<ExportGroup> vectorRoutines() {
   std::vector<ExportGroup> groups;
   for (const UnaryRow &row : table::kUnary) groups.push_back(unaryGroup(row));
+  for (const BoundRow &row : table::kBound) groups.push_back(boundGroup(row));
   for (const BinaryRow &row : table::kBinary) groups.push_back(binaryGroup(row));
   for (const TernaryRow &row : table::kTernary) groups.push_back(ternaryGroup(row));
   for (const ReductionRow &row : table::kReductions) groups.push_back(reductionGroup(row));

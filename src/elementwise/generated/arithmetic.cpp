@@ -26,6 +26,13 @@ mint machfunc_c_square(void *result, const void *x, mint count, const mint *stri
   return unaryRoutine<unary::square, ComplexReal64>(result, x, count, strides, flags);
 }
 
+mint machfunc_d_recip(void *result, const void *x, mint count, const mint *strides, mint flags) {
+  return unaryRoutine<unary::recip, mreal>(result, x, count, strides, flags);
+}
+mint machfunc_c_recip(void *result, const void *x, mint count, const mint *strides, mint flags) {
+  return unaryRoutine<unary::recip, ComplexReal64>(result, x, count, strides, flags);
+}
+
 mint machfunc_ii_plus(void *result, const void *x, const void *y, mint count, const mint *strides,
                       mint flags) {
   return binaryRoutine<binary::plus, mint, mint>(result, x, y, count, strides, flags);
@@ -181,6 +188,41 @@ mint machfunc_ddd_axpy(void *result, const void *a, const void *x, const void *y
 mint machfunc_ccc_axpy(void *result, const void *a, const void *x, const void *y, mint count,
                        const mint *strides, mint flags) {
   return ternaryRoutine<ternary::axpy, ComplexReal64>(result, a, x, y, count, strides, flags);
+}
+
+mint machfunc_iii_axmy(void *result, const void *a, const void *x, const void *y, mint count,
+                       const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::axmy, mint>(result, a, x, y, count, strides, flags);
+}
+mint machfunc_ddd_axmy(void *result, const void *a, const void *x, const void *y, mint count,
+                       const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::axmy, mreal>(result, a, x, y, count, strides, flags);
+}
+mint machfunc_ccc_axmy(void *result, const void *a, const void *x, const void *y, mint count,
+                       const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::axmy, ComplexReal64>(result, a, x, y, count, strides, flags);
+}
+
+mint machfunc_iii_ymax(void *result, const void *a, const void *x, const void *y, mint count,
+                       const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::ymax, mint>(result, a, x, y, count, strides, flags);
+}
+mint machfunc_ddd_ymax(void *result, const void *a, const void *x, const void *y, mint count,
+                       const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::ymax, mreal>(result, a, x, y, count, strides, flags);
+}
+mint machfunc_ccc_ymax(void *result, const void *a, const void *x, const void *y, mint count,
+                       const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::ymax, ComplexReal64>(result, a, x, y, count, strides, flags);
+}
+
+mint machfunc_ddd_adxmy(void *result, const void *a, const void *x, const void *y, mint count,
+                        const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::adxmy, mreal>(result, a, x, y, count, strides, flags);
+}
+mint machfunc_ccc_adxmy(void *result, const void *a, const void *x, const void *y, mint count,
+                        const mint *strides, mint flags) {
+  return ternaryRoutine<ternary::adxmy, ComplexReal64>(result, a, x, y, count, strides, flags);
 }
 
 mint machfunc_i_total(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {

@@ -88,6 +88,16 @@ struct divide {
 
 } // namespace binary
 
+// 1 / z. An infinite part gives a signed zero in both.
+template <class R> constexpr Complex<R> reciprocal(error &code, Complex<R> z) {
+  if (__builtin_isinf(z.re) || __builtin_isinf(z.im)) {
+    const R sign = __builtin_isinf(z.re) ? R(__builtin_copysign(1.0, z.re)) : R(1);
+    return {R(0) * sign, R(__builtin_copysign(0.0, -z.im))};
+  }
+  if (z.re == 0 && z.im == 0) code = error::complexZeroDivision;
+  return code == error::none ? Complex<R>{R(1), R(0)} / z : Complex<R>{};
+}
+
 namespace unary {
 
 // The sign of a real is flipped as a bit, so that of a NaN too. An unsigned integer wraps in both forms:
@@ -110,6 +120,15 @@ struct square {
   }
 };
 
+struct recip {
+  template <class Form, class T> static T apply(error &code, T x) {
+    if constexpr (isComplex<T>)
+      return reciprocal(code, x);
+    else
+      return T(1) / x;
+  }
+};
+
 } // namespace unary
 
 namespace ternary {
@@ -126,6 +145,41 @@ struct axpy {
     } else {
       return binary::plus::apply<Form>(code, binary::times::apply<Form>(code, a, x), y);
     }
+  }
+};
+
+// a * x - y and y - a * x: the same with the signs moved. At 64 bits the product is tested by itself.
+template <class Form, bool isReversed, class T> constexpr T productDifference(error &code, T a, T x, T y) {
+  if constexpr (isInteger<T> && sizeof(T) < 8) {
+    using Exact = ChooseOf<isSigned<T>, int64_t, uint64_t>; // differences are taken in infinite precision
+    T whole = 0;
+    const Exact product = Exact(a) * Exact(x);
+    const bool lost = isReversed ? __builtin_sub_overflow(Exact(y), product, &whole)
+                                 : __builtin_sub_overflow(product, Exact(y), &whole);
+    return Form::fit(code, lost, whole);
+  } else {
+    const T product = binary::times::apply<Form>(code, a, x);
+    if (code != error::none) return product;
+    return isReversed ? binary::subtract::apply<Form>(code, y, product)
+                      : binary::subtract::apply<Form>(code, product, y);
+  }
+}
+
+struct axmy {
+  template <class Form, class T> static constexpr T apply(error &code, T a, T x, T y) {
+    return productDifference<Form, false>(code, a, x, y);
+  }
+};
+
+struct ymax {
+  template <class Form, class T> static constexpr T apply(error &code, T a, T x, T y) {
+    return productDifference<Form, true>(code, a, x, y);
+  }
+};
+
+struct adxmy {
+  template <class Form, class T> static constexpr T apply(error &code, T a, T x, T y) {
+    return binary::divide::apply<Form>(code, a, x - y);
   }
 };
 

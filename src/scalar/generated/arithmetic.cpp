@@ -162,6 +162,85 @@ double *checked_unary_square_ComplexReal64(double *re, double *im, double x_re, 
   return store(re, im, evaluate<unary::square, Checked>(ComplexReal64{x_re, x_im}));
 }
 
+int8_t unary_recip_Integer8(int8_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+uint8_t unary_recip_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+int16_t unary_recip_Integer16(int16_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+uint16_t unary_recip_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+int32_t unary_recip_Integer32(int32_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+uint32_t unary_recip_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+int64_t unary_recip_Integer64(int64_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+uint64_t unary_recip_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+uint16_t *unary_recip_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::recip, Plain>(Real16{x}));
+}
+float unary_recip_Real32(float x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+double unary_recip_Real64(double x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+float *unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal32{x_re, x_im}));
+}
+double *unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal64{x_re, x_im}));
+}
+int8_t checked_unary_recip_Integer8(int8_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+uint8_t checked_unary_recip_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+int16_t checked_unary_recip_Integer16(int16_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+uint16_t checked_unary_recip_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+int32_t checked_unary_recip_Integer32(int32_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+uint32_t checked_unary_recip_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+int64_t checked_unary_recip_Integer64(int64_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+uint64_t checked_unary_recip_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+uint16_t *checked_unary_recip_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::recip, Checked>(Real16{x}));
+}
+float checked_unary_recip_Real32(float x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+double checked_unary_recip_Real64(double x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+float *checked_unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal32{x_re, x_im}));
+}
+double *checked_unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal64{x_re, x_im}));
+}
+
 int8_t binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::plus, Plain>(x, y);
 }
@@ -587,4 +666,292 @@ double *checked_ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *r
                                                                        double x_im, double y_re,
                                                                        double y_im) {
   return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+
+int8_t ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+uint8_t ternary_axmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x, uint8_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+int16_t ternary_axmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+uint16_t ternary_axmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                            uint16_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+int32_t ternary_axmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+uint32_t ternary_axmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                            uint32_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+int64_t ternary_axmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+uint64_t ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                            uint64_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+uint16_t *ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::axmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+float ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+double ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+float *ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re, float a_im,
+                                                              float x_re, float x_im, float y_re,
+                                                              float y_im) {
+  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+double *ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                               double a_im, double x_re, double x_im,
+                                                               double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+int8_t checked_ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+uint8_t checked_ternary_axmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                uint8_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+int16_t checked_ternary_axmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+uint16_t checked_ternary_axmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                                    uint16_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+int32_t checked_ternary_axmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+uint32_t checked_ternary_axmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                                    uint32_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+int64_t checked_ternary_axmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+uint64_t checked_ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                                    uint64_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+uint16_t *checked_ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::axmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+float checked_ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+double checked_ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+float *checked_ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                      float a_im, float x_re, float x_im,
+                                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+double *checked_ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                       double a_im, double x_re,
+                                                                       double x_im, double y_re,
+                                                                       double y_im) {
+  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+
+int8_t ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+uint8_t ternary_ymax_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x, uint8_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+int16_t ternary_ymax_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+uint16_t ternary_ymax_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                            uint16_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+int32_t ternary_ymax_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+uint32_t ternary_ymax_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                            uint32_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+int64_t ternary_ymax_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+uint64_t ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                            uint64_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+uint16_t *ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::ymax, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+float ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+double ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+float *ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re, float a_im,
+                                                              float x_re, float x_im, float y_re,
+                                                              float y_im) {
+  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+double *ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                               double a_im, double x_re, double x_im,
+                                                               double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+int8_t checked_ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+uint8_t checked_ternary_ymax_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                uint8_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+int16_t checked_ternary_ymax_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+uint16_t checked_ternary_ymax_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                                    uint16_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+int32_t checked_ternary_ymax_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+uint32_t checked_ternary_ymax_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                                    uint32_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+int64_t checked_ternary_ymax_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+uint64_t checked_ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                                    uint64_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+uint16_t *checked_ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::ymax, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+float checked_ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+double checked_ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+float *checked_ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                      float a_im, float x_re, float x_im,
+                                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+double *checked_ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                       double a_im, double x_re,
+                                                                       double x_im, double y_re,
+                                                                       double y_im) {
+  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+
+int8_t ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+uint8_t ternary_adxmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x, uint8_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+int16_t ternary_adxmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+uint16_t ternary_adxmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                             uint16_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+int32_t ternary_adxmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+uint32_t ternary_adxmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                             uint32_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+int64_t ternary_adxmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+uint64_t ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                             uint64_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+uint16_t *ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::adxmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+float ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+double ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+float *ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                               float a_im, float x_re, float x_im,
+                                                               float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+double *ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                double a_im, double x_re, double x_im,
+                                                                double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+int8_t checked_ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+uint8_t checked_ternary_adxmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                 uint8_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+int16_t checked_ternary_adxmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+uint16_t checked_ternary_adxmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                     uint16_t x,
+                                                                                     uint16_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+int32_t checked_ternary_adxmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+uint32_t checked_ternary_adxmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                     uint32_t x,
+                                                                                     uint32_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+int64_t checked_ternary_adxmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+uint64_t checked_ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                     uint64_t x,
+                                                                                     uint64_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+uint16_t *checked_ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::adxmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+float checked_ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+double checked_ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+float *checked_ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                       float a_im, float x_re, float x_im,
+                                                                       float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                        double a_re, double a_im,
+                                                                        double x_re, double x_im,
+                                                                        double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
 }
