@@ -1,5 +1,5 @@
 // The memory services, as the rest of the library calls them. The exports in <torvane/memory.h> are
-// these with errorMode kFatal. The allocator behind them is in heap.cpp.
+// these with errorMode kFatal. The allocator behind them stands in the heap_ files.
 #pragma once
 
 #include "types.h"

@@ -13,6 +13,8 @@ namespace torvane {
 
 namespace {
 
+void *takeZeroed(size_t bytes) { return std::calloc(1, bytes); }
+
 void *takeAligned(size_t bytes, size_t alignment) {
   void *block = nullptr;
   return posix_memalign(&block, alignment, bytes) == 0 ? block : nullptr;
@@ -23,7 +25,7 @@ void *futexWord(std::atomic<uintptr_t> &word) { return &word; }
 
 } // namespace
 
-const ProcessHeap platformProcessHeap = {std::malloc, std::free, takeAligned, std::free};
+const ProcessHeap platformProcessHeap = {std::malloc, std::free, takeZeroed, takeAligned, std::free};
 constinit std::atomic<const ProcessHeap *> processHeap{&platformProcessHeap};
 
 // The three-state mutex of U. Drepper, "Futexes Are Tricky" (2011), section 5.

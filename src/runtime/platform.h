@@ -12,6 +12,7 @@ namespace torvane {
 struct ProcessHeap {
   void *(*take)(size_t bytes);                          // null when exhausted
   void (*give)(void *block);                            // null is ignored
+  void *(*takeZeroed)(size_t bytes);                    // all zero; null when exhausted
   void *(*takeAligned)(size_t bytes, size_t alignment); // null when exhausted
   void (*giveAligned)(void *block);
 };

@@ -25,6 +25,8 @@ void *counted(void *block) {
 
 void *take(size_t bytes) { return refuses() ? nullptr : counted(platformProcessHeap.take(bytes)); }
 
+void *takeZeroed(size_t bytes) { return refuses() ? nullptr : counted(platformProcessHeap.takeZeroed(bytes)); }
+
 void *takeAligned(size_t bytes, size_t alignment) {
   return refuses() ? nullptr : counted(platformProcessHeap.takeAligned(bytes, alignment));
 }
@@ -39,7 +41,7 @@ void giveAligned(void *block) {
   platformProcessHeap.giveAligned(block);
 }
 
-const ProcessHeap failingHeap = {take, give, takeAligned, giveAligned};
+const ProcessHeap failingHeap = {take, give, takeZeroed, takeAligned, giveAligned};
 
 void arm(int64_t k, bool andLater) {
   seen = 0;

@@ -1,0 +1,187 @@
+// The allocator beside its peers: the C library's, and mimalloc and jemalloc if they are installed. All live
+// in this one process and are called through function pointers; rounds alternate between them and the
+// median round counts. Prints nanoseconds for one operation and our ratio to the best peer.
+//
+//   bench_memory [rounds]
+#include <torvane/memory.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <functional>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+struct Allocator {
+  const char *name;
+  void *(*take)(size_t);
+  void (*give)(void *);
+};
+
+// A peer is reached through one more jump, as ours is, so that the calls cost the same.
+struct Peer {
+  void *(*take)(size_t);
+  void (*give)(void *);
+};
+Peer libc = {std::malloc, std::free}, mimalloc, jemalloc;
+
+template <Peer &peer> void *takePeer(size_t bytes) { return peer.take(bytes); }
+template <Peer &peer> void givePeer(void *block) { peer.give(block); }
+void *takeOurs(size_t bytes) { return Malloc_fun(static_cast<uint32_t>(bytes)); }
+void giveOurs(void *block) { Free_fun(block); }
+
+// Loads a peer's shared library, its names kept apart from everybody else's.
+bool loadPeer(Peer &peer, const char *library, const char *take, const char *give) {
+  void *handle = dlopen(library, RTLD_NOW | RTLD_LOCAL | RTLD_DEEPBIND);
+  if (handle == nullptr) {
+    std::printf("%s left out: %s\n", library, dlerror());
+    return false;
+  }
+  peer = {reinterpret_cast<void *(*)(size_t)>(dlsym(handle, take)),
+          reinterpret_cast<void (*)(void *)>(dlsym(handle, give))};
+  return peer.take != nullptr && peer.give != nullptr;
+}
+
+std::vector<Allocator> allocators() {
+  std::vector<Allocator> all = {{"ours", takeOurs, giveOurs}, {"glibc", takePeer<libc>, givePeer<libc>}};
+  if (loadPeer(mimalloc, "libmimalloc.so.2", "mi_malloc", "mi_free"))
+    all.push_back({"mimalloc", takePeer<mimalloc>, givePeer<mimalloc>});
+  if (loadPeer(jemalloc, "libjemalloc.so.2", "malloc", "free"))
+    all.push_back({"jemalloc", takePeer<jemalloc>, givePeer<jemalloc>});
+  return all;
+}
+
+using Clock = std::chrono::steady_clock;
+
+double nanosecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
+}
+
+void touch(void *block) { *static_cast<volatile uint64_t *>(block) = 1; }
+
+double pairs(const Allocator &a, size_t bytes) {
+  constexpr int kPairs = 200000;
+  const auto start = Clock::now();
+  for (int i = 0; i < kPairs; ++i) {
+    void *block = a.take(bytes);
+    touch(block);
+    a.give(block);
+  }
+  return nanosecondsSince(start) / kPairs;
+}
+
+// Nanoseconds for an allocation and its release.
+double bursts(const Allocator &a, size_t bytes) {
+  constexpr int kBursts = 3000;
+  std::array<void *, 64> blocks;
+  const auto start = Clock::now();
+  for (int i = 0; i < kBursts; ++i) {
+    for (void *&block : blocks) touch(block = a.take(bytes));
+    for (void *block : blocks) a.give(block);
+  }
+  return nanosecondsSince(start) / (kBursts * blocks.size());
+}
+
+constexpr int kReplacements = 400000;
+
+// Blocks of 16 to 1024 bytes, small ones more often, replaced at random.
+double replaceAtRandom(const Allocator &a, uint32_t seed) {
+  std::mt19937 random(seed);
+  std::vector<std::pair<uint32_t, uint32_t>> plan(kReplacements);
+  for (auto &[slot, bytes] : plan) {
+    slot = static_cast<uint32_t>(random() % 10000);
+    bytes = 16u << (random() % 6);
+    bytes += static_cast<uint32_t>(random() % bytes);
+  }
+  std::vector<void *> blocks(10000);
+  for (void *&block : blocks) block = a.take(16 + random() % 512);
+  const auto start = Clock::now();
+  for (auto [slot, bytes] : plan) {
+    a.give(blocks[slot]);
+    touch(blocks[slot] = a.take(bytes));
+  }
+  const double elapsed = nanosecondsSince(start);
+  for (void *block : blocks) a.give(block);
+  return elapsed / kReplacements;
+}
+
+// Both threads' replacements count, so that perfect scaling halves the figure of one thread.
+double replaceOnTwoThreads(const Allocator &a) {
+  double first = 0, second = 0;
+  std::thread other([&] { second = replaceAtRandom(a, 1); });
+  first = replaceAtRandom(a, 2);
+  other.join();
+  return (first + second) / 4;
+}
+
+// One thread allocates, the other releases; blocks travel in batches of 64 through a ring.
+double handOver(const Allocator &a, size_t bytes) {
+  constexpr uint64_t kBlocks = 400000, kRing = 4096, kBatch = 64;
+  static std::array<void *, kRing> ring;
+  alignas(64) std::atomic<uint64_t> written{0};
+  alignas(64) std::atomic<uint64_t> read{0};
+  const auto start = Clock::now();
+  std::thread consumer([&] {
+    for (uint64_t i = 0; i < kBlocks; i += kBatch) {
+      while (written.load(std::memory_order_acquire) < i + kBatch) __builtin_ia32_pause();
+      for (uint64_t j = i; j < i + kBatch; ++j) a.give(ring[j % kRing]);
+      read.store(i + kBatch, std::memory_order_release);
+    }
+  });
+  for (uint64_t i = 0; i < kBlocks; i += kBatch) {
+    while (i + kBatch - read.load(std::memory_order_acquire) > kRing) __builtin_ia32_pause();
+    for (uint64_t j = i; j < i + kBatch; ++j) touch(ring[j % kRing] = a.take(bytes));
+    written.store(i + kBatch, std::memory_order_release);
+  }
+  consumer.join();
+  return nanosecondsSince(start) / kBlocks;
+}
+
+double median(std::vector<double> values) {
+  std::nth_element(values.begin(), values.begin() + static_cast<long>(values.size() / 2), values.end());
+  return values[values.size() / 2];
+}
+
+void compare(const std::string &what, const std::vector<Allocator> &all, int rounds,
+             const std::function<double(const Allocator &)> &measure) {
+  std::vector<std::vector<double>> times(all.size());
+  for (int round = 0; round < rounds; ++round)
+    for (size_t i = 0; i < all.size(); ++i) times[i].push_back(measure(all[i]));
+  double best = 1e300;
+  std::printf("%-28s", what.c_str());
+  for (size_t i = 0; i < all.size(); ++i) {
+    const double middle = median(times[i]);
+    if (i > 0) best = std::min(best, middle);
+    std::printf(" %9.2f", middle);
+  }
+  std::printf("   %.2f\n", median(times[0]) / best);
+  std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  const int rounds = argc > 1 ? std::atoi(argv[1]) : 9;
+  const auto all = allocators();
+
+  std::printf("%-28s", "ns");
+  for (const Allocator &a : all) std::printf(" %9s", a.name);
+  std::printf("   ours / best peer\n");
+  for (const size_t bytes : {16, 64, 256, 1024, 4096, 16384, 65520, 65536})
+    compare("pairs, " + std::to_string(bytes), all, rounds, [&](auto &a) { return pairs(a, bytes); });
+  for (const size_t bytes : {16, 64, 256, 1024, 4096, 16384, 65520, 65536})
+    compare("bursts of 64, " + std::to_string(bytes), all, rounds, [&](auto &a) { return bursts(a, bytes); });
+  compare("10,000 blocks at random", all, rounds, [&](auto &a) { return replaceAtRandom(a, 7); });
+  compare("the same on two threads", all, rounds, [&](auto &a) { return replaceOnTwoThreads(a); });
+  for (const size_t bytes : {16, 64, 256, 1024})
+    compare("handed over, " + std::to_string(bytes), all, rounds, [&](auto &a) { return handOver(a, bytes); });
+}

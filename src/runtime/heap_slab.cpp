@@ -1,0 +1,138 @@
+#include "heap_slab.h"
+
+#include "heap_list.h"
+#include "heap_state.h"
+#include "heap_thread.h"
+
+namespace torvane {
+
+namespace {
+
+void *takeSlabMemory(SizeClass &sizeClass) {
+  AreaCache &areas = areasOf(sizeClass.heap);
+  return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes)
+                                   : takeAlignedArea(areas, sizeClass.slabDataBytes);
+}
+
+void giveSlabMemory(SizeClass &sizeClass, void *memory) {
+  AreaCache &areas = areasOf(sizeClass.heap);
+  if (hasCellHeaders(sizeClass))
+    giveArea(areas, memory, sizeClass.slabDataBytes);
+  else
+    giveAlignedArea(areas, memory, sizeClass.slabDataBytes);
+}
+
+// All cells of the area in address order; the area's remainder stays idle.
+FreeCell *chainCells(void *memory, uint32_t cellBytes, uint32_t count) {
+  char *cell = static_cast<char *>(memory);
+  for (uint32_t i = 1; i < count; ++i, cell += cellBytes)
+    reinterpret_cast<FreeCell *>(cell)->next = reinterpret_cast<FreeCell *>(cell + cellBytes);
+  reinterpret_cast<FreeCell *>(cell)->next = nullptr;
+  return static_cast<FreeCell *>(memory);
+}
+
+bool enterSlab(const SizeClass &sizeClass, const void *memory, Slab *entry) {
+  return hasCellHeaders(sizeClass) ||
+         enterInPageMap(currentState(), memory, sizeClass.slabDataBytes, entry);
+}
+
+void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
+  slab->sizeClass = &sizeClass;
+  slab->pendingNext = slab;
+  slab->freeHead = chainCells(memory, sizeClass.objectBytes, sizeClass.objectsPerSlab);
+  slab->remoteHead = nullptr;
+  slab->memory = memory;
+  slab->freeCount = sizeClass.objectsPerSlab;
+}
+
+// Gives back a slab that is on no list.
+void releaseSlab(Slab *slab) {
+  SizeClass &sizeClass = *slab->sizeClass;
+  enterSlab(sizeClass, slab->memory, nullptr);
+  giveSlabMemory(sizeClass, slab->memory);
+  sizeClass.heap->freeBytes -= slabTotalBytes(sizeClass);
+  processHeap.load(std::memory_order_relaxed)->give(slab);
+}
+
+void takeOffPartial(Slab *slab) {
+  SizeClass &sizeClass = *slab->sizeClass;
+  unlink(sizeClass.partialSlabs, slab);
+  --sizeClass.partialCount;
+}
+
+void putOnPartial(Slab *slab) {
+  SizeClass &sizeClass = *slab->sizeClass;
+  pushFront(sizeClass.partialSlabs, slab);
+  ++sizeClass.partialCount;
+}
+
+// Counts the cells still in use as free, so that the release of the slab leaves the counters true.
+void abandonCells(Slab *slab) {
+  ThreadHeap *heap = slab->sizeClass->heap;
+  const uint32_t live = (slab->sizeClass->objectsPerSlab - slab->freeCount) * slab->sizeClass->objectBytes;
+  heap->usedBytes.subtract(live);
+  heap->freeBytes += live;
+}
+
+} // namespace
+
+Slab *newSlab(SizeClass &sizeClass) {
+  const ProcessHeap &source = *processHeap.load(std::memory_order_relaxed);
+  auto *slab = static_cast<Slab *>(source.take(sizeof(Slab)));
+  if (slab == nullptr) return nullptr;
+  void *memory = takeSlabMemory(sizeClass);
+  if (memory == nullptr || !enterSlab(sizeClass, memory, slab)) {
+    if (memory != nullptr) giveSlabMemory(sizeClass, memory);
+    source.give(slab);
+    return nullptr;
+  }
+  fillHeader(slab, sizeClass, memory);
+  putOnPartial(slab);
+  sizeClass.heap->freeBytes += slabTotalBytes(sizeClass);
+  return slab;
+}
+
+Slab *takeSpareSlab(SizeClass &sizeClass) {
+  Slab *slab = sizeClass.spareSlab;
+  if (slab == nullptr) return nullptr;
+  sizeClass.spareSlab = nullptr;
+  putOnPartial(slab);
+  return slab;
+}
+
+void retireSlab(Slab *slab) {
+  takeOffPartial(slab);
+  if (slab->sizeClass->spareSlab == nullptr)
+    slab->sizeClass->spareSlab = slab;
+  else
+    releaseSlab(slab);
+}
+
+void *moveToFull(Slab *slab, void *block) {
+  takeOffPartial(slab);
+  pushFront(slab->sizeClass->fullSlabs, slab);
+  return block;
+}
+
+void moveToPartial(Slab *slab) {
+  unlink(slab->sizeClass->fullSlabs, slab);
+  putOnPartial(slab);
+}
+
+void releaseSpareSlab(SizeClass &sizeClass) {
+  if (sizeClass.spareSlab == nullptr) return;
+  releaseSlab(sizeClass.spareSlab);
+  sizeClass.spareSlab = nullptr;
+}
+
+void releaseAllSlabs(SizeClass &sizeClass) {
+  while (sizeClass.fullSlabs != nullptr) moveToPartial(sizeClass.fullSlabs);
+  while (Slab *slab = sizeClass.partialSlabs) {
+    takeOffPartial(slab);
+    abandonCells(slab);
+    releaseSlab(slab);
+  }
+  releaseSpareSlab(sizeClass);
+}
+
+} // namespace torvane

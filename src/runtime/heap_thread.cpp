@@ -1,0 +1,138 @@
+#include "heap_thread.h"
+
+#include "heap_list.h"
+#include "heap_remote.h"
+#include "heap_slab.h"
+#include "heap_state.h"
+
+#include <new>
+
+namespace torvane {
+
+constinit thread_local ThreadHeap *threadHeap = nullptr;
+
+namespace {
+
+void initializeHeap(HeapRecords &records, const AllocatorGeometry &geometry, bool isMain) {
+  ThreadHeap &heap = records.heap;
+  heap.classes = records.classes;
+  heap.classOfSize = classOfSize.data();
+  heap.maxSmallBytes = kMaxSmallBytes;
+  heap.usedBytes.set(kHeapOwnBytes);
+  heap.peakBytes.set(kHeapOwnBytes);
+  heap.classCount = kClassCount;
+  heap.isMainHeap = isMain;
+  heap.ownerThreadId = currentThreadId();
+  records.areas.maxKeptBytes = kMaxKeptBytes;
+  for (uint32_t number = 1; number <= kClassCount; ++number) {
+    records.classes[number] = &records.sizeClasses[number];
+    initializeSizeClass(records.sizeClasses[number], &heap, number, geometry);
+  }
+}
+
+// Takes the heap off the list and gives its records back. No other thread knows the heap but through the
+// list, and who walks the list holds its lock.
+void destroyHeap(ThreadHeap *heap) {
+  AllocatorState *state = currentState();
+  state->threadListLock.enter();
+  unlink(state->threads, heap);
+  state->threadListLock.leave();
+  processHeap.load()->giveAligned(heap);
+}
+
+bool hasNoSlabs(ThreadHeap *heap) {
+  for (uint32_t number = 1; number <= kClassCount; ++number) {
+    const SizeClass &sizeClass = *heap->classes[number];
+    if (sizeClass.fullSlabs != nullptr || sizeClass.partialSlabs != nullptr || sizeClass.spareSlab != nullptr)
+      return false;
+  }
+  return true;
+}
+
+// freeBytes is 0 only without slabs, each of which counts its header; but the counter has 32 bits, and
+// where addresses have more it may have wrapped to 0, so the lists have the last word.
+bool isEmptyOrphan(ThreadHeap *heap) {
+  return heap->orphaned.load(std::memory_order_relaxed) == kOrphaned && heap->freeBytes == 0 &&
+         heap->largeBlocks == nullptr && hasNoSlabs(heap);
+}
+
+void closeClass(SizeClass &sizeClass) {
+  ThreadHeap *heap = sizeClass.heap;
+  sizeClass.lock.enter();
+  heap->largeLock.enter();
+  reclaimPending(sizeClass);
+  releaseSpareSlab(sizeClass);
+  sizeClass.lock.leave();
+  heap->largeLock.leave();
+}
+
+// The last step of an ending: from here on whoever empties the heap destroys it.
+void orphanHeap(ThreadHeap *heap) {
+  heap->largeLock.enter();
+  releaseDeferredLargeLocked(heap);
+  closeAreaCache(areasOf(heap));
+  heap->orphaned.store(kOrphaned, std::memory_order_release);
+  leaveOrphan(heap);
+}
+
+void closeHeap(ThreadHeap *heap) {
+  // Whoever sees this under a class's lock also sees all that the owner wrote without one.
+  heap->orphaned.store(kClosing, std::memory_order_release);
+  for (uint32_t number = 1; number <= kClassCount; ++number) closeClass(*heap->classes[number]);
+  orphanHeap(heap);
+}
+
+} // namespace
+
+ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain) {
+  void *memory = processHeap.load()->takeAligned(sizeof(HeapRecords), alignof(HeapRecords));
+  if (memory == nullptr) return nullptr;
+  auto *records = new (memory) HeapRecords{};
+  initializeHeap(*records, *state->geometry, isMain);
+  setThreadSlotValue(state->tlsSlot, &records->heap);
+  LockGuard guard(state->threadListLock);
+  pushFront(state->threads, &records->heap);
+  return &records->heap;
+}
+
+ThreadHeap *ensureThreadHeap() {
+  if (threadHeap != nullptr) return threadHeap;
+  AllocatorState *state = ensureState();
+  if (state == nullptr) return nullptr;
+  auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
+  return threadHeap = heap != nullptr ? heap : newThreadHeap(state, false);
+}
+
+void endThreadHeap() {
+  AllocatorState *state = currentState();
+  if (state == nullptr) return;
+  auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
+  threadHeap = nullptr;
+  setThreadSlotValue(state->tlsSlot, nullptr);
+  if (heap != nullptr) closeHeap(heap);
+}
+
+void endHeapOfSlot(void *heap) {
+  threadHeap = nullptr;
+  closeHeap(static_cast<ThreadHeap *>(heap));
+}
+
+void leaveOrphan(ThreadHeap *heap) {
+  const bool empty = isEmptyOrphan(heap);
+  heap->largeLock.leave();
+  if (empty) destroyHeap(heap);
+}
+
+void dropHeap(ThreadHeap *heap) {
+  for (uint32_t number = 1; number <= kClassCount; ++number) {
+    SizeClass &sizeClass = *heap->classes[number];
+    LockGuard guard(sizeClass.lock);
+    reclaimPending(sizeClass);
+    releaseAllSlabs(sizeClass);
+  }
+  releaseDeferredLarge(heap);
+  while (heap->largeBlocks != nullptr) releaseLargeBlock(heap->largeBlocks);
+  orphanHeap(heap);
+}
+
+} // namespace torvane

@@ -1,0 +1,87 @@
+// A thread's heap. The thread that owns it takes from it and returns to it without a lock; other threads
+// hand blocks back through the deferred lists. With every block at home
+//     usedBytes = own records + sum of live cells (class size) + sum of large blocks (totalBytes),
+//     freeBytes = sum over slabs of slabTotalBytes - live cells * objectBytes,
+// where cells and blocks that other threads have freed stay live until the owner reclaims them.
+//
+// When the thread ends with blocks out, the heap stays behind as an orphan. From then on any thread that
+// returns a block to it works on it under the class's lock and then the heap's largeLock; the class's lock
+// is left first, so that whoever finds the heap empty under largeLock is the last to know it. While the
+// ending thread still walks its classes the heap is `closing`: others work on it, and none destroys it.
+#pragma once
+
+#include "heap_area.h"
+#include "heap_counter.h"
+#include "heap_large.h"
+#include "heap_size_class.h"
+
+namespace torvane {
+
+enum Ownership : uint32_t { kOwned = 0, kOrphaned = 1, kClosing = 2 };
+
+struct ThreadHeap {
+  ThreadHeap *prev;
+  ThreadHeap *next;
+  SizeClass **classes; // entry 0 is null
+  LargeBlock *largeBlocks;
+  std::atomic<LargeBlock *> deferredLarge; // written under largeLock, polled by the owner without it
+  const uint8_t *classOfSize;
+  Lock largeLock; // over deferredLarge and, for an orphan, everything
+  uint32_t maxSmallBytes;
+  uint32_t freeBytes;
+  ByteCounter usedBytes;
+  ByteCounter peakBytes;
+  uint32_t limitBytes; // 0: none
+  uint32_t classCount;
+  uint32_t isMainHeap;
+  std::atomic<uint32_t> orphaned; // an Ownership
+  uint32_t ownerThreadId;
+};
+static_assert(sizeof(void *) != 4 || sizeof(ThreadHeap) == 64);
+
+// A heap and everything that belongs to it, in one piece of the process heap.
+struct HeapRecords {
+  ThreadHeap heap;
+  SizeClass *classes[kClassCount + 1];
+  AreaCache areas;
+  alignas(64) SizeClass sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
+};
+
+// What a heap counts as used before it has handed out anything.
+inline constexpr uint32_t kHeapOwnBytes = static_cast<uint32_t>(
+    sizeof(ThreadHeap) + sizeof(SizeClass *) * (kClassCount + 1) + sizeof(SizeClass) * kClassCount);
+static_assert(sizeof(void *) != 4 || kHeapOwnBytes == 64 + 356 + 48 * 88);
+
+inline HeapRecords &recordsOf(ThreadHeap *heap) { return *reinterpret_cast<HeapRecords *>(heap); }
+inline AreaCache &areasOf(ThreadHeap *heap) { return recordsOf(heap).areas; }
+
+// The calling thread's heap, null before its first allocation.
+extern constinit thread_local ThreadHeap *threadHeap;
+
+// The calling thread's heap, made if it has none; null when memory is exhausted.
+ThreadHeap *ensureThreadHeap();
+
+inline void chargeBytes(ThreadHeap *heap, uint32_t bytes) {
+  const uint32_t used = heap->usedBytes.value() + bytes;
+  heap->usedBytes.set(used);
+  if (used > heap->peakBytes.value()) heap->peakBytes.set(used);
+}
+
+struct AllocatorState;
+
+// A heap for the calling thread, linked into the state's list and stored in the thread's slot; null when
+// memory is exhausted.
+ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain);
+
+// Ends the calling thread's use of its heap: destroys it, or leaves it an orphan if blocks are out. A
+// later allocation of the thread makes a new heap. The second form is the destructor of the thread's slot.
+void endThreadHeap();
+void endHeapOfSlot(void *heap);
+
+// Leaves the largeLock of a heap that others may have left empty; destroys it if it is an empty orphan.
+void leaveOrphan(ThreadHeap *heap);
+
+// Releases every block and slab, whatever is still in use, and destroys the heap. For teardown.
+void dropHeap(ThreadHeap *heap);
+
+} // namespace torvane

@@ -1,0 +1,242 @@
+// The core operations: allocate, free, reallocate. The common road of each takes no lock and no atomic
+// read-modify-write; whatever is rare stands out of line, behind a tail call.
+#include "memory.h"
+
+#include "heap_remote.h"
+#include "heap_state.h"
+#include "heap_thread.h"
+#include "hooks.h"
+
+#include <cstring>
+
+namespace torvane {
+
+namespace {
+
+constexpr uint32_t kLargeHeaderBytes = static_cast<uint32_t>(sizeof(LargeBlock));
+constexpr uint32_t kMaxSmallRequest = kMaxSmallBytes - kCellHeaderBytes;
+
+constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
+
+// What a request takes: rounded up, with the header of its kind. Less than `size` when that wrapped.
+constexpr uint32_t bytesToTake(uint32_t size) {
+  const uint32_t rounded = roundUpTo8(size);
+  if (size <= kMaxBareCellBytes) return rounded;
+  return rounded + (rounded + kCellHeaderBytes > kMaxSmallBytes ? kLargeHeaderBytes : kCellHeaderBytes);
+}
+
+uint32_t addSaturating(uint32_t a, uint32_t b) { return a + b < a ? UINT32_MAX : a + b; }
+
+// The limit hook sees the heap as it would be with the request granted.
+void callLimitHook(ThreadHeap *heap, uint32_t sum) {
+  const uint32_t used = heap->usedBytes.value();
+  heap->usedBytes.set(sum);
+  limitHook(sum);
+  heap->usedBytes.set(used);
+}
+
+// Whether the heap may hand out `bytes` more; calls the hook if not.
+bool withinLimit(ThreadHeap *heap, uint32_t bytes) {
+  const uint32_t used = heap->usedBytes.value();
+  if (heap->limitBytes == 0 || (used + bytes <= heap->limitBytes && used + bytes >= used)) return true;
+  callLimitHook(heap, addSaturating(used, bytes));
+  return false;
+}
+
+[[gnu::cold]] void *failRequest(uint32_t bytes, mint errorMode) {
+  if (errorMode == kFatal) fatalOutOfMemory();
+  if (errorMode == kReport) checkLimit(bytes);
+  return nullptr;
+}
+
+// Takes the first free cell of a slab on the partial list. `hasHeader` is known where this is called.
+[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab, bool hasHeader) {
+  FreeCell *cell = slab->freeHead;
+  const uint32_t bytes = sizeClass.objectBytes;
+  slab->freeHead = cell->next;
+  heap->freeBytes -= bytes;
+  chargeBytes(heap, bytes);
+  void *block = cell;
+  if (hasHeader) {
+    *reinterpret_cast<uintptr_t *>(cell) = reinterpret_cast<uintptr_t>(slab) + 1;
+    block = reinterpret_cast<char *>(cell) + kCellHeaderBytes;
+  }
+  if (--slab->freeCount == 0) [[unlikely]] return moveToFull(slab, block);
+  return block;
+}
+
+Slab *slabWithFreeCell(SizeClass &sizeClass) {
+  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaim(sizeClass);
+  if (sizeClass.partialSlabs != nullptr) return sizeClass.partialSlabs;
+  if (Slab *slab = takeSpareSlab(sizeClass)) return slab;
+  return newSlab(sizeClass);
+}
+
+void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
+  SizeClass &sizeClass = *heap->classes[heap->classOfSize[bytes / 8]];
+  Slab *slab = slabWithFreeCell(sizeClass);
+  if (slab == nullptr) return failRequest(sizeClass.objectBytes, errorMode);
+  return handOut(heap, sizeClass, slab, hasCellHeaders(sizeClass));
+}
+
+void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
+  void *block = takeLargeBlock(heap, bytes);
+  if (block == nullptr) return failRequest(bytes, errorMode);
+  chargeBytes(heap, bytes);
+  return block;
+}
+
+// The whole of an allocation, step by step.
+[[gnu::noinline]] void *allocateSlowly(uint32_t size, mint errorMode) {
+  if (size == 0) return nullptr;
+  ThreadHeap *heap = ensureThreadHeap();
+  const uint32_t bytes = bytesToTake(size);
+  if (heap == nullptr || bytes < size) return failRequest(size, errorMode);
+  if (!withinLimit(heap, bytes) && errorMode == kQuiet) return nullptr;
+  return bytes > heap->maxSmallBytes ? takeLarge(heap, bytes, errorMode) : takeSmall(heap, bytes, errorMode);
+}
+
+// The slab to take a cell from when nothing is unusual, else null.
+[[gnu::always_inline]] inline Slab *readySlab(const ThreadHeap *heap, SizeClass &sizeClass) {
+  if (heap->limitBytes != 0 || sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) return nullptr;
+  return sizeClass.partialSlabs != nullptr ? sizeClass.partialSlabs : takeSpareSlab(sizeClass);
+}
+
+// Size 0 finds the empty class 0, which has nothing ready.
+[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader, mint errorMode) {
+  ThreadHeap *heap = threadHeap;
+  if (heap == nullptr) [[unlikely]] return allocateSlowly(size, errorMode);
+  SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[bytes / 8]];
+  Slab *slab = readySlab(heap, sizeClass);
+  if (slab == nullptr) [[unlikely]] return allocateSlowly(size, errorMode);
+  return handOut(heap, sizeClass, slab, hasHeader);
+}
+
+[[gnu::noinline]] void settleAndReclaim(SizeClass &sizeClass, Slab *unsettled) {
+  if (unsettled != nullptr) settleSlab(unsettled);
+  reclaim(sizeClass);
+}
+
+// Puts a cell back; what its slab needs beyond that is rare.
+[[gnu::always_inline]] inline void takeBack(ThreadHeap *heap, Slab *slab, FreeCell *cell) {
+  SizeClass &sizeClass = *slab->sizeClass;
+  returnCell(heap, slab, cell);
+  const bool unsettled = isUnsettled(slab);
+  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
+    return settleAndReclaim(sizeClass, unsettled ? slab : nullptr);
+  if (unsettled) settleSlab(slab);
+}
+
+[[gnu::always_inline]] inline void freeCell(Slab *slab, FreeCell *cell) {
+  ThreadHeap *heap = slab->sizeClass->heap;
+  if (heap != threadHeap) [[unlikely]] return freeCellOfOtherThread(slab, cell);
+  takeBack(heap, slab, cell);
+}
+
+// The word in front of a block without a page-map entry. Odd: a cell, and the word less 1 is its slab.
+uintptr_t headerWord(const void *block) {
+  return *reinterpret_cast<const uintptr_t *>(static_cast<const char *>(block) - kCellHeaderBytes);
+}
+
+bool namesSlab(uintptr_t word) { return (word & 1) != 0 && word != 1; }
+
+void freeWithHeader(void *block) {
+  const uintptr_t word = headerWord(block);
+  if (!namesSlab(word)) return freeLargeBlock(largeBlockOf(block));
+  freeCell(reinterpret_cast<Slab *>(word - 1),
+           reinterpret_cast<FreeCell *>(static_cast<char *>(block) - kCellHeaderBytes));
+}
+
+void *moveBlock(void *block, uint32_t usable, uint32_t size, mint alignFlag, mint errorMode) {
+  void *moved = allocate(size, alignFlag, errorMode);
+  if (moved == nullptr) return nullptr;
+  memcpy(moved, block, usable < size ? usable : size);
+  free(block);
+  return moved;
+}
+
+} // namespace
+
+void *allocate(uint32_t size, mint, mint errorMode) {
+  if (size <= kMaxBareCellBytes) [[likely]] return takeReadyCell(size, roundUpTo8(size), false, errorMode);
+  if (size <= kMaxSmallRequest) return takeReadyCell(size, roundUpTo8(size) + kCellHeaderBytes, true, errorMode);
+  return allocateSlowly(size, errorMode);
+}
+
+void free(void *block) {
+  if (block == nullptr) return;
+  Slab *slab = slabOfAddress(currentState()->pageMap, block);
+  if (slab == nullptr) return freeWithHeader(block);
+  freeCell(slab, static_cast<FreeCell *>(block));
+}
+
+void *reallocate(void *block, uint32_t size, mint alignFlag, mint errorMode) {
+  if (block == nullptr) return allocate(size, alignFlag, errorMode);
+  if (size == 0) {
+    free(block);
+    return nullptr;
+  }
+  const uint32_t usable = blockUsableBytes(block);
+  if (usable >= size && usable - size <= size) return block;
+  return moveBlock(block, usable, size, alignFlag, errorMode);
+}
+
+void blockSizeAndOverhead(const void *block, uint32_t *size, uint32_t *overhead) {
+  const Slab *slab = slabOfAddress(currentState()->pageMap, block);
+  *overhead = 0;
+  if (slab == nullptr) {
+    const uintptr_t word = headerWord(block);
+    if (!namesSlab(word)) {
+      *size = largeBlockOf(const_cast<void *>(block))->totalBytes;
+      *overhead = kLargeHeaderBytes;
+      return;
+    }
+    slab = reinterpret_cast<const Slab *>(word - 1);
+    *overhead = kCellHeaderBytes;
+  }
+  *size = slab->sizeClass->objectBytes;
+}
+
+uint32_t blockUsableBytes(const void *block) {
+  uint32_t size, overhead;
+  blockSizeAndOverhead(block, &size, &overhead);
+  return size - overhead;
+}
+
+// Compiled code and tensors compare this figure with stored ones, so it stays as it is although `allocate`
+// takes otherwise near the borders: 65528 bytes count as a cell here and as one there, 65529 to 65535 as a
+// large block in both, but no request is taken to have a cell header unless its class is above 1024.
+uint32_t allocatedBytesFor(uint32_t request) {
+  const uint32_t rounded = roundUpTo8(request);
+  if (rounded > kMaxSmallBytes - 1) return rounded + kLargeHeaderBytes;
+  const uint32_t cell = cellBytesOfClass(classOfSize[rounded / 8]);
+  return cell > kMaxBareCellBytes ? cell + kCellHeaderBytes : cell;
+}
+
+void checkLimit(uint32_t extraBytes) {
+  const ThreadHeap *heap = threadHeap;
+  if (heap == nullptr || heap->limitBytes == 0) return;
+  const uint32_t sum = addSaturating(heap->usedBytes.value(), extraBytes);
+  if (sum > heap->limitBytes) callLimitHook(threadHeap, sum);
+}
+
+uint32_t usedBytesOfThisThread() {
+  ThreadHeap *heap = ensureThreadHeap();
+  return heap != nullptr ? heap->usedBytes.value() : 0;
+}
+
+void setLimitOfThisThread(uint32_t limit) {
+  ThreadHeap *heap = ensureThreadHeap();
+  if (heap == nullptr) fatalOutOfMemory();
+  heap->limitBytes = limit;
+}
+
+void fatalOutOfMemory() {
+  if (AllocatorState *state = currentState()) processHeap.load()->give(state->reserve.exchange(nullptr));
+  writeStandardOutput("\nNo more memory available.\nQuillon kernel has shut down.\n"
+                      "Try quitting other applications and then retry.\n");
+  sleepMilliseconds(3000);
+  endProcess(1);
+}
+
+} // namespace torvane
