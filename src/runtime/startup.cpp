@@ -1,7 +1,6 @@
 // Start-up: five stages over ten modules in one fixed order, and the teardown, in reverse.
 //
-// A module without a function here keeps its place in the order until it lands. The rows of the two tensor
-// modules stand where they do because their memory must be there first and nobody before them needs them.
+// A module without a function here keeps its place in the order until it lands.
 #include "startup.h"
 
 #include "failure.h"
