@@ -31,11 +31,11 @@ const StartupModule kStartupModules[kStartupModuleCount] = {
     {"hash and numeric constants", initializeHashConstants, nullptr},
     {"function registry", nullptr, nullptr},
     {"numeric array conversion tables", initializeElementTypeNames, tearDownElementTypeNames},
-    {"rank-zero tensors", initializeRankZeroTensors, nullptr},
+    {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
     {"sparse arrays", nullptr, nullptr},
     {"random numbers", nullptr, nullptr},
     {"parallel and vector thresholds", initializeThresholds, nullptr},
-    {"eternal tensor", initializeEternalTensor, nullptr},
+    {"eternal tensor", initializeEternalTensor, tearDownEternalTensor},
     {"abort poll", initializeAbortPoll, nullptr},
 };
 
