@@ -1,4 +1,4 @@
-// Element types: widths by tag, names by tag, and the map between a tensor's type and its tag.
+// Element types: widths by tag, and names by tag in both directions.
 #pragma once
 
 #include "types.h"

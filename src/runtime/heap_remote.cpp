@@ -47,7 +47,7 @@ void freeCellOfOrphan(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
   returnCell(heap, slab, cell);
   if (isUnsettled(slab)) settleSlab(slab);
   reclaimPending(sizeClass);
-  releaseSpareSlab(sizeClass);
+  releaseIdleSlab(sizeClass);
   sizeClass.lock.leave();
   leaveOrphan(heap);
 }

@@ -21,6 +21,7 @@ inline constexpr uint32_t kMaxBareCellBytes = 1024;
 inline constexpr uint32_t kMaxSmallBytes = 65536;
 inline constexpr uint32_t kCellHeaderBytes = 8;
 inline constexpr uint32_t kBigCellsPerSlab = 8;
+inline constexpr uint32_t kBareSlabBytes = 65536; // the area of every slab of bare cells
 
 struct SizeClass {
   ThreadHeap *heap;

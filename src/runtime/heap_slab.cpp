@@ -11,7 +11,7 @@ namespace {
 void *takeSlabMemory(SizeClass &sizeClass) {
   AreaCache &areas = areasOf(sizeClass.heap);
   return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes)
-                                   : takeAlignedArea(areas, sizeClass.slabDataBytes);
+                                   : takeAlignedArea(areas);
 }
 
 void giveSlabMemory(SizeClass &sizeClass, void *memory) {
@@ -19,7 +19,7 @@ void giveSlabMemory(SizeClass &sizeClass, void *memory) {
   if (hasCellHeaders(sizeClass))
     giveArea(areas, memory, sizeClass.slabDataBytes);
   else
-    giveAlignedArea(areas, memory, sizeClass.slabDataBytes);
+    giveAlignedArea(areas, memory);
 }
 
 // All cells of the area in address order; the area's remainder stays idle.
@@ -48,6 +48,7 @@ void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
 // Gives back a slab that is on no list.
 void releaseSlab(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
+  if (thisThread.hotSlab == slab) forgetHotSlab();
   enterSlab(sizeClass, slab->memory, nullptr);
   giveSlabMemory(sizeClass, slab->memory);
   sizeClass.heap->freeBytes -= slabTotalBytes(sizeClass);
@@ -60,8 +61,16 @@ void takeOffPartial(Slab *slab) {
   --sizeClass.partialCount;
 }
 
+bool isWhollyFree(const Slab *slab) { return slab->freeCount == slab->sizeClass->objectsPerSlab; }
+
+// An idle slab in place gives way: cells are taken from slabs in use first.
 void putOnPartial(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
+  Slab *head = sizeClass.partialSlabs;
+  if (head != nullptr && isWhollyFree(head)) {
+    takeOffPartial(head);
+    sizeClass.spareSlab = head;
+  }
   pushFront(sizeClass.partialSlabs, slab);
   ++sizeClass.partialCount;
 }
@@ -101,11 +110,14 @@ Slab *takeSpareSlab(SizeClass &sizeClass) {
 }
 
 void retireSlab(Slab *slab) {
+  SizeClass &sizeClass = *slab->sizeClass;
+  const bool hasSpare = sizeClass.spareSlab != nullptr;
+  if (!hasSpare && slab->prev == nullptr && slab->next == nullptr) return;
   takeOffPartial(slab);
-  if (slab->sizeClass->spareSlab == nullptr)
-    slab->sizeClass->spareSlab = slab;
-  else
+  if (hasSpare)
     releaseSlab(slab);
+  else
+    sizeClass.spareSlab = slab;
 }
 
 void *moveToFull(Slab *slab, void *block) {
@@ -119,7 +131,12 @@ void moveToPartial(Slab *slab) {
   putOnPartial(slab);
 }
 
-void releaseSpareSlab(SizeClass &sizeClass) {
+void releaseIdleSlab(SizeClass &sizeClass) {
+  Slab *slab = sizeClass.partialSlabs;
+  if (slab != nullptr && isWhollyFree(slab)) {
+    takeOffPartial(slab);
+    releaseSlab(slab);
+  }
   if (sizeClass.spareSlab == nullptr) return;
   releaseSlab(sizeClass.spareSlab);
   sizeClass.spareSlab = nullptr;
@@ -132,7 +149,7 @@ void releaseAllSlabs(SizeClass &sizeClass) {
     abandonCells(slab);
     releaseSlab(slab);
   }
-  releaseSpareSlab(sizeClass);
+  releaseIdleSlab(sizeClass);
 }
 
 } // namespace torvane

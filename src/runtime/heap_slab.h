@@ -2,7 +2,9 @@
 // is on its class's partial list while it has free cells, on the full list when it has none, and on
 // neither while it is the class's spare. For every slab
 //     freeCount = length(freeHead),  live = objectsPerSlab - freeCount,
-// where live cells include those that wait on remoteHead for their owner.
+// where live cells include those that wait on remoteHead for their owner. Of wholly free slabs a class keeps one, its idle slab: the spare, or,
+// where it is the only slab on the partial list, left there in place, so that a program that takes and
+// returns one cell again and again moves no links.
 #pragma once
 
 #include "heap_thread.h"
@@ -37,14 +39,16 @@ Slab *newSlab(SizeClass &sizeClass);
 // Takes the spare back onto the partial list; null when there is none.
 Slab *takeSpareSlab(SizeClass &sizeClass);
 
-// A slab on the partial list that became wholly free: it becomes the spare, or is released if there is one.
+// A slab on the partial list that became wholly free: it becomes the idle slab, or is released if
+// there is one.
 void retireSlab(Slab *slab);
 
 // A slab on the partial list whose last cell was handed out, and one on the full list that got one back.
 void *moveToFull(Slab *slab, void *block); // returns `block`, so that it can be a tail call
 void moveToPartial(Slab *slab);
 
-void releaseSpareSlab(SizeClass &sizeClass);
+// Releases the wholly free slab that the class keeps, if any.
+void releaseIdleSlab(SizeClass &sizeClass);
 
 // Releases every slab, whatever is still in use in it.
 void releaseAllSlabs(SizeClass &sizeClass);

@@ -69,7 +69,7 @@ uint32_t *heapStatistics(uint32_t *count, mint which) {
 
 void pushPeakMark(PeakMark **stack) {
   auto *mark = static_cast<PeakMark *>(allocate(sizeof(PeakMark), 0, kFatal));
-  ThreadHeap *heap = threadHeap;
+  ThreadHeap *heap = thisThread.heap;
   mark->next = *stack;
   mark->peakBytes = heap->peakBytes.value();
   *stack = mark;
@@ -78,7 +78,7 @@ void pushPeakMark(PeakMark **stack) {
 
 uint32_t popPeakMark(PeakMark **stack) {
   PeakMark *mark = *stack;
-  ThreadHeap *heap = threadHeap;
+  ThreadHeap *heap = thisThread.heap;
   const uint32_t peak = heap->peakBytes.value();
   if (mark->peakBytes > peak) heap->peakBytes.set(mark->peakBytes);
   *stack = mark->next;

@@ -9,7 +9,7 @@
 
 namespace torvane {
 
-constinit thread_local ThreadHeap *threadHeap = nullptr;
+constinit thread_local ThreadWords thisThread = {nullptr, kNoHotMemory, nullptr};
 
 namespace {
 
@@ -61,7 +61,7 @@ void closeClass(SizeClass &sizeClass) {
   sizeClass.lock.enter();
   heap->largeLock.enter();
   reclaimPending(sizeClass);
-  releaseSpareSlab(sizeClass);
+  releaseIdleSlab(sizeClass);
   sizeClass.lock.leave();
   heap->largeLock.leave();
 }
@@ -96,24 +96,24 @@ ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain) {
 }
 
 ThreadHeap *ensureThreadHeap() {
-  if (threadHeap != nullptr) return threadHeap;
+  if (thisThread.heap != nullptr) return thisThread.heap;
   AllocatorState *state = ensureState();
   if (state == nullptr) return nullptr;
   auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
-  return threadHeap = heap != nullptr ? heap : newThreadHeap(state, false);
+  return thisThread.heap = heap != nullptr ? heap : newThreadHeap(state, false);
 }
 
 void endThreadHeap() {
   AllocatorState *state = currentState();
   if (state == nullptr) return;
   auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
-  threadHeap = nullptr;
+  forgetThreadHeap();
   setThreadSlotValue(state->tlsSlot, nullptr);
   if (heap != nullptr) closeHeap(heap);
 }
 
 void endHeapOfSlot(void *heap) {
-  threadHeap = nullptr;
+  forgetThreadHeap();
   closeHeap(static_cast<ThreadHeap *>(heap));
 }
 

@@ -1,10 +1,9 @@
-// The core operations: allocate, free, reallocate. The common road of each takes no lock and no atomic
-// read-modify-write; whatever is rare stands out of line, behind a tail call.
+// The core operations: allocate, free, reallocate. Their common roads are in heap_fast.h;
+// here is what is rare, and the questions about blocks and limits.
 #include "memory.h"
 
-#include "heap_remote.h"
+#include "heap_fast.h"
 #include "heap_state.h"
-#include "heap_thread.h"
 #include "hooks.h"
 
 #include <cstring>
@@ -15,8 +14,6 @@ namespace {
 
 constexpr uint32_t kLargeHeaderBytes = static_cast<uint32_t>(sizeof(LargeBlock));
 constexpr uint32_t kMaxSmallRequest = kMaxSmallBytes - kCellHeaderBytes;
-
-constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 
 // What a request takes: rounded up, with the header of its kind. Less than `size` when that wrapped.
 constexpr uint32_t bytesToTake(uint32_t size) {
@@ -49,22 +46,6 @@ bool withinLimit(ThreadHeap *heap, uint32_t bytes) {
   return nullptr;
 }
 
-// Takes the first free cell of a slab on the partial list. `hasHeader` is known where this is called.
-[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab, bool hasHeader) {
-  FreeCell *cell = slab->freeHead;
-  const uint32_t bytes = sizeClass.objectBytes;
-  slab->freeHead = cell->next;
-  heap->freeBytes -= bytes;
-  chargeBytes(heap, bytes);
-  void *block = cell;
-  if (hasHeader) {
-    *reinterpret_cast<uintptr_t *>(cell) = reinterpret_cast<uintptr_t>(slab) + 1;
-    block = reinterpret_cast<char *>(cell) + kCellHeaderBytes;
-  }
-  if (--slab->freeCount == 0) [[unlikely]] return moveToFull(slab, block);
-  return block;
-}
-
 Slab *slabWithFreeCell(SizeClass &sizeClass) {
   if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaim(sizeClass);
   if (sizeClass.partialSlabs != nullptr) return sizeClass.partialSlabs;
@@ -86,50 +67,9 @@ void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   return block;
 }
 
-// The whole of an allocation, step by step.
-[[gnu::noinline]] void *allocateSlowly(uint32_t size, mint errorMode) {
-  if (size == 0) return nullptr;
-  ThreadHeap *heap = ensureThreadHeap();
-  const uint32_t bytes = bytesToTake(size);
-  if (heap == nullptr || bytes < size) return failRequest(size, errorMode);
-  if (!withinLimit(heap, bytes) && errorMode == kQuiet) return nullptr;
-  return bytes > heap->maxSmallBytes ? takeLarge(heap, bytes, errorMode) : takeSmall(heap, bytes, errorMode);
-}
-
-// The slab to take a cell from when nothing is unusual, else null.
-[[gnu::always_inline]] inline Slab *readySlab(const ThreadHeap *heap, SizeClass &sizeClass) {
-  if (heap->limitBytes != 0 || sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) return nullptr;
-  return sizeClass.partialSlabs != nullptr ? sizeClass.partialSlabs : takeSpareSlab(sizeClass);
-}
-
-// Size 0 finds the empty class 0, which has nothing ready.
-[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader, mint errorMode) {
-  ThreadHeap *heap = threadHeap;
-  if (heap == nullptr) [[unlikely]] return allocateSlowly(size, errorMode);
-  SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[bytes / 8]];
-  Slab *slab = readySlab(heap, sizeClass);
-  if (slab == nullptr) [[unlikely]] return allocateSlowly(size, errorMode);
-  return handOut(heap, sizeClass, slab, hasHeader);
-}
-
-[[gnu::noinline]] void settleAndReclaim(SizeClass &sizeClass, Slab *unsettled) {
-  if (unsettled != nullptr) settleSlab(unsettled);
-  reclaim(sizeClass);
-}
-
-// Puts a cell back; what its slab needs beyond that is rare.
-[[gnu::always_inline]] inline void takeBack(ThreadHeap *heap, Slab *slab, FreeCell *cell) {
-  SizeClass &sizeClass = *slab->sizeClass;
-  returnCell(heap, slab, cell);
-  const bool unsettled = isUnsettled(slab);
-  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
-    return settleAndReclaim(sizeClass, unsettled ? slab : nullptr);
-  if (unsettled) settleSlab(slab);
-}
-
-[[gnu::always_inline]] inline void freeCell(Slab *slab, FreeCell *cell) {
+void freeCell(Slab *slab, FreeCell *cell) {
   ThreadHeap *heap = slab->sizeClass->heap;
-  if (heap != threadHeap) [[unlikely]] return freeCellOfOtherThread(slab, cell);
+  if (heap != thisThread.heap) [[unlikely]] return freeCellOfOtherThread(slab, cell);
   takeBack(heap, slab, cell);
 }
 
@@ -147,6 +87,43 @@ void freeWithHeader(void *block) {
            reinterpret_cast<FreeCell *>(static_cast<char *>(block) - kCellHeaderBytes));
 }
 
+} // namespace
+
+void *allocateSlowly(uint32_t size, mint errorMode) {
+  if (size == 0) return nullptr;
+  ThreadHeap *heap = ensureThreadHeap();
+  const uint32_t bytes = bytesToTake(size);
+  if (heap == nullptr || bytes < size) return failRequest(size, errorMode);
+  if (!withinLimit(heap, bytes) && errorMode == kQuiet) return nullptr;
+  return bytes > heap->maxSmallBytes ? takeLarge(heap, bytes, errorMode) : takeSmall(heap, bytes, errorMode);
+}
+
+void *allocateWithHeader(uint32_t size, mint errorMode) {
+  if (size > kMaxSmallRequest) return allocateSlowly(size, errorMode);
+  return takeReadyCell(size, roundUpTo8(size) + kCellHeaderBytes, true, errorMode);
+}
+
+void freeByPageMap(void *block) {
+  if (block == nullptr) return;
+  Slab *slab = slabOfAddress(currentState()->pageMap, block);
+  if (slab == nullptr) return freeWithHeader(block);
+  ThreadHeap *heap = slab->sizeClass->heap;
+  if (heap != thisThread.heap) return freeCellOfOtherThread(slab, static_cast<FreeCell *>(block));
+  thisThread.hotMemory = reinterpret_cast<uintptr_t>(slab->memory);
+  thisThread.hotSlab = slab;
+  takeBack(heap, slab, static_cast<FreeCell *>(block));
+}
+
+void settleAndReclaim(Slab *slab) {
+  if (isUnsettled(slab)) settleSlab(slab);
+  reclaim(*slab->sizeClass);
+}
+
+void *allocate(uint32_t size, mint, mint errorMode) { return allocateInline(size, errorMode); }
+void free(void *block) { freeInline(block); }
+
+namespace {
+
 void *moveBlock(void *block, uint32_t usable, uint32_t size, mint alignFlag, mint errorMode) {
   void *moved = allocate(size, alignFlag, errorMode);
   if (moved == nullptr) return nullptr;
@@ -156,19 +133,6 @@ void *moveBlock(void *block, uint32_t usable, uint32_t size, mint alignFlag, min
 }
 
 } // namespace
-
-void *allocate(uint32_t size, mint, mint errorMode) {
-  if (size <= kMaxBareCellBytes) [[likely]] return takeReadyCell(size, roundUpTo8(size), false, errorMode);
-  if (size <= kMaxSmallRequest) return takeReadyCell(size, roundUpTo8(size) + kCellHeaderBytes, true, errorMode);
-  return allocateSlowly(size, errorMode);
-}
-
-void free(void *block) {
-  if (block == nullptr) return;
-  Slab *slab = slabOfAddress(currentState()->pageMap, block);
-  if (slab == nullptr) return freeWithHeader(block);
-  freeCell(slab, static_cast<FreeCell *>(block));
-}
 
 void *reallocate(void *block, uint32_t size, mint alignFlag, mint errorMode) {
   if (block == nullptr) return allocate(size, alignFlag, errorMode);
@@ -214,10 +178,10 @@ uint32_t allocatedBytesFor(uint32_t request) {
 }
 
 void checkLimit(uint32_t extraBytes) {
-  const ThreadHeap *heap = threadHeap;
+  const ThreadHeap *heap = thisThread.heap;
   if (heap == nullptr || heap->limitBytes == 0) return;
   const uint32_t sum = addSaturating(heap->usedBytes.value(), extraBytes);
-  if (sum > heap->limitBytes) callLimitHook(threadHeap, sum);
+  if (sum > heap->limitBytes) callLimitHook(thisThread.heap, sum);
 }
 
 uint32_t usedBytesOfThisThread() {

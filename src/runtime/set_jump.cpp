@@ -13,7 +13,7 @@ namespace torvane {
 static_assert(offsetof(__jmp_buf_tag, __saved_mask) <= sizeof(SetJumpFrame::context));
 static_assert(offsetof(SetJumpFrame, next) == sizeof(SetJumpFrame::context));
 #if UINTPTR_MAX == UINT32_MAX
-static_assert(sizeof(SetJumpFrame::context) == 64 && sizeof(SetJumpFrame::next) == 4);
+static_assert(sizeof(SetJumpFrame) == 68 && alignof(SetJumpFrame) == alignof(jmp_buf));
 // The last word of the context is spare: set_jump_aux.S keeps a return address there.
 static_assert(offsetof(__jmp_buf_tag, __saved_mask) <= 60);
 #endif

@@ -14,9 +14,9 @@ namespace torvane {
 
 struct SetJumpFrame {
 #if UINTPTR_MAX == UINT32_MAX
-  alignas(8) unsigned char context[64]; // holds what the primitive writes without a signal mask
+  alignas(void *) unsigned char context[64]; // holds what the primitive writes without a signal mask
 #else
-  alignas(8) unsigned char context[sizeof(jmp_buf)];
+  alignas(jmp_buf) unsigned char context[sizeof(jmp_buf)];
 #endif
   SetJumpFrame *next;
 };

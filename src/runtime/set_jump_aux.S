@@ -6,9 +6,9 @@
 //
 // i386: arguments go on the stack, so a jump cannot pass them. The return address is taken off and kept in the
 // last word of the frame's context (offset 60, which the primitive does not write), and the primitive is called
-// so that both its returns land at the label below. What the caller has since written over the stack there is
-// of no account: only the stack pointer and the result are taken from the return. The call goes through the
-// global offset table by a scratch register, so that ebx is the caller's when it is saved.
+// so that both its returns land behind the call. What the caller has since written over the stack there is of
+// no account: from a return come the stack pointer and the result, and from the frame the address to go to. The
+// call goes through the global offset table by a scratch register, so that ebx is the caller's when it is saved.
 
         .text
         .globl  SetJumpStack_PushAux

@@ -1,7 +1,6 @@
 // Start-up: five stages over ten modules in one fixed order, and the teardown, in reverse.
 //
-// A module without a function here keeps its place in the order until it lands. The rows of the two tensor
-// modules stand where they do because their memory must be there first and nobody before them needs them.
+// A module without a function here keeps its place in the order until it lands.
 #include "startup.h"
 
 #include "failure.h"
@@ -32,11 +31,11 @@ const StartupModule kStartupModules[kStartupModuleCount] = {
     {"hash and numeric constants", initializeHashConstants, nullptr},
     {"function registry", nullptr, nullptr},
     {"numeric array conversion tables", initializeElementTypeNames, tearDownElementTypeNames},
-    {"rank-zero tensors", initializeRankZeroTensors, nullptr},
+    {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
     {"sparse arrays", nullptr, nullptr},
     {"random numbers", nullptr, nullptr},
     {"parallel and vector thresholds", initializeThresholds, nullptr},
-    {"eternal tensor", initializeEternalTensor, nullptr},
+    {"eternal tensor", initializeEternalTensor, tearDownEternalTensor},
     {"abort poll", initializeAbortPoll, nullptr},
 };
 

@@ -20,6 +20,8 @@ void initializeAbortPoll(mint stage);
 // Release what the modules hold outside the allocator, or would find again after it is gone.
 void tearDownThreadHookLists();
 void tearDownElementTypeNames();
+void tearDownRankZeroTensors();
+void tearDownEternalTensor();
 
 struct StartupModule {
   const char *name;

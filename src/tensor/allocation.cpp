@@ -27,10 +27,12 @@ inline bool alreadyHolds(const MTensor *tensor, mint type, mint rank, const mint
   return type == tensor->type && tensor->data != nullptr && hasShape(tensor, rank, dimensions);
 }
 
-bool hasNegativeExtent(mint rank, const mint *dimensions) {
+// The status of a request that no mode and no memory could meet.
+mint refusal(mint rank, const mint *dimensions) {
+  if (rank < 0) return kNegativeRank;
   for (mint i = 0; i < rank; ++i)
-    if (dimensions[i] < 0) return true;
-  return false;
+    if (dimensions[i] < 0) return kNegativeExtent;
+  return kSuccess;
 }
 
 mint failed(mint type, mint count, mint errorMode) {
@@ -65,19 +67,21 @@ mint changeShape(MTensor *tensor, mint type, mint rank, const mint *dimensions, 
 }
 
 [[gnu::noinline]] mint change(MTensor *tensor, mint type, mint rank, const mint *dimensions, mint errorMode) {
-  if (rank < 0) return kNegativeRank;
-  if (hasNegativeExtent(rank, dimensions)) return kNegativeExtent;
+  const mint refused = refusal(rank, dimensions);
+  if (refused != kSuccess) return refused;
   if (hasShape(tensor, rank, dimensions)) return changeType(tensor, type, errorMode);
   return changeShape(tensor, type, rank, dimensions, errorMode);
 }
 
-[[gnu::noinline]] mint create(MTensor **slot, mint type, mint rank, const mint *dimensions, mint errorMode) {
-  *slot = MTensor_new();
-  const mint status = change(*slot, type, rank, dimensions, errorMode);
-  if (status == kSuccess) return kSuccess;
-  MTensor_delete(*slot);
-  *slot = nullptr;
-  return status;
+// A fresh record has nothing to reuse and goes straight to its shape. Null on failure.
+[[gnu::noinline]] MTensor *create(mint type, mint rank, const mint *dimensions, mint errorMode,
+                                  mint *status) {
+  MTensor *tensor = MTensor_new();
+  *status = refusal(rank, dimensions);
+  if (*status == kSuccess) *status = changeShape(tensor, type, rank, dimensions, errorMode);
+  if (*status == kSuccess) return tensor;
+  MTensor_delete(tensor);
+  return nullptr;
 }
 
 } // namespace
@@ -89,11 +93,24 @@ mint MTensor_allocateMemoryCommon(MTensor *tensor, mint type, mint rank, const m
 }
 
 mint MTensor_allocateCommon(MTensor **slot, mint type, mint rank, const mint *dimensions, mint errorMode) {
-  if (*slot == nullptr) return create(slot, type, rank, dimensions, errorMode);
+  if (*slot == nullptr) {
+    mint status;
+    *slot = create(type, rank, dimensions, errorMode, &status);
+    return status;
+  }
   if (alreadyHolds(*slot, type, rank, dimensions)) return kSuccess;
   return change(*slot, type, rank, dimensions, errorMode);
 }
 
 mint MTensor_allocateMemoryLikeCommon(MTensor *tensor, const MTensor *like, mint errorMode) {
   return MTensor_allocateMemoryCommon(tensor, like->type, like->rank, like->dimensions, errorMode);
+}
+
+MTensor *MTensor_newAllocatedCommon(mint type, mint rank, const mint *dimensions, mint errorMode) {
+  mint status;
+  return create(type, rank, dimensions, errorMode, &status);
+}
+
+MTensor *CreatePackedArray(mint type, mint rank, const mint *dimensions) {
+  return MTensor_newAllocatedCommon(type, rank, dimensions, kReport);
 }

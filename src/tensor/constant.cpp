@@ -20,6 +20,8 @@ void initializeEternalTensor(mint stage) {
   eternalTensor.store(tensor, std::memory_order_relaxed);
 }
 
+void tearDownEternalTensor() { eternalTensor.store(nullptr, std::memory_order_relaxed); }
+
 // The flag is set even when the copy failed: whoever holds the target holds a constant either way.
 mint MTensor_copyAsConstant(MTensor *target, const MTensor *source) {
   const mint status = MTensor_copyUniqueCommon(target, source, kReport);

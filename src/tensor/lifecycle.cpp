@@ -14,16 +14,6 @@ MTensor *MTensor_new() {
   return tensor;
 }
 
-MTensor *MTensor_newAllocatedCommon(mint type, mint rank, const mint *dimensions, mint errorMode) {
-  MTensor *tensor = nullptr;
-  MTensor_allocateCommon(&tensor, type, rank, dimensions, errorMode);
-  return tensor;
-}
-
-MTensor *CreatePackedArray(mint type, mint rank, const mint *dimensions) {
-  return MTensor_newAllocatedCommon(type, rank, dimensions, kReport);
-}
-
 void MTensor_delete(MTensor *tensor) {
   if (tensor == nullptr || (tensor->flags & kDeletionGuard) != 0) return;
   if (isTracking() && trackDeletion(tensor)) return;

@@ -19,7 +19,8 @@ mint resizePayload(MTensor *tensor, mint type, mint count, mint errorMode) {
   const uint32_t bytes = checkedByteCount(elementWidth(type), count);
   if (bytes == kByteOverflow) return sizeOverflow(errorMode);
   if (bytes == 0) return kSizeFailed;
-  void *block = reallocate(tensor->data, bytes, alignFlagOf(type), errorMode);
+  void *block = tensor->data == nullptr ? allocate(bytes, alignFlagOf(type), errorMode)
+                                        : reallocate(tensor->data, bytes, alignFlagOf(type), errorMode);
   if (block == nullptr) return kSizeFailed;
   tensor->data = block;
   return kSuccess;

@@ -97,6 +97,14 @@ void initializeRankZeroTensors(mint stage) {
   slotMade.store(true, std::memory_order_relaxed);
 }
 
+// The pools go with the allocator's memory; what must not happen is that a later start-up finds them.
+void tearDownRankZeroTensors() {
+  if (!slotMade.exchange(false, std::memory_order_relaxed)) return;
+  deleteThreadSlot(poolSlot.load(std::memory_order_relaxed));
+  LockGuard guard(idleLock);
+  idlePools = nullptr;
+}
+
 } // namespace torvane
 
 using namespace torvane;

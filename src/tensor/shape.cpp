@@ -10,17 +10,23 @@ namespace torvane {
 
 namespace {
 
-// Extents of one tensor may serve as another's request, its own too: a block that moves takes them along.
+mint *growExtents(mint *block, uint32_t bytes, mint errorMode) {
+  void *grown = block == nullptr ? allocate(bytes, 0, errorMode) : reallocate(block, bytes, 0, errorMode);
+  return static_cast<mint *>(grown);
+}
+
+// The extents given may be the tensor's own: a block that moves takes them along, and within one block they
+// lie at or behind the place they go to, so that a forward copy reads each before it is overwritten.
 mint storeExtents(MTensor *tensor, mint rank, const mint *dimensions, mint errorMode) {
   const uint32_t bytes = checkedByteCount(sizeof(mint), rank);
   if (bytes == kByteOverflow) return sizeOverflow(errorMode);
   if (tensor->dimensions == nullptr || rank > tensor->rank) {
-    void *block = reallocate(tensor->dimensions, bytes, 0, errorMode);
+    mint *block = growExtents(tensor->dimensions, bytes, errorMode);
     if (block == nullptr) return kSizeFailed;
-    if (dimensions == tensor->dimensions) dimensions = static_cast<mint *>(block);
-    tensor->dimensions = static_cast<mint *>(block);
+    if (dimensions == tensor->dimensions) dimensions = block;
+    tensor->dimensions = block;
   }
-  memmove(tensor->dimensions, dimensions, bytes);
+  for (mint i = 0; i < rank; ++i) tensor->dimensions[i] = dimensions[i];
   return kSuccess;
 }
 

@@ -87,11 +87,19 @@ TEST_F(Table, NewTableIsEmptyWithAllItsFlags) {
   for (mint i = 0; i < table->bucketCount; ++i) EXPECT_EQ(table->buckets[i], nullptr);
 }
 
-TEST(HashTableDeath, TableOfAsManyBucketsAsNoHeapHasIsTheFatalPath) {
+// Their bytes do not fit the 32 bits of a size on either target.
+TEST(HashTableDeath, TableOfTheLargestPrimeIsTheFatalPath) {
+  const test::ChildOutcome child = test::runInChild([] { plainTable(0x7fffffff); });
+  EXPECT_TRUE(child.exited);
+  EXPECT_EQ(child.status, 1);
+}
+
+TEST(HashTableDeath, NodeWithoutMemoryIsTheFatalPath) {
   const test::ChildOutcome child = test::runInChild([] {
+    HashTable *table = plainTable(0);
     test::FailingHeap heap;
-    heap.failFrom(2); // the record is had, its buckets are not
-    HashTable_new(0x7fffffff, nullptr, nullptr, nullptr, nullptr, nullptr);
+    heap.failFrom(1);
+    for (uintptr_t key = 0; key < 1000000; ++key) HashTable_insert(table, key); // until the slab is used up
   });
   EXPECT_TRUE(child.exited);
   EXPECT_EQ(child.status, 1);

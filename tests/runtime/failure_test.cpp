@@ -3,15 +3,20 @@
 #include "runtime/memory.h"
 #include "runtime/set_jump.h"
 #include "runtime/startup.h"
+#include "support/child_process.h"
+#include "support/failing_heap.h"
 #include <torvane/exception.hpp>
 
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <atomic>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <new>
 #include <string>
+#include <thread>
 #include <type_traits>
 #include <typeinfo>
 
@@ -356,6 +361,24 @@ TEST_F(Failure, CompilerErrorHoldsWhatItWasMadeWith) {
   Delete_CompilerError(nullptr);
 }
 
+TEST_F(Failure, CompilerErrorAndFrameWithoutMemoryAreTheFatalPath) {
+  const std::function<void()> endlessly[] = {[] {
+                                               for (;;) New_CompilerError(4, 1);
+                                             },
+                                             [] {
+                                               for (;;) SetJumpStack_Push();
+                                             }};
+  for (const auto &use : endlessly) {
+    const test::ChildOutcome child = test::runInChild([&use] {
+      test::FailingHeap heap;
+      heap.failFrom(100); // after some slabs
+      use();
+    });
+    EXPECT_TRUE(child.exited);
+    EXPECT_EQ(child.status, 1);
+  }
+}
+
 mint testAnswer, testCalls;
 std::string testArgument;
 mint answering(const char *where) {
@@ -419,6 +442,14 @@ TEST_F(AbortWatch, ThrowingFormRaisesInEveryStyle) {
     setExceptionStyle(style);
     EXPECT_EQ(caught([](void *, void *) { checkAbortWatchThrow(); }), 33);
   }
+}
+
+TEST_F(AbortWatch, FlagMayBeRaisedByAnotherThread) {
+  testAnswer = 1;
+  std::thread host([this] { std::atomic_ref(flag).store(1, std::memory_order_relaxed); });
+  while (checkAbortWatch() == 0) std::this_thread::yield();
+  host.join();
+  EXPECT_EQ(testCalls, 1);
 }
 
 TEST_F(AbortWatch, HandleIsTheHostsFlagItself) { EXPECT_EQ(getAbortWatchHandle(), &flag); }

@@ -45,6 +45,14 @@ TEST(EternalTensor, IsEmptyAndCountedOutOfReach) {
   reallyDelete(tensor);
 }
 
+TEST(EternalTensor, IsNoneAfterATeardown) {
+  initializeEternalTensor(4);
+  MTensor *const tensor = getEternalMTensor();
+  tearDownEternalTensor();
+  EXPECT_EQ(getEternalMTensor(), nullptr);
+  reallyDelete(tensor);
+}
+
 TEST(EternalTensor, IsIgnoredByEveryDelete) {
   initializeEternalTensor(4);
   MTensor *const tensor = getEternalMTensor();

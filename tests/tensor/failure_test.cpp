@@ -126,6 +126,8 @@ TEST(OutOfMemory, AtAnyRequestLeavesTensorsValidAndCountersTrue) {
 
 // The request that failed is asked for again, and the old block is too small for it.
 TEST(OutOfMemory, IsOverWhenTheSameRequestIsMadeAgain) {
+  const Tensor warm = newTensor(TORVANE_TYPE_REAL, {2}); // the slabs of small blocks exist
+  wideSource();
   for (const Operation &operation : kOperations)
     for (mint k = 1; k <= operation.failures; ++k) {
       FailingHeap heap;

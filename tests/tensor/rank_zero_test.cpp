@@ -159,6 +159,20 @@ TEST_F(SharedRankZeroTensors, AreAsGoodAsNewForTheThreadThatTakesThemOver) {
   }).join();
 }
 
+// After a teardown the memory behind old pools is not the library's any more.
+TEST_F(SharedRankZeroTensors, AreMadeAnewAfterATeardown) {
+  std::set<MTensor **> ended;
+  std::thread([&] { ended = allSlots(); }).join();
+  const std::set<MTensor **> mine = allSlots();
+  tearDownRankZeroTensors();
+  tearDownRankZeroTensors();
+  initializeRankZeroTensors(1);
+  for (MTensor **slot : allSlots()) EXPECT_EQ(mine.count(slot) + ended.count(slot), 0u);
+  std::thread([&] {
+    for (MTensor **slot : allSlots()) EXPECT_EQ(mine.count(slot) + ended.count(slot), 0u);
+  }).join();
+}
+
 TEST_F(SharedRankZeroTensors, ServeManyThreadsThatComeAndGo) {
   for (int round = 0; round < 20; ++round) {
     std::vector<std::thread> threads;
