@@ -16,14 +16,25 @@
 bool operator==(const mcomplex &x, const mcomplex &y) {
   return torvane::test::sameReal(x.re, y.re) && torvane::test::sameReal(x.im, y.im);
 }
-std::ostream &operator<<(std::ostream &out, const mcomplex &z) { return out << "(" << z.re << ", " << z.im << ")"; }
+std::ostream &operator<<(std::ostream &out, const mcomplex &z) {
+  return out << "(" << z.re << ", " << z.im << ")";
+}
 
 using namespace torvane;
 using namespace torvane::test;
 
 namespace {
 
-enum Operator : mint { kMinus = 43, kRound = 49, kSquare = 56, kSqrt = 57, kPlus = 257, kSubtract, kTimes, kDiv };
+enum Operator : mint {
+  kMinus = 43,
+  kRound = 49,
+  kSquare = 56,
+  kSqrt = 57,
+  kPlus = 257,
+  kSubtract,
+  kTimes,
+  kDiv
+};
 constexpr mint kInteger = 2, kReal = 3, kComplex = 4;
 
 using Reals = std::vector<mreal>;
@@ -135,7 +146,8 @@ TEST(UnaryDispatch, StatusTellsAFailureFromAMissingRoutineFromMemory) {
   EXPECT_EQ(statusOf(x, kSquare, kInteger), 4) << "the routine stores reals";
   EXPECT_EQ(statusOf(x, kRound, kReal), 4) << "the routine stores integers";
   EXPECT_EQ(statusOf(x, kRound, kComplex), 4) << "there is no complex routine to widen with";
-  for (const mint op : {0, 4, 61, 85, -1, 257, INT32_MAX, INT32_MIN}) EXPECT_EQ(statusOf(x, op, kReal), 4) << op;
+  for (const mint op : {0, 4, 61, 85, -1, 257, INT32_MAX, INT32_MIN})
+    EXPECT_EQ(statusOf(x, op, kReal), 4) << op;
   EXPECT_EQ(statusOf(x, kSquare, 0), 5) << "a result without a type has no payload";
   EXPECT_EQ(statusOf(x, kSquare, 1), 4);
 }
@@ -202,8 +214,10 @@ TEST(BinaryDispatch, MixesTypes) {
   EXPECT_EQ(valuesOf<mint>(binary(words, words, kTimes, kInteger).tensor), (Words{1, 4}));
   EXPECT_EQ(valuesOf<mreal>(binary(words, reals, kPlus, kReal).tensor), (Reals{1.5, 2.25}));
   EXPECT_EQ(valuesOf<mreal>(binary(reals, words, kSubtract, kReal).tensor), (Reals{-0.5, -1.75}));
-  EXPECT_EQ(valuesOf<mcomplex>(binary(words, complexes, kTimes, kComplex).tensor), (Complexes{{0, 1}, {4, -2}}));
-  EXPECT_EQ(valuesOf<mcomplex>(binary(complexes, reals, kDiv, kComplex).tensor), (Complexes{{0, 2}, {8, -4}}));
+  EXPECT_EQ(valuesOf<mcomplex>(binary(words, complexes, kTimes, kComplex).tensor),
+            (Complexes{{0, 1}, {4, -2}}));
+  EXPECT_EQ(valuesOf<mcomplex>(binary(complexes, reals, kDiv, kComplex).tensor),
+            (Complexes{{0, 2}, {8, -4}}));
 }
 
 TEST(BinaryDispatch, StatusTellsAMissingRoutine) {
@@ -215,7 +229,8 @@ TEST(BinaryDispatch, StatusTellsAMissingRoutine) {
   EXPECT_EQ(binary(reals, reals, kPlus, kInteger).status, 1);
   EXPECT_EQ(binary(complexes, reals, kPlus, kReal).status, 1);
   EXPECT_EQ(binary(complexes, reals, kPlus, kInteger).status, 1);
-  for (const mint op : {0, 57, 256, 278, INT32_MAX, INT32_MIN}) EXPECT_EQ(binary(reals, reals, op, kReal).status, 1);
+  for (const mint op : {0, 57, 256, 278, INT32_MAX, INT32_MIN})
+    EXPECT_EQ(binary(reals, reals, op, kReal).status, 1);
 }
 
 TEST(BinaryDispatch, OverwritesEitherOperandInPlace) {
@@ -288,7 +303,8 @@ TEST(Widening, OfABinaryOperatorStoresRealsAndFailsWhereTheComplexStaysReal) {
 TEST(Widening, OutcomeIsTheUnionOfTheKinds) {
   const auto outcome = [](const Reals &values) {
     Complexes result(values.size() + 1);
-    return widenUnary({machfunc_d_sqrt, machfunc_c_sqrt}, result.data(), values.data(), mint(values.size()), 0);
+    return widenUnary({machfunc_d_sqrt, machfunc_c_sqrt}, result.data(), values.data(), mint(values.size()),
+                      0);
   };
   EXPECT_EQ(outcome({1, 2}), -3);
   EXPECT_EQ(outcome({-1, -2}), -4);

@@ -9,6 +9,8 @@
 #include <functional>
 #include <ostream>
 #include <torvane/types.h>
+#include <tuple>
+#include <type_traits>
 #include <vector>
 
 namespace torvane::test {
@@ -35,7 +37,8 @@ struct Element {
     const mint word = kind == TORVANE_TYPE_INTEGER ? static_cast<mint>(value.re) : 0;
     std::memcpy(to, kind == TORVANE_TYPE_INTEGER ? static_cast<const void *>(&word) : &value, widthOf(kind));
   }
-  Element as(mint wider) const { return {wider, value}; }
+  // The same value in another kind: widened, or the part that a routine stores of it.
+  Element as(mint other) const { return {other, {value.re, other == TORVANE_TYPE_COMPLEX ? value.im : 0}}; }
   friend bool operator==(const Element &x, const Element &y) {
     return x.kind == y.kind && sameReal(x.value.re, y.value.re) && sameReal(x.value.im, y.value.im);
   }
@@ -48,7 +51,8 @@ struct Element {
 class Buffer {
 public:
   Buffer(mint kindOfElements, size_t count)
-      : kind(kindOfElements), size(count * widthOf(kind)), bytes(kZone + size + kZone, kFill), pristine(bytes) {}
+      : kind(kindOfElements), size(count * widthOf(kind)), bytes(kZone + size + kZone, kFill),
+        pristine(bytes) {}
 
   void *data() { return bytes.data() + kZone; }
   const void *data() const { return bytes.data() + kZone; }
@@ -86,45 +90,38 @@ struct Outcome {
 using TypedUnary = std::function<Outcome(Element)>;
 using TypedBinary = std::function<Outcome(Element, Element)>;
 
-// The typed entries behind their different conventions.
-inline Outcome wrapped(mint kind, const std::function<mcomplex()> &call) {
+// The arguments that an element of a kind is to a typed entry.
+template <mint kind> auto argumentsOf(const Element &x) {
+  if constexpr (kind == TORVANE_TYPE_INTEGER)
+    return std::tuple(static_cast<int32_t>(x.value.re));
+  else if constexpr (kind == TORVANE_TYPE_REAL)
+    return std::tuple(x.value.re);
+  else
+    return std::tuple(x.value.re, x.value.im);
+}
+
+// Calls a typed entry by its convention: a word or a real by value, a complex through two pointers.
+template <class R, class... A, class Arguments>
+Outcome callEntry(R (*entry)(A...), const Arguments &arguments) {
   Outcome outcome;
-  outcome.code = raisedBy([&] { outcome.element = {kind, call()}; });
+  mcomplex z = {};
+  outcome.code = raisedBy([&] {
+    if constexpr (std::is_pointer_v<R>)
+      std::apply(entry, std::tuple_cat(std::tuple(&z.re, &z.im), arguments));
+    else
+      z.re = static_cast<mreal>(std::apply(entry, arguments));
+  });
+  constexpr mint kind = std::is_pointer_v<R> ? 4 : std::is_floating_point_v<R> ? 3 : 2;
+  outcome.element = {kind, z};
   return outcome;
 }
-inline TypedUnary wrap(int32_t (*f)(int32_t)) {
-  return [f](Element x) { return wrapped(2, [&] { return mcomplex{mreal(f(mint(x.value.re))), 0}; }); };
+
+template <mint kind, class Entry> TypedUnary wrapUnary(Entry *entry) {
+  return [entry](const Element &x) { return callEntry(entry, argumentsOf<kind>(x)); };
 }
-inline TypedUnary wrap(mint (*f)(double)) {
-  return [f](Element x) { return wrapped(2, [&] { return mcomplex{mreal(f(x.value.re)), 0}; }); };
-}
-inline TypedUnary wrap(double (*f)(double)) {
-  return [f](Element x) { return wrapped(3, [&] { return mcomplex{f(x.value.re), 0}; }); };
-}
-inline TypedUnary wrap(double *(*f)(double *, double *, double, double)) {
-  return [f](Element x) {
-    return wrapped(4, [&] {
-      mcomplex z = {};
-      f(&z.re, &z.im, x.value.re, x.value.im);
-      return z;
-    });
-  };
-}
-inline TypedBinary wrap(int32_t (*f)(int32_t, int32_t)) {
-  return [f](Element x, Element y) {
-    return wrapped(2, [&] { return mcomplex{mreal(f(mint(x.value.re), mint(y.value.re))), 0}; });
-  };
-}
-inline TypedBinary wrap(double (*f)(double, double)) {
-  return [f](Element x, Element y) { return wrapped(3, [&] { return mcomplex{f(x.value.re, y.value.re), 0}; }); };
-}
-inline TypedBinary wrap(double *(*f)(double *, double *, double, double, double, double)) {
-  return [f](Element x, Element y) {
-    return wrapped(4, [&] {
-      mcomplex z = {};
-      f(&z.re, &z.im, x.value.re, x.value.im, y.value.re, y.value.im);
-      return z;
-    });
+template <mint kind1, mint kind2, class Entry> TypedBinary wrapBinary(Entry *entry) {
+  return [entry](const Element &x, const Element &y) {
+    return callEntry(entry, std::tuple_cat(argumentsOf<kind1>(x), argumentsOf<kind2>(y)));
   };
 }
 
@@ -132,16 +129,21 @@ inline TypedBinary wrap(double *(*f)(double *, double *, double, double, double,
 inline Element sampleElement(mint kind, std::mt19937_64 &random) {
   static const std::vector<double> special = specialReals<double>();
   static const std::vector<double> ordinary = randomReals<double>(500, 99);
-  static const mint words[] = {0, 1, -1, 2, 3, -7, 46340, 46341, -46341, 65536, INT32_MAX, -INT32_MAX, INT32_MIN};
+  static const mint words[] = {0,     1,      -1,    2,         3,          -7,       46340,
+                               46341, -46341, 65536, INT32_MAX, -INT32_MAX, INT32_MIN};
   const auto real = [&] {
     switch (random() % 4) {
-    case 0: return special[random() % special.size()];
-    case 1: return ordinary[random() % ordinary.size()];
-    default: return double(random() % 2000) / 16 - 40;
+    case 0:
+      return special[random() % special.size()];
+    case 1:
+      return ordinary[random() % ordinary.size()];
+    default:
+      return double(random() % 2000) / 16 - 40;
     }
   };
   if (kind == TORVANE_TYPE_INTEGER) {
-    const mint word = random() % 3 == 0 ? words[random() % std::size(words)] : mint(random() % 200001) - 100000;
+    const mint word =
+        random() % 3 == 0 ? words[random() % std::size(words)] : mint(random() % 200001) - 100000;
     return {kind, {mreal(word), 0}};
   }
   const double re = real();

@@ -139,7 +139,8 @@ struct bit_shiftleft {
   template <class Form, class T> static constexpr T apply(error &code, T x, T y) {
     return shifted<Form>(code, x, y);
   }
-  template <class Form> static mreal element(error &, mreal x, mint y) { return __builtin_ldexp(x, y); }
+  template <class Form, class R>
+  requires(isReal<R>) static R element(error &, R x, mint y) { return __builtin_ldexp(x, y); }
   template <class Form> static ComplexReal64 element(error &, ComplexReal64 x, mint y) {
     return {__builtin_ldexp(x.re, y), __builtin_ldexp(x.im, y)};
   }
@@ -155,9 +156,8 @@ struct bit_shiftright {
     }
     return shifted<Form>(code, x, static_cast<T>(-y));
   }
-  template <class Form> static mreal element(error &, mreal x, mint y) {
-    return __builtin_ldexp(x, negated(y));
-  }
+  template <class Form, class R>
+  requires(isReal<R>) static R element(error &, R x, mint y) { return __builtin_ldexp(x, negated(y)); }
   template <class Form> static ComplexReal64 element(error &, ComplexReal64 x, mint y) {
     return {__builtin_ldexp(x.re, negated(y)), __builtin_ldexp(x.im, negated(y))};
   }

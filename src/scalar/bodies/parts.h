@@ -83,7 +83,8 @@ struct im {
   }
   template <class Form> static constexpr Real16 pattern(error &, Real16) { return {0}; }
   // The routine on reals stores integers.
-  template <class Form> static constexpr mint element(error &, mreal) { return 0; }
+  template <class Form, class R>
+  requires(isReal<R>) static constexpr mint element(error &, R) { return 0; }
 };
 
 struct re {
