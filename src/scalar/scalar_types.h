@@ -30,12 +30,21 @@ using ComplexReal32 = Complex<Real32>;
 using ComplexReal64 = Complex<Real64>;
 static_assert(sizeof(ComplexReal64) == sizeof(mcomplex));
 
-// All thirteen, in the order of the exported names.
-#define TORVANE_FOR_EACH_SCALAR(X)                                                                           \
-  X(Integer8)                                                                                                \
-  X(UnsignedInteger8)                                                                                        \
-  X(Integer16) X(UnsignedInteger16) X(Integer32) X(UnsignedInteger32) X(Integer64) X(UnsignedInteger64)      \
-      X(Real16) X(Real32) X(Real64) X(ComplexReal32) X(ComplexReal64)
+// All thirteen, in the order of the exported names; further arguments go to every X.
+#define TORVANE_FOR_EACH_SCALAR(X, ...) \
+  X(Integer8 __VA_OPT__(, ) __VA_ARGS__) \
+  X(UnsignedInteger8 __VA_OPT__(, ) __VA_ARGS__) \
+  X(Integer16 __VA_OPT__(, ) __VA_ARGS__) \
+  X(UnsignedInteger16 __VA_OPT__(, ) __VA_ARGS__) \
+  X(Integer32 __VA_OPT__(, ) __VA_ARGS__) \
+  X(UnsignedInteger32 __VA_OPT__(, ) __VA_ARGS__) \
+  X(Integer64 __VA_OPT__(, ) __VA_ARGS__) \
+  X(UnsignedInteger64 __VA_OPT__(, ) __VA_ARGS__) \
+  X(Real16 __VA_OPT__(, ) __VA_ARGS__) \
+  X(Real32 __VA_OPT__(, ) __VA_ARGS__) \
+  X(Real64 __VA_OPT__(, ) __VA_ARGS__) \
+  X(ComplexReal32 __VA_OPT__(, ) __VA_ARGS__) \
+  X(ComplexReal64 __VA_OPT__(, ) __VA_ARGS__)
 
 enum class TypeClass { signedInteger, unsignedInteger, real, complex };
 
