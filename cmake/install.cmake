@@ -5,12 +5,39 @@ include(CMakePackageConfigHelpers)
 set(torvane_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TorvaneRTL)
 
 install(TARGETS TorvaneRTL_Minimal EXPORT TorvaneRTLTargets)
-install(DIRECTORY include/torvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/torvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} PATTERN detail EXCLUDE)
+# The bodies behind scalars_inline.hpp. In the source tree include/torvane/detail leads to them by links.
+set(torvane_detail_dir ${CMAKE_INSTALL_INCLUDEDIR}/torvane/detail)
+install(DIRECTORY src/scalar DESTINATION ${torvane_detail_dir} FILES_MATCHING PATTERN "*.h" PATTERN "*.def"
+        PATTERN generated EXCLUDE)
+install(FILES src/runtime/types.h src/runtime/failure.h DESTINATION ${torvane_detail_dir}/runtime)
 foreach(file exports.txt exports.json torvane.ll)
   if(EXISTS ${PROJECT_SOURCE_DIR}/data/${file})
     install(FILES data/${file} DESTINATION ${CMAKE_INSTALL_DATADIR}/torvane)
   endif()
 endforeach()
+
+# The scalar entries as LLVM bitcode, for compilers that inline them instead of calling.
+find_program(TORVANE_BITCODE_COMPILER clang++-19)
+find_program(TORVANE_BITCODE_LINKER llvm-link-19)
+if(TORVANE_BITCODE_COMPILER AND TORVANE_BITCODE_LINKER AND NOT TORVANE_ILP32 AND NOT TORVANE_SANITIZE)
+  file(GLOB entry_sources CONFIGURE_DEPENDS src/scalar/generated/*.cpp)
+  file(GLOB_RECURSE entry_headers CONFIGURE_DEPENDS src/scalar/*.h src/scalar/*.def include/torvane/*.h)
+  set(bitcode ${PROJECT_BINARY_DIR}/torvane_scalars.bc)
+  set(units)
+  foreach(source ${entry_sources})
+    cmake_path(GET source STEM name)
+    set(unit ${PROJECT_BINARY_DIR}/bitcode/${name}.bc)
+    add_custom_command(OUTPUT ${unit} DEPENDS ${source} ${entry_headers}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/bitcode
+      COMMAND ${TORVANE_BITCODE_COMPILER} -std=c++20 -O2 -ffp-contract=off -fno-math-errno -fPIC
+              -I${PROJECT_SOURCE_DIR}/include -emit-llvm -c ${source} -o ${unit} VERBATIM)
+    list(APPEND units ${unit})
+  endforeach()
+  add_custom_command(OUTPUT ${bitcode} DEPENDS ${units} COMMAND ${TORVANE_BITCODE_LINKER} ${units} -o ${bitcode} VERBATIM)
+  add_custom_target(torvane_bitcode ALL DEPENDS ${bitcode})
+  install(FILES ${bitcode} DESTINATION ${CMAKE_INSTALL_DATADIR}/torvane)
+endif()
 
 install(EXPORT TorvaneRTLTargets NAMESPACE TorvaneRTL:: DESTINATION ${torvane_package_dir})
 configure_package_config_file(cmake/TorvaneRTLConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/TorvaneRTLConfig.cmake

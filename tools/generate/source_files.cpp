@@ -7,6 +7,9 @@ using namespace torvane;
 
 namespace {
 
+// Where the bodies stand for a user of the installed headers; the build points the same name at src/.
+constexpr const char *kBodyFolder = "detail/scalar/bodies/";
+
 std::string header(const std::string &guard, const std::string &about,
                    const std::vector<ExportGroup> &groups) {
   std::string text = "/* " + about + "\n *\n * " + kGeneratedNote + " */\n#ifndef " + guard + "\n#define " +
@@ -32,6 +35,22 @@ void writeUnits(Files &files, const std::string &folder, const std::string &incl
   }
 }
 
+// The entries once more as inline functions of a namespace, over the very bodies that the library compiles.
+void writeInlineHeader(Files &files, const std::vector<ExportGroup> &entries) {
+  std::string text = std::string("// The typed entries as inline functions, for C++20: torvane::inlined::<name> is the export <name>.\n"
+                                 "// A failing one still raises through the library.\n//\n// ") +
+                     kGeneratedNote +
+                     "\n#ifndef TORVANE_SCALARS_INLINE_HPP\n#define TORVANE_SCALARS_INLINE_HPP\n\n";
+  std::string family;
+  for (const ExportGroup &group : entries)
+    if (group.family != family) text += "#include \"" + std::string(kBodyFolder) + (family = group.family) + ".h\"\n";
+  text += "\nnamespace torvane::inlined {\n\n";
+  for (const ExportGroup &group : entries)
+    for (const DerivedExport &one : group.exports)
+      text += prototype(one.signature, "inline ") + " {\n  " + one.definition + "\n}\n";
+  files["include/torvane/scalars_inline.hpp"] = text + "\n} // namespace torvane::inlined\n\n#endif\n";
+}
+
 } // namespace
 
 void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries) {
@@ -49,6 +68,7 @@ void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries) {
       " * and a NaN result. All entries are pure and may be called from any thread.",
       entries);
   writeUnits(files, "src/scalar", "", "scalars.h", entries);
+  writeInlineHeader(files, entries);
 }
 
 void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines) {

@@ -1,0 +1,4096 @@
+// The typed entries as inline functions, for C++20: torvane::inlined::<name> is the export <name>.
+// A failing one still raises through the library.
+//
+// Generated from src/scalar/operators.def by tools/generate; not to be edited.
+#ifndef TORVANE_SCALARS_INLINE_HPP
+#define TORVANE_SCALARS_INLINE_HPP
+
+#include "detail/scalar/bodies/arithmetic.h"
+#include "detail/scalar/bodies/parts.h"
+#include "detail/scalar/bodies/comparison.h"
+#include "detail/scalar/bodies/bits.h"
+#include "detail/scalar/bodies/roots.h"
+#include "detail/scalar/bodies/rounding.h"
+#include "detail/scalar/bodies/arithmetic.h"
+#include "detail/scalar/bodies/parts.h"
+#include "detail/scalar/bodies/comparison.h"
+#include "detail/scalar/bodies/bits.h"
+#include "detail/scalar/bodies/arithmetic.h"
+
+namespace torvane::inlined {
+
+inline int8_t unary_minus_Integer8(int8_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline uint8_t unary_minus_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline int16_t unary_minus_Integer16(int16_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline uint16_t unary_minus_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline int32_t unary_minus_Integer32(int32_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline uint32_t unary_minus_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline int64_t unary_minus_Integer64(int64_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline uint64_t unary_minus_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline uint16_t *unary_minus_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::minus, Plain>(Real16{x}));
+}
+inline float unary_minus_Real32(float x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline double unary_minus_Real64(double x) {
+  return evaluate<unary::minus, Plain>(x);
+}
+inline float *unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::minus, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::minus, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_minus_Integer8(int8_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline uint8_t checked_unary_minus_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline int16_t checked_unary_minus_Integer16(int16_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline uint16_t checked_unary_minus_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline int32_t checked_unary_minus_Integer32(int32_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline uint32_t checked_unary_minus_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline int64_t checked_unary_minus_Integer64(int64_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline uint64_t checked_unary_minus_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline uint16_t *checked_unary_minus_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::minus, Checked>(Real16{x}));
+}
+inline float checked_unary_minus_Real32(float x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline double checked_unary_minus_Real64(double x) {
+  return evaluate<unary::minus, Checked>(x);
+}
+inline float *checked_unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::minus, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::minus, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_square_Integer8(int8_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline uint8_t unary_square_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline int16_t unary_square_Integer16(int16_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline uint16_t unary_square_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline int32_t unary_square_Integer32(int32_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline uint32_t unary_square_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline int64_t unary_square_Integer64(int64_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline uint64_t unary_square_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline uint16_t *unary_square_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::square, Plain>(Real16{x}));
+}
+inline float unary_square_Real32(float x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline double unary_square_Real64(double x) {
+  return evaluate<unary::square, Plain>(x);
+}
+inline float *unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::square, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::square, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_square_Integer8(int8_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline uint8_t checked_unary_square_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline int16_t checked_unary_square_Integer16(int16_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline uint16_t checked_unary_square_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline int32_t checked_unary_square_Integer32(int32_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline uint32_t checked_unary_square_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline int64_t checked_unary_square_Integer64(int64_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline uint64_t checked_unary_square_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline uint16_t *checked_unary_square_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::square, Checked>(Real16{x}));
+}
+inline float checked_unary_square_Real32(float x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline double checked_unary_square_Real64(double x) {
+  return evaluate<unary::square, Checked>(x);
+}
+inline float *checked_unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::square, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::square, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_recip_Integer8(int8_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline uint8_t unary_recip_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline int16_t unary_recip_Integer16(int16_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline uint16_t unary_recip_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline int32_t unary_recip_Integer32(int32_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline uint32_t unary_recip_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline int64_t unary_recip_Integer64(int64_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline uint64_t unary_recip_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline uint16_t *unary_recip_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::recip, Plain>(Real16{x}));
+}
+inline float unary_recip_Real32(float x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline double unary_recip_Real64(double x) {
+  return evaluate<unary::recip, Plain>(x);
+}
+inline float *unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_recip_Integer8(int8_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline uint8_t checked_unary_recip_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline int16_t checked_unary_recip_Integer16(int16_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline uint16_t checked_unary_recip_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline int32_t checked_unary_recip_Integer32(int32_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline uint32_t checked_unary_recip_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline int64_t checked_unary_recip_Integer64(int64_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline uint64_t checked_unary_recip_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline uint16_t *checked_unary_recip_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::recip, Checked>(Real16{x}));
+}
+inline float checked_unary_recip_Real32(float x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline double checked_unary_recip_Real64(double x) {
+  return evaluate<unary::recip, Checked>(x);
+}
+inline float *checked_unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_abs_Integer8(int8_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline uint8_t unary_abs_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline int16_t unary_abs_Integer16(int16_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline uint16_t unary_abs_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline int32_t unary_abs_Integer32(int32_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline uint32_t unary_abs_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline int64_t unary_abs_Integer64(int64_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline uint64_t unary_abs_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline uint16_t *unary_abs_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::abs, Plain>(Real16{x}));
+}
+inline float unary_abs_Real32(float x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline double unary_abs_Real64(double x) {
+  return evaluate<unary::abs, Plain>(x);
+}
+inline float unary_abs_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::abs, Plain>(ComplexReal32{x_re, x_im});
+}
+inline double unary_abs_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::abs, Plain>(ComplexReal64{x_re, x_im});
+}
+inline int8_t checked_unary_abs_Integer8(int8_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline uint8_t checked_unary_abs_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline int16_t checked_unary_abs_Integer16(int16_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline uint16_t checked_unary_abs_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline int32_t checked_unary_abs_Integer32(int32_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline uint32_t checked_unary_abs_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline int64_t checked_unary_abs_Integer64(int64_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline uint64_t checked_unary_abs_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline uint16_t *checked_unary_abs_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::abs, Checked>(Real16{x}));
+}
+inline float checked_unary_abs_Real32(float x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline double checked_unary_abs_Real64(double x) {
+  return evaluate<unary::abs, Checked>(x);
+}
+inline float checked_unary_abs_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::abs, Checked>(ComplexReal32{x_re, x_im});
+}
+inline double checked_unary_abs_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::abs, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_abssquare_Integer8(int8_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline uint8_t unary_abssquare_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline int16_t unary_abssquare_Integer16(int16_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline uint16_t unary_abssquare_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline int32_t unary_abssquare_Integer32(int32_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline uint32_t unary_abssquare_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline int64_t unary_abssquare_Integer64(int64_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline uint64_t unary_abssquare_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline uint16_t *unary_abssquare_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::abssquare, Plain>(Real16{x}));
+}
+inline float unary_abssquare_Real32(float x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline double unary_abssquare_Real64(double x) {
+  return evaluate<unary::abssquare, Plain>(x);
+}
+inline float unary_abssquare_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::abssquare, Plain>(ComplexReal32{x_re, x_im});
+}
+inline double unary_abssquare_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::abssquare, Plain>(ComplexReal64{x_re, x_im});
+}
+inline int8_t checked_unary_abssquare_Integer8(int8_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline uint8_t checked_unary_abssquare_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline int16_t checked_unary_abssquare_Integer16(int16_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline uint16_t checked_unary_abssquare_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline int32_t checked_unary_abssquare_Integer32(int32_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline uint32_t checked_unary_abssquare_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline int64_t checked_unary_abssquare_Integer64(int64_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline uint64_t checked_unary_abssquare_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline uint16_t *checked_unary_abssquare_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::abssquare, Checked>(Real16{x}));
+}
+inline float checked_unary_abssquare_Real32(float x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline double checked_unary_abssquare_Real64(double x) {
+  return evaluate<unary::abssquare, Checked>(x);
+}
+inline float checked_unary_abssquare_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::abssquare, Checked>(ComplexReal32{x_re, x_im});
+}
+inline double checked_unary_abssquare_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::abssquare, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_arg_Integer8(int8_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline uint8_t unary_arg_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline int16_t unary_arg_Integer16(int16_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline uint16_t unary_arg_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline int32_t unary_arg_Integer32(int32_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline uint32_t unary_arg_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline int64_t unary_arg_Integer64(int64_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline uint64_t unary_arg_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline uint16_t *unary_arg_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::arg, Plain>(Real16{x}));
+}
+inline float unary_arg_Real32(float x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline double unary_arg_Real64(double x) {
+  return evaluate<unary::arg, Plain>(x);
+}
+inline float unary_arg_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::arg, Plain>(ComplexReal32{x_re, x_im});
+}
+inline double unary_arg_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::arg, Plain>(ComplexReal64{x_re, x_im});
+}
+inline int8_t checked_unary_arg_Integer8(int8_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline uint8_t checked_unary_arg_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline int16_t checked_unary_arg_Integer16(int16_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline uint16_t checked_unary_arg_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline int32_t checked_unary_arg_Integer32(int32_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline uint32_t checked_unary_arg_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline int64_t checked_unary_arg_Integer64(int64_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline uint64_t checked_unary_arg_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline uint16_t *checked_unary_arg_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::arg, Checked>(Real16{x}));
+}
+inline float checked_unary_arg_Real32(float x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline double checked_unary_arg_Real64(double x) {
+  return evaluate<unary::arg, Checked>(x);
+}
+inline float checked_unary_arg_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::arg, Checked>(ComplexReal32{x_re, x_im});
+}
+inline double checked_unary_arg_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::arg, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_conj_Integer8(int8_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline uint8_t unary_conj_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline int16_t unary_conj_Integer16(int16_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline uint16_t unary_conj_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline int32_t unary_conj_Integer32(int32_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline uint32_t unary_conj_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline int64_t unary_conj_Integer64(int64_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline uint64_t unary_conj_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline uint16_t *unary_conj_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::conj, Plain>(Real16{x}));
+}
+inline float unary_conj_Real32(float x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline double unary_conj_Real64(double x) {
+  return evaluate<unary::conj, Plain>(x);
+}
+inline float *unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::conj, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::conj, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_conj_Integer8(int8_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline uint8_t checked_unary_conj_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline int16_t checked_unary_conj_Integer16(int16_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline uint16_t checked_unary_conj_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline int32_t checked_unary_conj_Integer32(int32_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline uint32_t checked_unary_conj_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline int64_t checked_unary_conj_Integer64(int64_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline uint64_t checked_unary_conj_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline uint16_t *checked_unary_conj_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::conj, Checked>(Real16{x}));
+}
+inline float checked_unary_conj_Real32(float x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline double checked_unary_conj_Real64(double x) {
+  return evaluate<unary::conj, Checked>(x);
+}
+inline float *checked_unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::conj, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::conj, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_im_Integer8(int8_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline uint8_t unary_im_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline int16_t unary_im_Integer16(int16_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline uint16_t unary_im_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline int32_t unary_im_Integer32(int32_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline uint32_t unary_im_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline int64_t unary_im_Integer64(int64_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline uint64_t unary_im_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline uint16_t *unary_im_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::im, Plain>(Real16{x}));
+}
+inline float unary_im_Real32(float x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline double unary_im_Real64(double x) {
+  return evaluate<unary::im, Plain>(x);
+}
+inline float unary_im_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::im, Plain>(ComplexReal32{x_re, x_im});
+}
+inline double unary_im_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::im, Plain>(ComplexReal64{x_re, x_im});
+}
+inline int8_t checked_unary_im_Integer8(int8_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline uint8_t checked_unary_im_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline int16_t checked_unary_im_Integer16(int16_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline uint16_t checked_unary_im_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline int32_t checked_unary_im_Integer32(int32_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline uint32_t checked_unary_im_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline int64_t checked_unary_im_Integer64(int64_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline uint64_t checked_unary_im_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline uint16_t *checked_unary_im_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::im, Checked>(Real16{x}));
+}
+inline float checked_unary_im_Real32(float x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline double checked_unary_im_Real64(double x) {
+  return evaluate<unary::im, Checked>(x);
+}
+inline float checked_unary_im_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::im, Checked>(ComplexReal32{x_re, x_im});
+}
+inline double checked_unary_im_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::im, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_re_Integer8(int8_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline uint8_t unary_re_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline int16_t unary_re_Integer16(int16_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline uint16_t unary_re_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline int32_t unary_re_Integer32(int32_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline uint32_t unary_re_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline int64_t unary_re_Integer64(int64_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline uint64_t unary_re_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline uint16_t *unary_re_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::re, Plain>(Real16{x}));
+}
+inline float unary_re_Real32(float x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline double unary_re_Real64(double x) {
+  return evaluate<unary::re, Plain>(x);
+}
+inline float unary_re_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::re, Plain>(ComplexReal32{x_re, x_im});
+}
+inline double unary_re_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::re, Plain>(ComplexReal64{x_re, x_im});
+}
+inline int8_t checked_unary_re_Integer8(int8_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline uint8_t checked_unary_re_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline int16_t checked_unary_re_Integer16(int16_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline uint16_t checked_unary_re_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline int32_t checked_unary_re_Integer32(int32_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline uint32_t checked_unary_re_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline int64_t checked_unary_re_Integer64(int64_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline uint64_t checked_unary_re_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline uint16_t *checked_unary_re_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::re, Checked>(Real16{x}));
+}
+inline float checked_unary_re_Real32(float x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline double checked_unary_re_Real64(double x) {
+  return evaluate<unary::re, Checked>(x);
+}
+inline float checked_unary_re_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::re, Checked>(ComplexReal32{x_re, x_im});
+}
+inline double checked_unary_re_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::re, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_sign_Integer8(int8_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_Integer16(int16_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_Integer32(int32_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_Integer64(int64_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_Real16(uint16_t x) {
+  return evaluate<unary::sign, Plain>(Real16{x});
+}
+inline mint unary_sign_Real32(float x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline mint unary_sign_Real64(double x) {
+  return evaluate<unary::sign, Plain>(x);
+}
+inline float *unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sign, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sign, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline mint checked_unary_sign_Integer8(int8_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_Integer16(int16_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_Integer32(int32_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_Integer64(int64_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_Real16(uint16_t x) {
+  return evaluate<unary::sign, Checked>(Real16{x});
+}
+inline mint checked_unary_sign_Real32(float x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline mint checked_unary_sign_Real64(double x) {
+  return evaluate<unary::sign, Checked>(x);
+}
+inline float *checked_unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sign, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sign, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_copy_Integer8(int8_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline uint8_t unary_copy_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline int16_t unary_copy_Integer16(int16_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline uint16_t unary_copy_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline int32_t unary_copy_Integer32(int32_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline uint32_t unary_copy_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline int64_t unary_copy_Integer64(int64_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline uint64_t unary_copy_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline uint16_t *unary_copy_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::copy, Plain>(Real16{x}));
+}
+inline float unary_copy_Real32(float x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline double unary_copy_Real64(double x) {
+  return evaluate<unary::copy, Plain>(x);
+}
+inline float *unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::copy, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::copy, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_copy_Integer8(int8_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline uint8_t checked_unary_copy_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline int16_t checked_unary_copy_Integer16(int16_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline uint16_t checked_unary_copy_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline int32_t checked_unary_copy_Integer32(int32_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline uint32_t checked_unary_copy_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline int64_t checked_unary_copy_Integer64(int64_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline uint64_t checked_unary_copy_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline uint16_t *checked_unary_copy_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::copy, Checked>(Real16{x}));
+}
+inline float checked_unary_copy_Real32(float x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline double checked_unary_copy_Real64(double x) {
+  return evaluate<unary::copy, Checked>(x);
+}
+inline float *checked_unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::copy, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::copy, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_zero_Integer8(int8_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline uint8_t unary_zero_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline int16_t unary_zero_Integer16(int16_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline uint16_t unary_zero_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline int32_t unary_zero_Integer32(int32_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline uint32_t unary_zero_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline int64_t unary_zero_Integer64(int64_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline uint64_t unary_zero_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline uint16_t *unary_zero_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::zero, Plain>(Real16{x}));
+}
+inline float unary_zero_Real32(float x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline double unary_zero_Real64(double x) {
+  return evaluate<unary::zero, Plain>(x);
+}
+inline float *unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::zero, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::zero, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_zero_Integer8(int8_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline uint8_t checked_unary_zero_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline int16_t checked_unary_zero_Integer16(int16_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline uint16_t checked_unary_zero_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline int32_t checked_unary_zero_Integer32(int32_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline uint32_t checked_unary_zero_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline int64_t checked_unary_zero_Integer64(int64_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline uint64_t checked_unary_zero_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline uint16_t *checked_unary_zero_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::zero, Checked>(Real16{x}));
+}
+inline float checked_unary_zero_Real32(float x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline double checked_unary_zero_Real64(double x) {
+  return evaluate<unary::zero, Checked>(x);
+}
+inline float *checked_unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::zero, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::zero, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_one_Integer8(int8_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline uint8_t unary_one_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline int16_t unary_one_Integer16(int16_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline uint16_t unary_one_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline int32_t unary_one_Integer32(int32_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline uint32_t unary_one_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline int64_t unary_one_Integer64(int64_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline uint64_t unary_one_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline uint16_t *unary_one_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::one, Plain>(Real16{x}));
+}
+inline float unary_one_Real32(float x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline double unary_one_Real64(double x) {
+  return evaluate<unary::one, Plain>(x);
+}
+inline float *unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::one, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::one, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_one_Integer8(int8_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline uint8_t checked_unary_one_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline int16_t checked_unary_one_Integer16(int16_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline uint16_t checked_unary_one_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline int32_t checked_unary_one_Integer32(int32_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline uint32_t checked_unary_one_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline int64_t checked_unary_one_Integer64(int64_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline uint64_t checked_unary_one_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline uint16_t *checked_unary_one_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::one, Checked>(Real16{x}));
+}
+inline float checked_unary_one_Real32(float x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline double checked_unary_one_Real64(double x) {
+  return evaluate<unary::one, Checked>(x);
+}
+inline float *checked_unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::one, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::one, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline mint unary_fpexception_Integer8(int8_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_Integer16(int16_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_Integer32(int32_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_Integer64(int64_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_Real16(uint16_t x) {
+  return evaluate<unary::fpexception, Plain>(Real16{x});
+}
+inline mint unary_fpexception_Real32(float x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_Real64(double x) {
+  return evaluate<unary::fpexception, Plain>(x);
+}
+inline mint unary_fpexception_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::fpexception, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_fpexception_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::fpexception, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_fpexception_Integer8(int8_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_Integer16(int16_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_Integer32(int32_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_Integer64(int64_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_Real16(uint16_t x) {
+  return evaluate<unary::fpexception, Checked>(Real16{x});
+}
+inline mint checked_unary_fpexception_Real32(float x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_Real64(double x) {
+  return evaluate<unary::fpexception, Checked>(x);
+}
+inline mint checked_unary_fpexception_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::fpexception, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_fpexception_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::fpexception, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_pos_Integer8(int8_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_Integer16(int16_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_Integer32(int32_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_Integer64(int64_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_Real16(uint16_t x) {
+  return evaluate<unary::pos, Plain>(Real16{x});
+}
+inline mint unary_pos_Real32(float x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_Real64(double x) {
+  return evaluate<unary::pos, Plain>(x);
+}
+inline mint unary_pos_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::pos, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_pos_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::pos, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_pos_Integer8(int8_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_Integer16(int16_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_Integer32(int32_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_Integer64(int64_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_Real16(uint16_t x) {
+  return evaluate<unary::pos, Checked>(Real16{x});
+}
+inline mint checked_unary_pos_Real32(float x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_Real64(double x) {
+  return evaluate<unary::pos, Checked>(x);
+}
+inline mint checked_unary_pos_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::pos, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_pos_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::pos, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_neg_Integer8(int8_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_Integer16(int16_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_Integer32(int32_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_Integer64(int64_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_Real16(uint16_t x) {
+  return evaluate<unary::neg, Plain>(Real16{x});
+}
+inline mint unary_neg_Real32(float x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_Real64(double x) {
+  return evaluate<unary::neg, Plain>(x);
+}
+inline mint unary_neg_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::neg, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_neg_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::neg, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_neg_Integer8(int8_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_Integer16(int16_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_Integer32(int32_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_Integer64(int64_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_Real16(uint16_t x) {
+  return evaluate<unary::neg, Checked>(Real16{x});
+}
+inline mint checked_unary_neg_Real32(float x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_Real64(double x) {
+  return evaluate<unary::neg, Checked>(x);
+}
+inline mint checked_unary_neg_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::neg, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_neg_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::neg, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_npos_Integer8(int8_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_Integer16(int16_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_Integer32(int32_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_Integer64(int64_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_Real16(uint16_t x) {
+  return evaluate<unary::npos, Plain>(Real16{x});
+}
+inline mint unary_npos_Real32(float x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_Real64(double x) {
+  return evaluate<unary::npos, Plain>(x);
+}
+inline mint unary_npos_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::npos, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_npos_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::npos, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_npos_Integer8(int8_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_Integer16(int16_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_Integer32(int32_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_Integer64(int64_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_Real16(uint16_t x) {
+  return evaluate<unary::npos, Checked>(Real16{x});
+}
+inline mint checked_unary_npos_Real32(float x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_Real64(double x) {
+  return evaluate<unary::npos, Checked>(x);
+}
+inline mint checked_unary_npos_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::npos, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_npos_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::npos, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_nneg_Integer8(int8_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_Integer16(int16_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_Integer32(int32_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_Integer64(int64_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_Real16(uint16_t x) {
+  return evaluate<unary::nneg, Plain>(Real16{x});
+}
+inline mint unary_nneg_Real32(float x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_Real64(double x) {
+  return evaluate<unary::nneg, Plain>(x);
+}
+inline mint unary_nneg_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::nneg, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_nneg_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::nneg, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_nneg_Integer8(int8_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_Integer16(int16_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_Integer32(int32_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_Integer64(int64_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_Real16(uint16_t x) {
+  return evaluate<unary::nneg, Checked>(Real16{x});
+}
+inline mint checked_unary_nneg_Real32(float x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_Real64(double x) {
+  return evaluate<unary::nneg, Checked>(x);
+}
+inline mint checked_unary_nneg_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::nneg, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_nneg_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::nneg, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_unitize_Integer8(int8_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_Integer16(int16_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_Integer32(int32_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_Integer64(int64_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_Real16(uint16_t x) {
+  return evaluate<unary::unitize, Plain>(Real16{x});
+}
+inline mint unary_unitize_Real32(float x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_Real64(double x) {
+  return evaluate<unary::unitize, Plain>(x);
+}
+inline mint unary_unitize_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::unitize, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_unitize_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::unitize, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_unitize_Integer8(int8_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_Integer16(int16_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_Integer32(int32_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_Integer64(int64_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_Real16(uint16_t x) {
+  return evaluate<unary::unitize, Checked>(Real16{x});
+}
+inline mint checked_unary_unitize_Real32(float x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_Real64(double x) {
+  return evaluate<unary::unitize, Checked>(x);
+}
+inline mint checked_unary_unitize_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::unitize, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_unitize_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::unitize, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_ramp_Integer8(int8_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline uint8_t unary_ramp_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline int16_t unary_ramp_Integer16(int16_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline uint16_t unary_ramp_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline int32_t unary_ramp_Integer32(int32_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline uint32_t unary_ramp_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline int64_t unary_ramp_Integer64(int64_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline uint64_t unary_ramp_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline uint16_t *unary_ramp_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::ramp, Plain>(Real16{x}));
+}
+inline float unary_ramp_Real32(float x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline double unary_ramp_Real64(double x) {
+  return evaluate<unary::ramp, Plain>(x);
+}
+inline float *unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::ramp, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::ramp, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_ramp_Integer8(int8_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline uint8_t checked_unary_ramp_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline int16_t checked_unary_ramp_Integer16(int16_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline uint16_t checked_unary_ramp_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline int32_t checked_unary_ramp_Integer32(int32_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline uint32_t checked_unary_ramp_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline int64_t checked_unary_ramp_Integer64(int64_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline uint64_t checked_unary_ramp_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline uint16_t *checked_unary_ramp_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::ramp, Checked>(Real16{x}));
+}
+inline float checked_unary_ramp_Real32(float x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline double checked_unary_ramp_Real64(double x) {
+  return evaluate<unary::ramp, Checked>(x);
+}
+inline float *checked_unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::ramp, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::ramp, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline mint unary_evenq_Integer8(int8_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_Integer16(int16_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_Integer32(int32_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_Integer64(int64_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_Real16(uint16_t x) {
+  return evaluate<unary::evenq, Plain>(Real16{x});
+}
+inline mint unary_evenq_Real32(float x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_Real64(double x) {
+  return evaluate<unary::evenq, Plain>(x);
+}
+inline mint unary_evenq_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::evenq, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_evenq_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::evenq, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_evenq_Integer8(int8_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_Integer16(int16_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_Integer32(int32_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_Integer64(int64_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_Real16(uint16_t x) {
+  return evaluate<unary::evenq, Checked>(Real16{x});
+}
+inline mint checked_unary_evenq_Real32(float x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_Real64(double x) {
+  return evaluate<unary::evenq, Checked>(x);
+}
+inline mint checked_unary_evenq_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::evenq, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_evenq_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::evenq, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_oddq_Integer8(int8_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_Integer16(int16_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_Integer32(int32_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_Integer64(int64_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_Real16(uint16_t x) {
+  return evaluate<unary::oddq, Plain>(Real16{x});
+}
+inline mint unary_oddq_Real32(float x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_Real64(double x) {
+  return evaluate<unary::oddq, Plain>(x);
+}
+inline mint unary_oddq_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::oddq, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_oddq_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::oddq, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_oddq_Integer8(int8_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_Integer16(int16_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_Integer32(int32_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_Integer64(int64_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_Real16(uint16_t x) {
+  return evaluate<unary::oddq, Checked>(Real16{x});
+}
+inline mint checked_unary_oddq_Real32(float x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_Real64(double x) {
+  return evaluate<unary::oddq, Checked>(x);
+}
+inline mint checked_unary_oddq_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::oddq, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_oddq_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::oddq, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_bit_not_Integer8(int8_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline uint8_t unary_bit_not_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline int16_t unary_bit_not_Integer16(int16_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline uint16_t unary_bit_not_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline int32_t unary_bit_not_Integer32(int32_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline uint32_t unary_bit_not_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline int64_t unary_bit_not_Integer64(int64_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline uint64_t unary_bit_not_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline uint16_t *unary_bit_not_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::bit_not, Plain>(Real16{x}));
+}
+inline float unary_bit_not_Real32(float x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline double unary_bit_not_Real64(double x) {
+  return evaluate<unary::bit_not, Plain>(x);
+}
+inline float *unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::bit_not, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::bit_not, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_bit_not_Integer8(int8_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline uint8_t checked_unary_bit_not_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline int16_t checked_unary_bit_not_Integer16(int16_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline uint16_t checked_unary_bit_not_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline int32_t checked_unary_bit_not_Integer32(int32_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline uint32_t checked_unary_bit_not_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline int64_t checked_unary_bit_not_Integer64(int64_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline uint64_t checked_unary_bit_not_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline uint16_t *checked_unary_bit_not_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::bit_not, Checked>(Real16{x}));
+}
+inline float checked_unary_bit_not_Real32(float x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline double checked_unary_bit_not_Real64(double x) {
+  return evaluate<unary::bit_not, Checked>(x);
+}
+inline float *checked_unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::bit_not, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::bit_not, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline mint unary_bit_length_Integer8(int8_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_Integer16(int16_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_Integer32(int32_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_Integer64(int64_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_Real16(uint16_t x) {
+  return evaluate<unary::bit_length, Plain>(Real16{x});
+}
+inline mint unary_bit_length_Real32(float x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_Real64(double x) {
+  return evaluate<unary::bit_length, Plain>(x);
+}
+inline mint unary_bit_length_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::bit_length, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_bit_length_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::bit_length, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_bit_length_Integer8(int8_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_Integer16(int16_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_Integer32(int32_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_Integer64(int64_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_Real16(uint16_t x) {
+  return evaluate<unary::bit_length, Checked>(Real16{x});
+}
+inline mint checked_unary_bit_length_Real32(float x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_Real64(double x) {
+  return evaluate<unary::bit_length, Checked>(x);
+}
+inline mint checked_unary_bit_length_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::bit_length, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_bit_length_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::bit_length, Checked>(ComplexReal64{x_re, x_im});
+}
+inline mint unary_bit_count_Integer8(int8_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_Integer16(int16_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_Integer32(int32_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_Integer64(int64_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_Real16(uint16_t x) {
+  return evaluate<unary::bit_count, Plain>(Real16{x});
+}
+inline mint unary_bit_count_Real32(float x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_Real64(double x) {
+  return evaluate<unary::bit_count, Plain>(x);
+}
+inline mint unary_bit_count_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::bit_count, Plain>(ComplexReal32{x_re, x_im});
+}
+inline mint unary_bit_count_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::bit_count, Plain>(ComplexReal64{x_re, x_im});
+}
+inline mint checked_unary_bit_count_Integer8(int8_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_Integer16(int16_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_Integer32(int32_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_Integer64(int64_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_Real16(uint16_t x) {
+  return evaluate<unary::bit_count, Checked>(Real16{x});
+}
+inline mint checked_unary_bit_count_Real32(float x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_Real64(double x) {
+  return evaluate<unary::bit_count, Checked>(x);
+}
+inline mint checked_unary_bit_count_ComplexReal32(float x_re, float x_im) {
+  return evaluate<unary::bit_count, Checked>(ComplexReal32{x_re, x_im});
+}
+inline mint checked_unary_bit_count_ComplexReal64(double x_re, double x_im) {
+  return evaluate<unary::bit_count, Checked>(ComplexReal64{x_re, x_im});
+}
+inline int8_t unary_sqrt_Integer8(int8_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline uint8_t unary_sqrt_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline int16_t unary_sqrt_Integer16(int16_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline uint16_t unary_sqrt_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline int32_t unary_sqrt_Integer32(int32_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline uint32_t unary_sqrt_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline int64_t unary_sqrt_Integer64(int64_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline uint64_t unary_sqrt_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline uint16_t *unary_sqrt_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sqrt, Plain>(Real16{x}));
+}
+inline float unary_sqrt_Real32(float x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline double unary_sqrt_Real64(double x) {
+  return evaluate<unary::sqrt, Plain>(x);
+}
+inline float *unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sqrt, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sqrt, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_sqrt_Integer8(int8_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline uint8_t checked_unary_sqrt_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline int16_t checked_unary_sqrt_Integer16(int16_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline uint16_t checked_unary_sqrt_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline int32_t checked_unary_sqrt_Integer32(int32_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline uint32_t checked_unary_sqrt_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline int64_t checked_unary_sqrt_Integer64(int64_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline uint64_t checked_unary_sqrt_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline uint16_t *checked_unary_sqrt_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sqrt, Checked>(Real16{x}));
+}
+inline float checked_unary_sqrt_Real32(float x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline double checked_unary_sqrt_Real64(double x) {
+  return evaluate<unary::sqrt, Checked>(x);
+}
+inline float *checked_unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_round_Integer8(int8_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline uint8_t unary_round_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline int16_t unary_round_Integer16(int16_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline uint16_t unary_round_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline int32_t unary_round_Integer32(int32_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline uint32_t unary_round_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline int64_t unary_round_Integer64(int64_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline uint64_t unary_round_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline mint unary_round_Real16(uint16_t x) {
+  return evaluate<unary::round, Plain>(Real16{x});
+}
+inline mint unary_round_Real32(float x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline mint unary_round_Real64(double x) {
+  return evaluate<unary::round, Plain>(x);
+}
+inline float *unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::round, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::round, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_round_Integer8(int8_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline uint8_t checked_unary_round_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline int16_t checked_unary_round_Integer16(int16_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline uint16_t checked_unary_round_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline int32_t checked_unary_round_Integer32(int32_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline uint32_t checked_unary_round_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline int64_t checked_unary_round_Integer64(int64_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline uint64_t checked_unary_round_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline mint checked_unary_round_Real16(uint16_t x) {
+  return evaluate<unary::round, Checked>(Real16{x});
+}
+inline mint checked_unary_round_Real32(float x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline mint checked_unary_round_Real64(double x) {
+  return evaluate<unary::round, Checked>(x);
+}
+inline float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::round, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::round, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline uint8_t binary_plus_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline int16_t binary_plus_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline uint16_t binary_plus_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline int32_t binary_plus_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline uint32_t binary_plus_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline int64_t binary_plus_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline uint64_t binary_plus_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline uint16_t *binary_plus_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::plus, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_plus_Real32_Real32(float x, float y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline double binary_plus_Real64_Real64(double x, double y) {
+  return evaluate<binary::plus, Plain>(x, y);
+}
+inline float *binary_plus_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<binary::plus, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_plus_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                       double y_re, double y_im) {
+  return store(re, im, evaluate<binary::plus, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline uint8_t checked_binary_plus_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline int16_t checked_binary_plus_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline uint16_t checked_binary_plus_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline int32_t checked_binary_plus_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline uint32_t checked_binary_plus_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline int64_t checked_binary_plus_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline uint64_t checked_binary_plus_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline uint16_t *checked_binary_plus_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::plus, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_plus_Real32_Real32(float x, float y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline double checked_binary_plus_Real64_Real64(double x, double y) {
+  return evaluate<binary::plus, Checked>(x, y);
+}
+inline float *checked_binary_plus_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                              float y_re, float y_im) {
+  return store(re, im, evaluate<binary::plus, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_plus_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                               double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::plus, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_subtract_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline uint8_t binary_subtract_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline int16_t binary_subtract_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline uint16_t binary_subtract_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline int32_t binary_subtract_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline uint32_t binary_subtract_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline int64_t binary_subtract_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline uint64_t binary_subtract_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline uint16_t *binary_subtract_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::subtract, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_subtract_Real32_Real32(float x, float y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline double binary_subtract_Real64_Real64(double x, double y) {
+  return evaluate<binary::subtract, Plain>(x, y);
+}
+inline float *binary_subtract_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im) {
+  return store(re, im, evaluate<binary::subtract, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_subtract_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::subtract, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_subtract_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline uint8_t checked_binary_subtract_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline int16_t checked_binary_subtract_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline uint16_t checked_binary_subtract_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline int32_t checked_binary_subtract_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline uint32_t checked_binary_subtract_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline int64_t checked_binary_subtract_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline uint64_t checked_binary_subtract_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline uint16_t *checked_binary_subtract_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::subtract, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_subtract_Real32_Real32(float x, float y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline double checked_binary_subtract_Real64_Real64(double x, double y) {
+  return evaluate<binary::subtract, Checked>(x, y);
+}
+inline float *checked_binary_subtract_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::subtract, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_subtract_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::subtract, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_times_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline uint8_t binary_times_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline int16_t binary_times_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline uint16_t binary_times_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline int32_t binary_times_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline uint32_t binary_times_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline int64_t binary_times_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline uint64_t binary_times_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline uint16_t *binary_times_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::times, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_times_Real32_Real32(float x, float y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline double binary_times_Real64_Real64(double x, double y) {
+  return evaluate<binary::times, Plain>(x, y);
+}
+inline float *binary_times_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                       float y_re, float y_im) {
+  return store(re, im, evaluate<binary::times, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_times_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                        double y_re, double y_im) {
+  return store(re, im, evaluate<binary::times, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_times_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline uint8_t checked_binary_times_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline int16_t checked_binary_times_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline uint16_t checked_binary_times_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline int32_t checked_binary_times_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline uint32_t checked_binary_times_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline int64_t checked_binary_times_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline uint64_t checked_binary_times_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline uint16_t *checked_binary_times_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::times, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_times_Real32_Real32(float x, float y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline double checked_binary_times_Real64_Real64(double x, double y) {
+  return evaluate<binary::times, Checked>(x, y);
+}
+inline float *checked_binary_times_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                               float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::times, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_times_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::times, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_divide_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline uint8_t binary_divide_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline int16_t binary_divide_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline uint16_t binary_divide_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline int32_t binary_divide_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline uint32_t binary_divide_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline int64_t binary_divide_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline uint64_t binary_divide_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline uint16_t *binary_divide_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::divide, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_divide_Real32_Real32(float x, float y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline double binary_divide_Real64_Real64(double x, double y) {
+  return evaluate<binary::divide, Plain>(x, y);
+}
+inline float *binary_divide_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::divide, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_divide_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::divide, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_divide_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline uint8_t checked_binary_divide_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline int16_t checked_binary_divide_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline uint16_t checked_binary_divide_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline int32_t checked_binary_divide_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline uint32_t checked_binary_divide_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline int64_t checked_binary_divide_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline uint64_t checked_binary_divide_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline uint16_t *checked_binary_divide_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::divide, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_divide_Real32_Real32(float x, float y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline double checked_binary_divide_Real64_Real64(double x, double y) {
+  return evaluate<binary::divide, Checked>(x, y);
+}
+inline float *checked_binary_divide_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::divide, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_divide_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::divide, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline mint binary_fpexception_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_Real16_Real16(uint16_t x, uint16_t y) {
+  return evaluate<binary::fpexception, Plain>(Real16{x}, Real16{y});
+}
+inline mint binary_fpexception_Real32_Real32(float x, float y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_Real64_Real64(double x, double y) {
+  return evaluate<binary::fpexception, Plain>(x, y);
+}
+inline mint binary_fpexception_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re, float y_im) {
+  return evaluate<binary::fpexception, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
+}
+inline mint binary_fpexception_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re,
+                                                           double y_im) {
+  return evaluate<binary::fpexception, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
+}
+inline mint checked_binary_fpexception_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_Real16_Real16(uint16_t x, uint16_t y) {
+  return evaluate<binary::fpexception, Checked>(Real16{x}, Real16{y});
+}
+inline mint checked_binary_fpexception_Real32_Real32(float x, float y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_Real64_Real64(double x, double y) {
+  return evaluate<binary::fpexception, Checked>(x, y);
+}
+inline mint checked_binary_fpexception_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re,
+                                                                   float y_im) {
+  return evaluate<binary::fpexception, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
+}
+inline mint checked_binary_fpexception_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re,
+                                                                   double y_im) {
+  return evaluate<binary::fpexception, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
+}
+inline int8_t binary_max_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline uint8_t binary_max_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline int16_t binary_max_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline uint16_t binary_max_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline int32_t binary_max_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline uint32_t binary_max_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline int64_t binary_max_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline uint64_t binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline uint16_t *binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::max, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_max_Real32_Real32(float x, float y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline double binary_max_Real64_Real64(double x, double y) {
+  return evaluate<binary::max, Plain>(x, y);
+}
+inline float *binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<binary::max, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                      double y_re, double y_im) {
+  return store(re, im, evaluate<binary::max, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_max_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline uint8_t checked_binary_max_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline int16_t checked_binary_max_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline uint16_t checked_binary_max_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline int32_t checked_binary_max_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline uint32_t checked_binary_max_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline int64_t checked_binary_max_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline uint64_t checked_binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline uint16_t *checked_binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::max, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_max_Real32_Real32(float x, float y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline double checked_binary_max_Real64_Real64(double x, double y) {
+  return evaluate<binary::max, Checked>(x, y);
+}
+inline float *checked_binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<binary::max, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::max, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_min_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline uint8_t binary_min_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline int16_t binary_min_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline uint16_t binary_min_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline int32_t binary_min_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline uint32_t binary_min_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline int64_t binary_min_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline uint64_t binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline uint16_t *binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::min, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_min_Real32_Real32(float x, float y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline double binary_min_Real64_Real64(double x, double y) {
+  return evaluate<binary::min, Plain>(x, y);
+}
+inline float *binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<binary::min, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                      double y_re, double y_im) {
+  return store(re, im, evaluate<binary::min, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_min_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline uint8_t checked_binary_min_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline int16_t checked_binary_min_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline uint16_t checked_binary_min_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline int32_t checked_binary_min_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline uint32_t checked_binary_min_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline int64_t checked_binary_min_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline uint64_t checked_binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline uint16_t *checked_binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::min, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_min_Real32_Real32(float x, float y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline double checked_binary_min_Real64_Real64(double x, double y) {
+  return evaluate<binary::min, Checked>(x, y);
+}
+inline float *checked_binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<binary::min, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::min, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_chop_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline uint8_t binary_chop_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline int16_t binary_chop_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline uint16_t binary_chop_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline int32_t binary_chop_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline uint32_t binary_chop_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline int64_t binary_chop_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline uint64_t binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline uint16_t *binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::chop, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_chop_Real32_Real32(float x, float y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline double binary_chop_Real64_Real64(double x, double y) {
+  return evaluate<binary::chop, Plain>(x, y);
+}
+inline float *binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<binary::chop, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                       double y_re, double y_im) {
+  return store(re, im, evaluate<binary::chop, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_chop_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline uint8_t checked_binary_chop_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline int16_t checked_binary_chop_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline uint16_t checked_binary_chop_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline int32_t checked_binary_chop_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline uint32_t checked_binary_chop_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline int64_t checked_binary_chop_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline uint64_t checked_binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline uint16_t *checked_binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::chop, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_chop_Real32_Real32(float x, float y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline double checked_binary_chop_Real64_Real64(double x, double y) {
+  return evaluate<binary::chop, Checked>(x, y);
+}
+inline float *checked_binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                              float y_re, float y_im) {
+  return store(re, im, evaluate<binary::chop, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                               double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::chop, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_abserr_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline uint8_t binary_abserr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline int16_t binary_abserr_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline uint16_t binary_abserr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline int32_t binary_abserr_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline uint32_t binary_abserr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline int64_t binary_abserr_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline uint64_t binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline uint16_t *binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::abserr, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_abserr_Real32_Real32(float x, float y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline double binary_abserr_Real64_Real64(double x, double y) {
+  return evaluate<binary::abserr, Plain>(x, y);
+}
+inline float *binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::abserr, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::abserr, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_abserr_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline uint8_t checked_binary_abserr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline int16_t checked_binary_abserr_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline uint16_t checked_binary_abserr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline int32_t checked_binary_abserr_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline uint32_t checked_binary_abserr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline int64_t checked_binary_abserr_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline uint64_t checked_binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline uint16_t *checked_binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::abserr, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_abserr_Real32_Real32(float x, float y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline double checked_binary_abserr_Real64_Real64(double x, double y) {
+  return evaluate<binary::abserr, Checked>(x, y);
+}
+inline float *checked_binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::abserr, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::abserr, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_relerr_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline uint8_t binary_relerr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline int16_t binary_relerr_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline uint16_t binary_relerr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline int32_t binary_relerr_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline uint32_t binary_relerr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline int64_t binary_relerr_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline uint64_t binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline uint16_t *binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::relerr, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_relerr_Real32_Real32(float x, float y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline double binary_relerr_Real64_Real64(double x, double y) {
+  return evaluate<binary::relerr, Plain>(x, y);
+}
+inline float *binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::relerr, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::relerr, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_relerr_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline uint8_t checked_binary_relerr_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline int16_t checked_binary_relerr_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline uint16_t checked_binary_relerr_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline int32_t checked_binary_relerr_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline uint32_t checked_binary_relerr_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline int64_t checked_binary_relerr_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline uint64_t checked_binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline uint16_t *checked_binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::relerr, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_relerr_Real32_Real32(float x, float y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline double checked_binary_relerr_Real64_Real64(double x, double y) {
+  return evaluate<binary::relerr, Checked>(x, y);
+}
+inline float *checked_binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::relerr, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::relerr, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_maxabs_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline uint8_t binary_maxabs_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline int16_t binary_maxabs_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline uint16_t binary_maxabs_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline int32_t binary_maxabs_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline uint32_t binary_maxabs_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline int64_t binary_maxabs_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline uint64_t binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline uint16_t *binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::maxabs, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_maxabs_Real32_Real32(float x, float y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline double binary_maxabs_Real64_Real64(double x, double y) {
+  return evaluate<binary::maxabs, Plain>(x, y);
+}
+inline float *binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::maxabs, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::maxabs, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_maxabs_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline uint8_t checked_binary_maxabs_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline int16_t checked_binary_maxabs_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline uint16_t checked_binary_maxabs_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline int32_t checked_binary_maxabs_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline uint32_t checked_binary_maxabs_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline int64_t checked_binary_maxabs_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline uint64_t checked_binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline uint16_t *checked_binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::maxabs, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_maxabs_Real32_Real32(float x, float y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline double checked_binary_maxabs_Real64_Real64(double x, double y) {
+  return evaluate<binary::maxabs, Checked>(x, y);
+}
+inline float *checked_binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::maxabs, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::maxabs, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline mint binary_unitize_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_Real16_Real16(uint16_t x, uint16_t y) {
+  return evaluate<binary::unitize, Plain>(Real16{x}, Real16{y});
+}
+inline mint binary_unitize_Real32_Real32(float x, float y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_Real64_Real64(double x, double y) {
+  return evaluate<binary::unitize, Plain>(x, y);
+}
+inline mint binary_unitize_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re, float y_im) {
+  return evaluate<binary::unitize, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
+}
+inline mint binary_unitize_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re, double y_im) {
+  return evaluate<binary::unitize, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
+}
+inline mint checked_binary_unitize_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_Real16_Real16(uint16_t x, uint16_t y) {
+  return evaluate<binary::unitize, Checked>(Real16{x}, Real16{y});
+}
+inline mint checked_binary_unitize_Real32_Real32(float x, float y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_Real64_Real64(double x, double y) {
+  return evaluate<binary::unitize, Checked>(x, y);
+}
+inline mint checked_binary_unitize_ComplexReal32_ComplexReal32(float x_re, float x_im, float y_re,
+                                                               float y_im) {
+  return evaluate<binary::unitize, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
+}
+inline mint checked_binary_unitize_ComplexReal64_ComplexReal64(double x_re, double x_im, double y_re,
+                                                               double y_im) {
+  return evaluate<binary::unitize, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
+}
+inline int8_t binary_bit_and_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline uint8_t binary_bit_and_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline int16_t binary_bit_and_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline uint16_t binary_bit_and_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline int32_t binary_bit_and_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline uint32_t binary_bit_and_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline int64_t binary_bit_and_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline uint64_t binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline uint16_t *binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_and, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_bit_and_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline double binary_bit_and_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_and, Plain>(x, y);
+}
+inline float *binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                         float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_and, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                          double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_and, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_bit_and_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline uint8_t checked_binary_bit_and_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline int16_t checked_binary_bit_and_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline uint16_t checked_binary_bit_and_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline int32_t checked_binary_bit_and_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline uint32_t checked_binary_bit_and_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline int64_t checked_binary_bit_and_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline uint64_t checked_binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline uint16_t *checked_binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_and, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_bit_and_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline double checked_binary_bit_and_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_and, Checked>(x, y);
+}
+inline float *checked_binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                 float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_and, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                  double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_and, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_bit_or_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline uint8_t binary_bit_or_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline int16_t binary_bit_or_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline uint16_t binary_bit_or_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline int32_t binary_bit_or_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline uint32_t binary_bit_or_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline int64_t binary_bit_or_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline uint64_t binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline uint16_t *binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_or, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_bit_or_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline double binary_bit_or_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_or, Plain>(x, y);
+}
+inline float *binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_or, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_or, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_bit_or_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline uint8_t checked_binary_bit_or_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline int16_t checked_binary_bit_or_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline uint16_t checked_binary_bit_or_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline int32_t checked_binary_bit_or_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline uint32_t checked_binary_bit_or_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline int64_t checked_binary_bit_or_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline uint64_t checked_binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline uint16_t *checked_binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_or, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_bit_or_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline double checked_binary_bit_or_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_or, Checked>(x, y);
+}
+inline float *checked_binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_or, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_or, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline uint8_t binary_bit_xor_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline int16_t binary_bit_xor_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline uint16_t binary_bit_xor_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline int32_t binary_bit_xor_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline uint32_t binary_bit_xor_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline int64_t binary_bit_xor_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline uint64_t binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline uint16_t *binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_xor, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_bit_xor_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline double binary_bit_xor_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_xor, Plain>(x, y);
+}
+inline float *binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                         float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_xor, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                          double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_xor, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline uint8_t checked_binary_bit_xor_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline int16_t checked_binary_bit_xor_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline uint16_t checked_binary_bit_xor_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline int32_t checked_binary_bit_xor_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline uint32_t checked_binary_bit_xor_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline int64_t checked_binary_bit_xor_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline uint64_t checked_binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline uint16_t *checked_binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_xor, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_bit_xor_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline double checked_binary_bit_xor_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_xor, Checked>(x, y);
+}
+inline float *checked_binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                 float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_xor, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                  double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_xor, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_intexp_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline uint8_t binary_intexp_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline int16_t binary_intexp_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline uint16_t binary_intexp_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline int32_t binary_intexp_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline uint32_t binary_intexp_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline int64_t binary_intexp_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline uint64_t binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline uint16_t *binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::intexp, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_intexp_Real32_Real32(float x, float y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline double binary_intexp_Real64_Real64(double x, double y) {
+  return evaluate<binary::intexp, Plain>(x, y);
+}
+inline float *binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::intexp, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::intexp, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_intexp_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline uint8_t checked_binary_intexp_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline int16_t checked_binary_intexp_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline uint16_t checked_binary_intexp_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline int32_t checked_binary_intexp_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline uint32_t checked_binary_intexp_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline int64_t checked_binary_intexp_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline uint64_t checked_binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline uint16_t *checked_binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::intexp, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_intexp_Real32_Real32(float x, float y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline double checked_binary_intexp_Real64_Real64(double x, double y) {
+  return evaluate<binary::intexp, Checked>(x, y);
+}
+inline float *checked_binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::intexp, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::intexp, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_intlen_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline uint8_t binary_intlen_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline int16_t binary_intlen_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline uint16_t binary_intlen_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline int32_t binary_intlen_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline uint32_t binary_intlen_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline int64_t binary_intlen_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline uint64_t binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline uint16_t *binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::intlen, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_intlen_Real32_Real32(float x, float y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline double binary_intlen_Real64_Real64(double x, double y) {
+  return evaluate<binary::intlen, Plain>(x, y);
+}
+inline float *binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                        float y_re, float y_im) {
+  return store(re, im, evaluate<binary::intlen, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::intlen, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_intlen_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline uint8_t checked_binary_intlen_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline int16_t checked_binary_intlen_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline uint16_t checked_binary_intlen_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline int32_t checked_binary_intlen_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline uint32_t checked_binary_intlen_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline int64_t checked_binary_intlen_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline uint64_t checked_binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline uint16_t *checked_binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::intlen, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_intlen_Real32_Real32(float x, float y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline double checked_binary_intlen_Real64_Real64(double x, double y) {
+  return evaluate<binary::intlen, Checked>(x, y);
+}
+inline float *checked_binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::intlen, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::intlen, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline uint8_t binary_bit_shiftleft_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline int16_t binary_bit_shiftleft_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline uint16_t binary_bit_shiftleft_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline int32_t binary_bit_shiftleft_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline uint32_t binary_bit_shiftleft_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline int64_t binary_bit_shiftleft_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline uint64_t binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline uint16_t *binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_shiftleft, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_bit_shiftleft_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline double binary_bit_shiftleft_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_shiftleft, Plain>(x, y);
+}
+inline float *binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                               float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_shiftleft, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_shiftleft, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline uint8_t checked_binary_bit_shiftleft_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline int16_t checked_binary_bit_shiftleft_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline uint16_t checked_binary_bit_shiftleft_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline int32_t checked_binary_bit_shiftleft_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline uint32_t checked_binary_bit_shiftleft_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline int64_t checked_binary_bit_shiftleft_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline uint64_t checked_binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline uint16_t *checked_binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_shiftleft, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_bit_shiftleft_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline double checked_binary_bit_shiftleft_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_shiftleft, Checked>(x, y);
+}
+inline float *checked_binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                       float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_shiftleft, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                        double x_re, double x_im,
+                                                                        double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_shiftleft, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline uint8_t binary_bit_shiftright_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline int16_t binary_bit_shiftright_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline uint16_t binary_bit_shiftright_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline int32_t binary_bit_shiftright_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline uint32_t binary_bit_shiftright_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline int64_t binary_bit_shiftright_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline uint64_t binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline uint16_t *binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_shiftright, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_bit_shiftright_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline double binary_bit_shiftright_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_shiftright, Plain>(x, y);
+}
+inline float *binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_shiftright, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_shiftright, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline uint8_t checked_binary_bit_shiftright_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline int16_t checked_binary_bit_shiftright_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline uint16_t checked_binary_bit_shiftright_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline int32_t checked_binary_bit_shiftright_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline uint32_t checked_binary_bit_shiftright_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline int64_t checked_binary_bit_shiftright_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline uint64_t checked_binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline uint16_t *checked_binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::bit_shiftright, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_bit_shiftright_Real32_Real32(float x, float y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline double checked_binary_bit_shiftright_Real64_Real64(double x, double y) {
+  return evaluate<binary::bit_shiftright, Checked>(x, y);
+}
+inline float *checked_binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                        float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                         double x_re, double x_im,
+                                                                         double y_re, double y_im) {
+  return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline uint8_t ternary_axpy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                               uint8_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline int16_t ternary_axpy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline uint16_t ternary_axpy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                                   uint16_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline int32_t ternary_axpy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline uint32_t ternary_axpy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                                   uint32_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline int64_t ternary_axpy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline uint64_t ternary_axpy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                                   uint64_t y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline uint16_t *ternary_axpy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::axpy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float ternary_axpy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline double ternary_axpy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::axpy, Plain>(a, x, y);
+}
+inline float *ternary_axpy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                     float a_im, float x_re, float x_im,
+                                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::axpy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                      double a_im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im) {
+  return store(re, im, evaluate<ternary::axpy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline uint8_t checked_ternary_axpy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                       uint8_t x,
+                                                                                       uint8_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline int16_t checked_ternary_axpy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline uint16_t checked_ternary_axpy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                           uint16_t x,
+                                                                                           uint16_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline int32_t checked_ternary_axpy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline uint32_t checked_ternary_axpy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                           uint32_t x,
+                                                                                           uint32_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline int64_t checked_ternary_axpy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline uint64_t checked_ternary_axpy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                           uint64_t x,
+                                                                                           uint64_t y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline uint16_t *checked_ternary_axpy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                           uint16_t y) {
+  return store(result, evaluate<ternary::axpy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float checked_ternary_axpy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline double checked_ternary_axpy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::axpy, Checked>(a, x, y);
+}
+inline float *checked_ternary_axpy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                             float a_re, float a_im,
+                                                                             float x_re, float x_im,
+                                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                              double a_re, double a_im,
+                                                                              double x_re, double x_im,
+                                                                              double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline uint8_t ternary_axmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                               uint8_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline int16_t ternary_axmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline uint16_t ternary_axmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                                   uint16_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline int32_t ternary_axmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline uint32_t ternary_axmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                                   uint32_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline int64_t ternary_axmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline uint64_t ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                                   uint64_t y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline uint16_t *ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::axmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline double ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::axmy, Plain>(a, x, y);
+}
+inline float *ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                     float a_im, float x_re, float x_im,
+                                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                      double a_im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im) {
+  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline uint8_t checked_ternary_axmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                       uint8_t x,
+                                                                                       uint8_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline int16_t checked_ternary_axmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline uint16_t checked_ternary_axmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                           uint16_t x,
+                                                                                           uint16_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline int32_t checked_ternary_axmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline uint32_t checked_ternary_axmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                           uint32_t x,
+                                                                                           uint32_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline int64_t checked_ternary_axmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline uint64_t checked_ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                           uint64_t x,
+                                                                                           uint64_t y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline uint16_t *checked_ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                           uint16_t y) {
+  return store(result, evaluate<ternary::axmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float checked_ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline double checked_ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::axmy, Checked>(a, x, y);
+}
+inline float *checked_ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                             float a_re, float a_im,
+                                                                             float x_re, float x_im,
+                                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                              double a_re, double a_im,
+                                                                              double x_re, double x_im,
+                                                                              double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline uint8_t ternary_ymax_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                               uint8_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline int16_t ternary_ymax_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline uint16_t ternary_ymax_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                                   uint16_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline int32_t ternary_ymax_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline uint32_t ternary_ymax_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                                   uint32_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline int64_t ternary_ymax_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline uint64_t ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                                   uint64_t y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline uint16_t *ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::ymax, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline double ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::ymax, Plain>(a, x, y);
+}
+inline float *ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                     float a_im, float x_re, float x_im,
+                                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                      double a_im, double x_re,
+                                                                      double x_im, double y_re,
+                                                                      double y_im) {
+  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline uint8_t checked_ternary_ymax_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                       uint8_t x,
+                                                                                       uint8_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline int16_t checked_ternary_ymax_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline uint16_t checked_ternary_ymax_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                           uint16_t x,
+                                                                                           uint16_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline int32_t checked_ternary_ymax_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline uint32_t checked_ternary_ymax_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                           uint32_t x,
+                                                                                           uint32_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline int64_t checked_ternary_ymax_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline uint64_t checked_ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                           uint64_t x,
+                                                                                           uint64_t y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline uint16_t *checked_ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                           uint16_t y) {
+  return store(result, evaluate<ternary::ymax, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float checked_ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline double checked_ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::ymax, Checked>(a, x, y);
+}
+inline float *checked_ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                             float a_re, float a_im,
+                                                                             float x_re, float x_im,
+                                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                              double a_re, double a_im,
+                                                                              double x_re, double x_im,
+                                                                              double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline uint8_t ternary_adxmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a, uint8_t x,
+                                                                                uint8_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline int16_t ternary_adxmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline uint16_t ternary_adxmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a, uint16_t x,
+                                                                                    uint16_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline int32_t ternary_adxmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline uint32_t ternary_adxmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a, uint32_t x,
+                                                                                    uint32_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline int64_t ternary_adxmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline uint64_t ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a, uint64_t x,
+                                                                                    uint64_t y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline uint16_t *ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
+  return store(result, evaluate<ternary::adxmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline double ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::adxmy, Plain>(a, x, y);
+}
+inline float *ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
+                                                                      float a_im, float x_re, float x_im,
+                                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
+                                                                       double a_im, double x_re,
+                                                                       double x_im, double y_re,
+                                                                       double y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline uint8_t checked_ternary_adxmy_UnsignedInteger8_UnsignedInteger8_UnsignedInteger8(uint8_t a,
+                                                                                        uint8_t x,
+                                                                                        uint8_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline int16_t checked_ternary_adxmy_Integer16_Integer16_Integer16(int16_t a, int16_t x, int16_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline uint16_t checked_ternary_adxmy_UnsignedInteger16_UnsignedInteger16_UnsignedInteger16(uint16_t a,
+                                                                                            uint16_t x,
+                                                                                            uint16_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline int32_t checked_ternary_adxmy_Integer32_Integer32_Integer32(int32_t a, int32_t x, int32_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline uint32_t checked_ternary_adxmy_UnsignedInteger32_UnsignedInteger32_UnsignedInteger32(uint32_t a,
+                                                                                            uint32_t x,
+                                                                                            uint32_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline int64_t checked_ternary_adxmy_Integer64_Integer64_Integer64(int64_t a, int64_t x, int64_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline uint64_t checked_ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint64_t a,
+                                                                                            uint64_t x,
+                                                                                            uint64_t y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline uint16_t *checked_ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
+                                                            uint16_t y) {
+  return store(result, evaluate<ternary::adxmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+}
+inline float checked_ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline double checked_ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) {
+  return evaluate<ternary::adxmy, Checked>(a, x, y);
+}
+inline float *checked_ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im,
+                                                                              float a_re, float a_im,
+                                                                              float x_re, float x_im,
+                                                                              float y_re, float y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                               double a_re, double a_im,
+                                                                               double x_re, double x_im,
+                                                                               double y_re, double y_im) {
+  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+
+} // namespace torvane::inlined
+
+#endif
