@@ -2,7 +2,7 @@
 // in this one process and are called through function pointers; rounds alternate between them and the
 // median round counts. Prints nanoseconds for one operation and our ratio to the best peer.
 //
-//   bench_memory [rounds]
+//   bench_memory [rounds [part of a row's name]]
 #include <torvane/memory.h>
 
 #include <algorithm>
@@ -17,6 +17,7 @@
 #include <random>
 #include <string>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -123,6 +124,12 @@ double replaceOnTwoThreads(const Allocator &a) {
   return (first + second) / 4;
 }
 
+// Spins a little, then lets others run: the machine may have fewer processors free than the figure needs.
+template <class Condition> void waitUntil(Condition holds) {
+  for (int spins = 0; !holds(); ++spins)
+    spins < 2000 ? __builtin_ia32_pause() : std::this_thread::yield();
+}
+
 // One thread allocates, the other releases; blocks travel in batches of 64 through a ring.
 double handOver(const Allocator &a, size_t bytes) {
   constexpr uint64_t kBlocks = 400000, kRing = 4096, kBatch = 64;
@@ -132,13 +139,13 @@ double handOver(const Allocator &a, size_t bytes) {
   const auto start = Clock::now();
   std::thread consumer([&] {
     for (uint64_t i = 0; i < kBlocks; i += kBatch) {
-      while (written.load(std::memory_order_acquire) < i + kBatch) __builtin_ia32_pause();
+      waitUntil([&] { return written.load(std::memory_order_acquire) >= i + kBatch; });
       for (uint64_t j = i; j < i + kBatch; ++j) a.give(ring[j % kRing]);
       read.store(i + kBatch, std::memory_order_release);
     }
   });
   for (uint64_t i = 0; i < kBlocks; i += kBatch) {
-    while (i + kBatch - read.load(std::memory_order_acquire) > kRing) __builtin_ia32_pause();
+    waitUntil([&] { return i + kBatch - read.load(std::memory_order_acquire) <= kRing; });
     for (uint64_t j = i; j < i + kBatch; ++j) touch(ring[j % kRing] = a.take(bytes));
     written.store(i + kBatch, std::memory_order_release);
   }
@@ -151,8 +158,11 @@ double median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
+const char *wanted = "";
+
 void compare(const std::string &what, const std::vector<Allocator> &all, int rounds,
              const std::function<double(const Allocator &)> &measure) {
+  if (what.find(wanted) == std::string::npos) return;
   std::vector<std::vector<double>> times(all.size());
   for (int round = 0; round < rounds; ++round)
     for (size_t i = 0; i < all.size(); ++i) times[i].push_back(measure(all[i]));
@@ -169,8 +179,17 @@ void compare(const std::string &what, const std::vector<Allocator> &all, int rou
 
 } // namespace
 
+// jemalloc wants thread-local storage that the loader must set aside at start.
+void restartWithStaticStorage(char **argv) {
+  if (std::getenv("GLIBC_TUNABLES") != nullptr) return;
+  setenv("GLIBC_TUNABLES", "glibc.rtld.optional_static_tls=8192", 1);
+  execv("/proc/self/exe", argv);
+}
+
 int main(int argc, char **argv) {
+  restartWithStaticStorage(argv);
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 9;
+  if (argc > 2) wanted = argv[2];
   const auto all = allocators();
 
   std::printf("%-28s", "ns");

@@ -72,8 +72,9 @@ void reclaimPending(SizeClass &sizeClass) {
 }
 
 void reclaim(SizeClass &sizeClass) {
-  LockGuard guard(sizeClass.lock);
+  if (!sizeClass.lock.tryEnter()) return;
   reclaimPending(sizeClass);
+  sizeClass.lock.leave();
 }
 
 } // namespace torvane

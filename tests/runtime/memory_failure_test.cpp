@@ -116,7 +116,8 @@ TEST(FatalPath, GivesUpTheReserve) {
     processHeap = &watching;
     fatalOutOfMemory();
   });
-  EXPECT_EQ(outcome.output, std::string("reserve freed") + kMessage);
+  std::string expected = "reserve freed";
+  EXPECT_EQ(outcome.output, expected.append(kMessage));
 }
 
 class FatalRequest : public testing::TestWithParam<uint32_t> {};
