@@ -7,6 +7,11 @@ namespace torvane {
 
 namespace {
 
+// Time-stamp ticks, about a microsecond or two, for which the owner lets cells gather after a reclaim. While
+// another thread hands back one cell after the other this makes the cost of a reclaim, mostly cache lines
+// that travel, one for many cells. A reclaim that comes so much later costs nothing: what waits stays waiting.
+constexpr uint64_t kReclaimPause = 4096;
+
 // Puts the slab's remote list in front of its free list; returns the number of cells.
 uint32_t spliceRemoteCells(Slab *slab) {
   uint32_t count = 1;

@@ -11,8 +11,8 @@ void freeCellOfOtherThread(Slab *slab, FreeCell *cell);
 // Moves all cells that other threads have freed to their slabs' free lists. Under the class's lock.
 void reclaimPending(SizeClass &sizeClass);
 
-// The owner's form: takes the lock, unless another thread is just handing a cell back; then what waits is
-// reclaimed at the owner's next step in the class instead, and neither thread stops for the other.
+// The owner's form: takes the lock. Puts it off to the owner's next step in the class when another thread is
+// just handing a cell back, or when the last reclaim was only just now and there are cells at hand.
 void reclaim(SizeClass &sizeClass);
 
 } // namespace torvane

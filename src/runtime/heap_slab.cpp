@@ -52,7 +52,7 @@ void releaseSlab(Slab *slab) {
   enterSlab(sizeClass, slab->memory, nullptr);
   giveSlabMemory(sizeClass, slab->memory);
   sizeClass.heap->freeBytes -= slabTotalBytes(sizeClass);
-  processHeap.load(std::memory_order_relaxed)->give(slab);
+  processHeap.load(std::memory_order_relaxed)->giveAligned(slab);
 }
 
 void takeOffPartial(Slab *slab) {
@@ -87,12 +87,12 @@ void abandonCells(Slab *slab) {
 
 Slab *newSlab(SizeClass &sizeClass) {
   const ProcessHeap &source = *processHeap.load(std::memory_order_relaxed);
-  auto *slab = static_cast<Slab *>(source.take(sizeof(Slab)));
+  auto *slab = static_cast<Slab *>(source.takeAligned(sizeof(Slab), alignof(Slab) > sizeof(void *) ? alignof(Slab) : sizeof(void *)));
   if (slab == nullptr) return nullptr;
   void *memory = takeSlabMemory(sizeClass);
   if (memory == nullptr || !enterSlab(sizeClass, memory, slab)) {
     if (memory != nullptr) giveSlabMemory(sizeClass, memory);
-    source.give(slab);
+    source.giveAligned(slab);
     return nullptr;
   }
   fillHeader(slab, sizeClass, memory);

@@ -20,12 +20,19 @@ struct Slab {
   Slab *prev;
   Slab *next;
   Slab *pendingNext; // the slab itself while it is on no pending list
-  FreeCell *freeHead;
+#if UINTPTR_MAX > UINT32_MAX
+  // What other threads write and what the owner writes lie in cache lines apart, so that a thread that hands
+  // cells back does not slow an owner that takes cells from the same slab.
   FreeCell *remoteHead; // freed by other threads; under the class's lock
+  alignas(kCacheLineBytes) FreeCell *freeHead;
+#else
+  FreeCell *freeHead;
+  FreeCell *remoteHead;
+#endif
   void *memory;
   uint32_t freeCount;
 };
-static_assert(sizeof(void *) == 4 ? sizeof(Slab) == 32 : sizeof(Slab) == 64);
+static_assert(sizeof(void *) == 4 ? sizeof(Slab) == 32 : sizeof(Slab) == 2 * kCacheLineBytes);
 
 // What a slab adds to its heap's freeBytes when it is new.
 inline uint32_t slabTotalBytes(const SizeClass &sizeClass) {

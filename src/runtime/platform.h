@@ -60,6 +60,9 @@ void deleteThreadSlot(ThreadSlot slot);
 void *threadSlotValue(ThreadSlot slot);
 void setThreadSlotValue(ThreadSlot slot, void *value);
 
+// A counter that runs with time, some billions a second; cheap to read.
+inline uint64_t timeStamp() { return __builtin_ia32_rdtsc(); }
+
 uint32_t currentThreadId();
 void sleepMilliseconds(uint32_t milliseconds);
 void writeStandardOutput(const char *text);
