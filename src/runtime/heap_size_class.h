@@ -27,7 +27,7 @@ inline constexpr uint32_t kBareSlabBytes = 65536; // the area of every slab of b
 struct SizeClass {
   ThreadHeap *heap;
 #if UINTPTR_MAX == UINT32_MAX
-  Lock lock; // over pendingSlabs, remoteBytes and the slabs' remote lists
+  BriefLock lock; // over pendingSlabs, remoteBytes and the slabs' remote lists
 #endif
   Slab *fullSlabs;
   Slab *partialSlabs;
@@ -44,7 +44,7 @@ struct SizeClass {
 #if UINTPTR_MAX > UINT32_MAX
   // Written for every cell that comes back from another thread: in a cache line that the owner's common
   // roads do not read.
-  alignas(kCacheLineBytes) Lock lock;
+  alignas(kCacheLineBytes) BriefLock lock;
   uint32_t remoteBytes;
 #endif
 };
