@@ -11,10 +11,10 @@ namespace torvane {
 inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 
 // The whole of an allocation, step by step, and the release of any block that is not in the hot slab.
-void *allocateSlowly(uint32_t size, mint errorMode);
-void *allocateWithHeader(uint32_t size, mint errorMode);
-void freeByPageMap(void *block);
-void settleAndReclaim(Slab *slab);
+[[gnu::noinline]] void *allocateSlowly(uint32_t size, mint errorMode);
+[[gnu::noinline]] void *allocateWithHeader(uint32_t size, mint errorMode);
+[[gnu::noinline]] void freeByPageMap(void *block);
+[[gnu::noinline]] void settleAndReclaim(Slab *slab);
 
 // Takes the first free cell of a slab on the partial list. `hasHeader` is known where this is called.
 [[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab, bool hasHeader) {

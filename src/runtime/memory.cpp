@@ -50,7 +50,9 @@ Slab *slabWithFreeCell(SizeClass &sizeClass) {
   if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaim(sizeClass);
   if (sizeClass.partialSlabs != nullptr) return sizeClass.partialSlabs;
   if (Slab *slab = takeSpareSlab(sizeClass)) return slab;
-  return newSlab(sizeClass);
+  if (Slab *slab = newSlab(sizeClass)) return slab;
+  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaimNow(sizeClass);
+  return sizeClass.partialSlabs;
 }
 
 void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
@@ -60,7 +62,7 @@ void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   return handOut(heap, sizeClass, slab, hasCellHeaders(sizeClass));
 }
 
-void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
+[[gnu::noinline]] void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   void *block = takeLargeBlock(heap, bytes);
   if (block == nullptr) return failRequest(bytes, errorMode);
   chargeBytes(heap, bytes);
@@ -80,7 +82,7 @@ uintptr_t headerWord(const void *block) {
 
 bool namesSlab(uintptr_t word) { return (word & 1) != 0 && word != 1; }
 
-void freeWithHeader(void *block) {
+[[gnu::noinline]] void freeWithHeader(void *block) {
   const uintptr_t word = headerWord(block);
   if (!namesSlab(word)) return freeLargeBlock(largeBlockOf(block));
   freeCell(reinterpret_cast<Slab *>(word - 1),
