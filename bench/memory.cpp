@@ -12,9 +12,12 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <dlfcn.h>
 #include <functional>
+#include <pthread.h>
 #include <random>
+#include <sched.h>
 #include <string>
 #include <thread>
 #include <unistd.h>
@@ -92,6 +95,21 @@ double bursts(const Allocator &a, size_t bytes) {
   return nanosecondsSince(start) / (kBursts * blocks.size());
 }
 
+// Puts the calling thread on one processor: two threads that the scheduler happens to keep on the same one
+// measure the scheduler.
+void pinTo(int processor) {
+  cpu_set_t set;
+  CPU_ZERO(&set);
+  CPU_SET(processor, &set);
+  pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}
+
+void unpin() {
+  cpu_set_t set;
+  std::memset(&set, 0xFF, sizeof set);
+  pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}
+
 constexpr int kReplacements = 400000;
 
 // Blocks of 16 to 1024 bytes, small ones more often, replaced at random.
@@ -118,9 +136,14 @@ double replaceAtRandom(const Allocator &a, uint32_t seed) {
 // Both threads' replacements count, so that perfect scaling halves the figure of one thread.
 double replaceOnTwoThreads(const Allocator &a) {
   double first = 0, second = 0;
-  std::thread other([&] { second = replaceAtRandom(a, 1); });
+  pinTo(0);
+  std::thread other([&] {
+    pinTo(1);
+    second = replaceAtRandom(a, 1);
+  });
   first = replaceAtRandom(a, 2);
   other.join();
+  unpin();
   return (first + second) / 4;
 }
 
@@ -137,7 +160,9 @@ double handOver(const Allocator &a, size_t bytes) {
   alignas(64) std::atomic<uint64_t> written{0};
   alignas(64) std::atomic<uint64_t> read{0};
   const auto start = Clock::now();
+  pinTo(0);
   std::thread consumer([&] {
+    pinTo(1);
     for (uint64_t i = 0; i < kBlocks; i += kBatch) {
       waitUntil([&] { return written.load(std::memory_order_acquire) >= i + kBatch; });
       for (uint64_t j = i; j < i + kBatch; ++j) a.give(ring[j % kRing]);
@@ -150,6 +175,7 @@ double handOver(const Allocator &a, size_t bytes) {
     written.store(i + kBatch, std::memory_order_release);
   }
   consumer.join();
+  unpin();
   return nanosecondsSince(start) / kBlocks;
 }
 

@@ -57,13 +57,15 @@ void releaseSlab(Slab *slab) {
 
 void takeOffPartial(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
-  unlink(sizeClass.partialSlabs, slab);
+  unlinkFromQueue(sizeClass.partialSlabs, slab);
   --sizeClass.partialCount;
 }
 
 bool isWhollyFree(const Slab *slab) { return slab->freeCount == slab->sizeClass->objectsPerSlab; }
 
-// An idle slab in place gives way: cells are taken from slabs in use first.
+// At the end of the queue, so that a slab gathers free cells until its turn comes; at the front it would lose
+// each cell again at once, and move between the lists with every cell. An idle slab in place gives way:
+// cells are taken from slabs in use first.
 void putOnPartial(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
   Slab *head = sizeClass.partialSlabs;
@@ -71,7 +73,7 @@ void putOnPartial(Slab *slab) {
     takeOffPartial(head);
     sizeClass.spareSlab = head;
   }
-  pushFront(sizeClass.partialSlabs, slab);
+  pushBack(sizeClass.partialSlabs, slab);
   ++sizeClass.partialCount;
 }
 
@@ -112,7 +114,7 @@ Slab *takeSpareSlab(SizeClass &sizeClass) {
 void retireSlab(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
   const bool hasSpare = sizeClass.spareSlab != nullptr;
-  if (!hasSpare && slab->prev == nullptr && slab->next == nullptr) return;
+  if (!hasSpare && slab == sizeClass.partialSlabs && slab->next == nullptr) return;
   takeOffPartial(slab);
   if (hasSpare)
     releaseSlab(slab);

@@ -1,9 +1,9 @@
 // A slab: an object area cut into equal cells of one size class, with its header apart from it. A slab
-// is on its class's partial list while it has free cells, on the full list when it has none, and on
+// is on its class's partial queue while it has free cells, on the full list when it has none, and on
 // neither while it is the class's spare. For every slab
 //     freeCount = length(freeHead),  live = objectsPerSlab - freeCount,
 // where live cells include those that wait on remoteHead for their owner. Of wholly free slabs a class keeps one, its idle slab: the spare, or,
-// where it is the only slab on the partial list, left there in place, so that a program that takes and
+// where it is the only slab on the partial queue, left there in place, so that a program that takes and
 // returns one cell again and again moves no links.
 #pragma once
 
@@ -39,18 +39,18 @@ inline uint32_t slabTotalBytes(const SizeClass &sizeClass) {
   return sizeClass.slabDataBytes + static_cast<uint32_t>(sizeof(Slab));
 }
 
-// A new slab at the head of the partial list, all cells free in address order; null when memory is
+// A new slab on the partial queue, which was empty, all cells free in address order; null when memory is
 // exhausted, and then nothing has changed. Owner only.
 Slab *newSlab(SizeClass &sizeClass);
 
-// Takes the spare back onto the partial list; null when there is none.
+// Takes the spare back onto the partial queue; null when there is none.
 Slab *takeSpareSlab(SizeClass &sizeClass);
 
-// A slab on the partial list that became wholly free: it becomes the idle slab, or is released if
+// A slab on the partial queue that became wholly free: it becomes the idle slab, or is released if
 // there is one.
 void retireSlab(Slab *slab);
 
-// A slab on the partial list whose last cell was handed out, and one on the full list that got one back.
+// A slab on the partial queue whose last cell was handed out, and one on the full list that got one back.
 void *moveToFull(Slab *slab, void *block); // returns `block`, so that it can be a tail call
 void moveToPartial(Slab *slab);
 

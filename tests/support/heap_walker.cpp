@@ -71,9 +71,10 @@ uint32_t checkSlab(const Slab *slab, const SizeClass &sizeClass, Totals &totals,
   return remote * sizeClass.objectBytes;
 }
 
-template <class Record> std::vector<Record *> walkList(Record *head, Findings &findings) {
+// `before` is what the first record's prev holds: null, or in a queue the last record.
+template <class Record>
+std::vector<Record *> walkList(Record *head, Findings &findings, const Record *before = nullptr) {
   std::vector<Record *> records;
-  const Record *before = nullptr;
   for (Record *record = head; record != nullptr && findings.text.empty(); record = record->next) {
     findings.expect(record->prev == before, "a list's prev link is wrong");
     before = record;
@@ -109,7 +110,9 @@ void checkClass(SizeClass &sizeClass, ThreadHeap *heap, Totals &totals, Findings
   findings.expect(sizeClass.heap == heap, "a class belongs to another heap");
   std::vector<Slab *> slabs = walkList(sizeClass.fullSlabs, findings);
   for (const Slab *slab : slabs) findings.expect(slab->freeCount == 0, "a full slab has free cells");
-  const std::vector<Slab *> partial = walkList(sizeClass.partialSlabs, findings);
+  const Slab *last = sizeClass.partialSlabs == nullptr ? nullptr : sizeClass.partialSlabs->prev;
+  const std::vector<Slab *> partial = walkList<Slab>(sizeClass.partialSlabs, findings, last);
+  findings.expect(partial.empty() || partial.back() == last, "the partial queue does not know its last slab");
   findings.expect(partial.size() == sizeClass.partialCount, "partialCount is wrong");
   checkIdleSlab(sizeClass, partial, findings);
   slabs.insert(slabs.end(), partial.begin(), partial.end());
