@@ -149,8 +149,7 @@ double replaceOnTwoThreads(const Allocator &a) {
 
 // Spins a little, then lets others run: the machine may have fewer processors free than the figure needs.
 template <class Condition> void waitUntil(Condition holds) {
-  for (int spins = 0; !holds(); ++spins)
-    spins < 2000 ? __builtin_ia32_pause() : std::this_thread::yield();
+  for (int spins = 0; !holds(); ++spins) spins < 2000 ? __builtin_ia32_pause() : std::this_thread::yield();
 }
 
 // One thread allocates, the other releases; blocks travel in batches of 64 through a ring.
@@ -228,5 +227,6 @@ int main(int argc, char **argv) {
   compare("10,000 blocks at random", all, rounds, [&](auto &a) { return replaceAtRandom(a, 7); });
   compare("the same on two threads", all, rounds, [&](auto &a) { return replaceOnTwoThreads(a); });
   for (const size_t bytes : {16, 64, 256, 1024})
-    compare("handed over, " + std::to_string(bytes), all, rounds, [&](auto &a) { return handOver(a, bytes); });
+    compare("handed over, " + std::to_string(bytes), all, rounds,
+            [&](auto &a) { return handOver(a, bytes); });
 }

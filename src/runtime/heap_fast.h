@@ -17,7 +17,8 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 [[gnu::noinline]] void settleAndReclaim(Slab *slab);
 
 // Takes the first free cell of a slab on the partial list. `hasHeader` is known where this is called.
-[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab, bool hasHeader) {
+[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab,
+                                            bool hasHeader) {
   FreeCell *cell = slab->freeHead;
   const uint32_t bytes = sizeClass.objectBytes;
   slab->freeHead = cell->next;
@@ -28,14 +29,17 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
     *reinterpret_cast<uintptr_t *>(cell) = reinterpret_cast<uintptr_t>(slab) + 1;
     block = reinterpret_cast<char *>(cell) + kCellHeaderBytes;
   }
-  if (--slab->freeCount == 0) [[unlikely]] return moveToFull(slab, block);
+  if (--slab->freeCount == 0) [[unlikely]]
+    return moveToFull(slab, block);
   return block;
 }
 
 // Size 0 finds the empty class 0, which has nothing ready.
-[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader, mint errorMode) {
+[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader,
+                                                  mint errorMode) {
   ThreadHeap *heap = thisThread.heap;
-  if (heap == nullptr || heap->limitBytes != 0) [[unlikely]] return allocateSlowly(size, errorMode);
+  if (heap == nullptr || heap->limitBytes != 0) [[unlikely]]
+    return allocateSlowly(size, errorMode);
   SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[bytes / 8]];
   Slab *slab = sizeClass.partialSlabs;
   if (slab == nullptr || sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
@@ -44,7 +48,8 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 }
 
 [[gnu::always_inline]] inline void *allocateInline(uint32_t size, mint errorMode) {
-  if (size <= kMaxBareCellBytes) [[likely]] return takeReadyCell(size, roundUpTo8(size), false, errorMode);
+  if (size <= kMaxBareCellBytes) [[likely]]
+    return takeReadyCell(size, roundUpTo8(size), false, errorMode);
   return allocateWithHeader(size, errorMode);
 }
 
@@ -54,7 +59,8 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
   returnCell(heap, slab, cell);
   if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
     return settleAndReclaim(slab);
-  if (slab->freeCount == 1) [[unlikely]] return moveToPartial(slab);
+  if (slab->freeCount == 1) [[unlikely]]
+    return moveToPartial(slab);
   if (slab->freeCount == sizeClass.objectsPerSlab) retireSlab(slab);
 }
 

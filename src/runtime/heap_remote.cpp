@@ -9,7 +9,8 @@ namespace {
 
 // Time-stamp ticks, about a microsecond or two, for which the owner lets cells gather after a reclaim. While
 // another thread hands back one cell after the other this makes the cost of a reclaim, mostly cache lines
-// that travel, one for many cells. A reclaim that comes so much later costs nothing: what waits stays waiting.
+// that travel, one for many cells. A reclaim that comes so much later costs nothing: what waits stays
+// waiting.
 constexpr uint64_t kReclaimPause = 4096;
 
 // What is taken off the pending list in one go.

@@ -30,7 +30,7 @@ struct SizeClass {
   BriefLock lock; // over pendingSlabs, remoteBytes and the slabs' remote lists
 #endif
   Slab *fullSlabs;
-  Slab *partialSlabs; // a queue (heap_list.h); cells are taken from its first slab
+  Slab *partialSlabs;               // a queue (heap_list.h); cells are taken from its first slab
   std::atomic<Slab *> pendingSlabs; // written under the lock, polled by the owner without it
   Slab *spareSlab;                  // at most one wholly free slab, on no list
   uint32_t slabDataBytes;

@@ -10,8 +10,7 @@ namespace {
 
 void *takeSlabMemory(SizeClass &sizeClass) {
   AreaCache &areas = areasOf(sizeClass.heap);
-  return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes)
-                                   : takeAlignedArea(areas);
+  return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes) : takeAlignedArea(areas);
 }
 
 void giveSlabMemory(SizeClass &sizeClass, void *memory) {
@@ -32,8 +31,7 @@ FreeCell *chainCells(void *memory, uint32_t cellBytes, uint32_t count) {
 }
 
 bool enterSlab(const SizeClass &sizeClass, const void *memory, Slab *entry) {
-  return hasCellHeaders(sizeClass) ||
-         enterInPageMap(currentState(), memory, sizeClass.slabDataBytes, entry);
+  return hasCellHeaders(sizeClass) || enterInPageMap(currentState(), memory, sizeClass.slabDataBytes, entry);
 }
 
 void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
@@ -89,7 +87,8 @@ void abandonCells(Slab *slab) {
 
 Slab *newSlab(SizeClass &sizeClass) {
   const ProcessHeap &source = *processHeap.load(std::memory_order_relaxed);
-  auto *slab = static_cast<Slab *>(source.takeAligned(sizeof(Slab), alignof(Slab) > sizeof(void *) ? alignof(Slab) : sizeof(void *)));
+  auto *slab = static_cast<Slab *>(
+      source.takeAligned(sizeof(Slab), alignof(Slab) > sizeof(void *) ? alignof(Slab) : sizeof(void *)));
   if (slab == nullptr) return nullptr;
   void *memory = takeSlabMemory(sizeClass);
   if (memory == nullptr || !enterSlab(sizeClass, memory, slab)) {

@@ -2,9 +2,9 @@
 // is on its class's partial queue while it has free cells, on the full list when it has none, and on
 // neither while it is the class's spare. For every slab
 //     freeCount = length(freeHead),  live = objectsPerSlab - freeCount,
-// where live cells include those that wait on remoteHead for their owner. Of wholly free slabs a class keeps one, its idle slab: the spare, or,
-// where it is the only slab on the partial queue, left there in place, so that a program that takes and
-// returns one cell again and again moves no links.
+// where live cells include those that wait on remoteHead for their owner. Of wholly free slabs a class keeps
+// one, its idle slab: the spare, or, where it is the only slab on the partial queue, left there in place, so
+// that a program that takes and returns one cell again and again moves no links.
 #pragma once
 
 #include "heap_thread.h"

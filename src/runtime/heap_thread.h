@@ -45,7 +45,8 @@ struct HeapRecords {
   SizeClass *classes[kClassCount + 1];
   AreaCache areas;
   uint64_t lastReclaim[kClassCount + 1]; // time stamps; see heap_remote.cpp
-  alignas(kCacheLineBytes) SizeClass sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
+  alignas(kCacheLineBytes) SizeClass
+      sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
 };
 
 // What a heap counts as used before it has handed out anything.

@@ -71,7 +71,8 @@ void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
 
 void freeCell(Slab *slab, FreeCell *cell) {
   ThreadHeap *heap = slab->sizeClass->heap;
-  if (heap != thisThread.heap) [[unlikely]] return freeCellOfOtherThread(slab, cell);
+  if (heap != thisThread.heap) [[unlikely]]
+    return freeCellOfOtherThread(slab, cell);
   takeBack(heap, slab, cell);
 }
 

@@ -71,7 +71,8 @@ void setThreadSlotValue(ThreadSlot slot, void *value) { pthread_setspecific(slot
 uint32_t currentThreadId() { return static_cast<uint32_t>(syscall(SYS_gettid)); }
 
 void sleepMilliseconds(uint32_t milliseconds) {
-  timespec remaining = {static_cast<time_t>(milliseconds / 1000), static_cast<long>(milliseconds % 1000) * 1000000};
+  timespec remaining = {static_cast<time_t>(milliseconds / 1000),
+                        static_cast<long>(milliseconds % 1000) * 1000000};
   while (nanosleep(&remaining, &remaining) != 0) {
   }
 }

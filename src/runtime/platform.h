@@ -41,9 +41,9 @@ private:
   std::atomic<uintptr_t> word{0}; // 0 free, 1 held, 2 held and waited for
 };
 
-// A critical section of one word for a handful of instructions. Who has to wait spins and then sleeps in short
-// naps, so that leaving is a plain store: half the cost of a Lock where nobody waits. Not recursive. All zero
-// is unlocked.
+// A critical section of one word for a handful of instructions. Who has to wait spins and then sleeps in
+// short naps, so that leaving is a plain store: half the cost of a Lock where nobody waits. Not recursive.
+// All zero is unlocked.
 class BriefLock {
 public:
   void enter() {

@@ -56,13 +56,17 @@ bool isIntact(const Block &block, uint32_t bytes) {
 }
 
 uint32_t randomSize(Random &random) {
-  static constexpr uint32_t kBorders[] = {1, 7, 8, 9, 128, 129, 1023, 1024, 1025, 1032, 1144, 1145, 65520, 65527,
-                                          65528, 65529, 65536, 131072};
+  static constexpr uint32_t kBorders[] = {1,    7,    8,    9,     128,   129,   1023,  1024,  1025,
+                                          1032, 1144, 1145, 65520, 65527, 65528, 65529, 65536, 131072};
   switch (random() % 8) {
-  case 0: return kBorders[random() % std::size(kBorders)];
-  case 1: return 1 + random() % 70000;
-  case 2: return 1 + random() % 5000;
-  default: return 1 + random() % 600;
+  case 0:
+    return kBorders[random() % std::size(kBorders)];
+  case 1:
+    return 1 + random() % 70000;
+  case 2:
+    return 1 + random() % 5000;
+  default:
+    return 1 + random() % 600;
   }
 }
 

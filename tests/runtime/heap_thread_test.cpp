@@ -107,7 +107,8 @@ TEST(RemoteFree, OfAllCellsOfManySlabsKeepsOneOfThem) {
       });
       EXPECT_TRUE(isValidHere());
       void *block = allocate(size, 0, kFatal);
-      const SizeClass &sizeClass = *thisThread.heap->classes[classOfSize[(size + 7 + (size > 1024 ? 8 : 0)) / 8]];
+      const SizeClass &sizeClass =
+          *thisThread.heap->classes[classOfSize[(size + 7 + (size > 1024 ? 8 : 0)) / 8]];
       EXPECT_EQ(sizeClass.fullSlabs, nullptr);
       EXPECT_EQ(sizeClass.partialCount, 1u);
       EXPECT_TRUE(isValidHere());
@@ -125,7 +126,8 @@ TEST(ThreadEnd, DestroysAnEmptyHeapAndReturnsAllItsMemory) {
     const int64_t out = heap.blocksOut();
     onThread([] {
       std::vector<void *> blocks;
-      for (uint32_t size = 1; size < 300000; size = size * 3 / 2 + 1) blocks.push_back(allocate(size, 0, kFatal));
+      for (uint32_t size = 1; size < 300000; size = size * 3 / 2 + 1)
+        blocks.push_back(allocate(size, 0, kFatal));
       for (void *block : blocks) free(block);
     });
     if (round == 1) {
@@ -163,7 +165,8 @@ TEST(ThreadEnd, LeavesLiveBlocksValidForAnyThreadToFree) {
 TEST(ThreadEnd, ReclaimsWhatOthersHaveFreed) {
   const uint32_t heaps = heapCount();
   onThread([] {
-    void *small = allocate(100, 0, kFatal), *big = allocate(5000, 0, kFatal), *large = allocate(100000, 0, kFatal);
+    void *small = allocate(100, 0, kFatal), *big = allocate(5000, 0, kFatal),
+         *large = allocate(100000, 0, kFatal);
     onThread([&] {
       free(small);
       free(big);
@@ -211,7 +214,8 @@ TEST(ThreadEnd, FindsTheHeapWhoseWordIsLost) {
   EXPECT_EQ(heapCount(), heaps);
 }
 
-// Several threads return the blocks of one orphan in several classes at once; exactly one of them destroys it.
+// Several threads return the blocks of one orphan in several classes at once; exactly one of them destroys
+// it.
 TEST(Orphan, IsDestroyedOnceByManyFreeingThreads) {
   const uint32_t heaps = heapCount();
   FailingHeap processBlocks;
@@ -247,7 +251,8 @@ TEST(Orphan, TakesBlocksBackWhileItsThreadEnds) {
     std::vector<void *> blocks(200);
     std::atomic<bool> ready{false};
     std::thread owner([&] {
-      for (size_t i = 0; i < blocks.size(); ++i) blocks[i] = allocate(i % 5 == 0 ? 70000 : 8u << (i % 12), 0, kFatal);
+      for (size_t i = 0; i < blocks.size(); ++i)
+        blocks[i] = allocate(i % 5 == 0 ? 70000 : 8u << (i % 12), 0, kFatal);
       ready.store(true, std::memory_order_release);
     });
     std::thread others[2];
@@ -279,7 +284,8 @@ TEST(Orphan, MayEndWhileStatisticsAreTaken) {
   for (int round = 0; round < 200; ++round) {
     std::vector<void *> blocks(40);
     onThread([&] {
-      for (void *&block : blocks) block = allocate(100 + static_cast<uint32_t>(&block - blocks.data()) * 2000, 0, kFatal);
+      for (void *&block : blocks)
+        block = allocate(100 + static_cast<uint32_t>(&block - blocks.data()) * 2000, 0, kFatal);
     });
     std::thread helper([&] {
       for (size_t i = 0; i < blocks.size(); i += 2) free(blocks[i]);

@@ -70,29 +70,30 @@ TEST(State, IsMadeByTheFirstAllocationToo) {
 }
 
 TEST(State, TornDownReturnsEverythingWhateverIsInUse) {
-  EXPECT_EQ(statusOfChild([](ChildChecks &checks) {
-              tearDownMemory();
-              FailingHeap heap;
-              for (uint32_t size = 1; size < 2000000; size = size * 5 / 4 + 1) allocate(size, 0, kFatal);
-              onThread([] {
-                for (uint32_t size = 1; size < 200000; size *= 2) allocate(size, 0, kFatal);
-              });
-              void *remote[] = {allocate(10, 0, kFatal), allocate(2000, 0, kFatal), allocate(70000, 0, kFatal)};
-              onThread([&] {
-                for (void *block : remote) free(block);
-              });
-              checks.expect(isValidState());
-              checks.expect(currentState()->threads->next != nullptr);
-              tearDownMemory();
-              checks.expect(heap.blocksOut() == 0);
-              checks.expect(currentState() == nullptr && thisThread.heap == nullptr);
-              tearDownMemory();
-              free(allocate(100, 0, kFatal));
-              checks.expect(isValidState());
-              tearDownMemory();
-              checks.expect(heap.blocksOut() == 0);
-            }),
-            0);
+  EXPECT_EQ(
+      statusOfChild([](ChildChecks &checks) {
+        tearDownMemory();
+        FailingHeap heap;
+        for (uint32_t size = 1; size < 2000000; size = size * 5 / 4 + 1) allocate(size, 0, kFatal);
+        onThread([] {
+          for (uint32_t size = 1; size < 200000; size *= 2) allocate(size, 0, kFatal);
+        });
+        void *remote[] = {allocate(10, 0, kFatal), allocate(2000, 0, kFatal), allocate(70000, 0, kFatal)};
+        onThread([&] {
+          for (void *block : remote) free(block);
+        });
+        checks.expect(isValidState());
+        checks.expect(currentState()->threads->next != nullptr);
+        tearDownMemory();
+        checks.expect(heap.blocksOut() == 0);
+        checks.expect(currentState() == nullptr && thisThread.heap == nullptr);
+        tearDownMemory();
+        free(allocate(100, 0, kFatal));
+        checks.expect(isValidState());
+        tearDownMemory();
+        checks.expect(heap.blocksOut() == 0);
+      }),
+      0);
 }
 
 TEST(State, OfAHostIsSharedWithItsHeaps) {

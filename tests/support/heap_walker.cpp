@@ -29,7 +29,8 @@ uint32_t markCells(const Slab *slab, const FreeCell *head, std::vector<bool> &ma
   const SizeClass &sizeClass = *slab->sizeClass;
   uint32_t count = 0;
   for (const FreeCell *cell = head; cell != nullptr; cell = cell->next, ++count) {
-    const size_t offset = static_cast<size_t>(reinterpret_cast<const char *>(cell) - static_cast<char *>(slab->memory));
+    const size_t offset =
+        static_cast<size_t>(reinterpret_cast<const char *>(cell) - static_cast<char *>(slab->memory));
     const size_t index = offset / sizeClass.objectBytes;
     if (offset % sizeClass.objectBytes != 0 || index >= sizeClass.objectsPerSlab || marked[index]) {
       findings.expect(false, "a free list leaves its slab, or holds a cell twice");
@@ -51,7 +52,8 @@ void checkLiveHeaders(const Slab *slab, const std::vector<bool> &free, Findings 
 void checkPageMap(const Slab *slab, Findings &findings) {
   const char *memory = static_cast<const char *>(slab->memory);
   for (uint32_t at = 0; at < slab->sizeClass->slabDataBytes; at += 4096)
-    findings.expect(slabOfAddress(currentState()->pageMap, memory + at) == slab, "a page of a slab is not in the page map");
+    findings.expect(slabOfAddress(currentState()->pageMap, memory + at) == slab,
+                    "a page of a slab is not in the page map");
   findings.expect(reinterpret_cast<uintptr_t>(memory) % kSlabAlignment == 0, "a slab is not aligned");
 }
 
@@ -67,7 +69,8 @@ uint32_t checkSlab(const Slab *slab, const SizeClass &sizeClass, Totals &totals,
   else
     checkPageMap(slab, findings);
   totals.liveBytes += (sizeClass.objectsPerSlab - freeCells) * sizeClass.objectBytes;
-  totals.freeBytes += slabTotalBytes(sizeClass) - (sizeClass.objectsPerSlab - freeCells) * sizeClass.objectBytes;
+  totals.freeBytes +=
+      slabTotalBytes(sizeClass) - (sizeClass.objectsPerSlab - freeCells) * sizeClass.objectBytes;
   return remote * sizeClass.objectBytes;
 }
 
@@ -90,18 +93,21 @@ void checkPending(const SizeClass &sizeClass, const std::vector<Slab *> &slabs, 
   for (const Slab *slab : slabs) {
     findings.expect((pending.erase(slab) != 0) == (slab->remoteHead != nullptr),
                     "a slab is pending without remote cells, or has some and is not");
-    if (slab->remoteHead == nullptr) findings.expect(slab->pendingNext == slab, "an idle pendingNext is not the slab itself");
+    if (slab->remoteHead == nullptr)
+      findings.expect(slab->pendingNext == slab, "an idle pendingNext is not the slab itself");
   }
   findings.expect(pending.empty(), "a pending slab is on no list");
 }
 
 void checkIdleSlab(const SizeClass &sizeClass, const std::vector<Slab *> &partial, Findings &findings) {
   if (sizeClass.spareSlab != nullptr)
-    findings.expect(sizeClass.spareSlab->freeCount == sizeClass.objectsPerSlab, "the spare slab has live cells");
+    findings.expect(sizeClass.spareSlab->freeCount == sizeClass.objectsPerSlab,
+                    "the spare slab has live cells");
   for (const Slab *slab : partial) {
     findings.expect(slab->freeCount > 0, "a slab without free cells is on the partial list");
     if (slab->freeCount == sizeClass.objectsPerSlab)
-      findings.expect(partial.size() == 1 && sizeClass.spareSlab == nullptr, "a second wholly free slab is kept");
+      findings.expect(partial.size() == 1 && sizeClass.spareSlab == nullptr,
+                      "a second wholly free slab is kept");
   }
 }
 
@@ -117,7 +123,8 @@ void checkClass(SizeClass &sizeClass, ThreadHeap *heap, Totals &totals, Findings
   checkIdleSlab(sizeClass, partial, findings);
   slabs.insert(slabs.end(), partial.begin(), partial.end());
   if (sizeClass.spareSlab != nullptr) slabs.push_back(sizeClass.spareSlab);
-  findings.expect(std::set<Slab *>(slabs.begin(), slabs.end()).size() == slabs.size(), "a slab is on two lists");
+  findings.expect(std::set<Slab *>(slabs.begin(), slabs.end()).size() == slabs.size(),
+                  "a slab is on two lists");
   uint32_t remoteBytes = 0;
   for (const Slab *slab : slabs) remoteBytes += checkSlab(slab, sizeClass, totals, findings);
   findings.expect(remoteBytes == sizeClass.remoteBytes, "remoteBytes is wrong");
@@ -131,7 +138,8 @@ void checkLargeBlocks(ThreadHeap *heap, Totals &totals, Findings &findings) {
     if (!deferred.insert(block).second) return findings.expect(false, "deferredLarge runs in a circle");
   for (const LargeBlock *block : walkList(heap->largeBlocks, findings)) {
     findings.expect(block->heap == heap && block->totalBytes % 2 == 0, "a large block's header is wrong");
-    if (deferred.erase(block) == 0) findings.expect(block->deferredNext == block, "deferredNext is not the block itself");
+    if (deferred.erase(block) == 0)
+      findings.expect(block->deferredNext == block, "deferredNext is not the block itself");
     totals.liveBytes += block->totalBytes;
   }
   findings.expect(deferred.empty(), "a deferred block is not the heap's");
@@ -186,7 +194,8 @@ testing::AssertionResult isValidHeap(ThreadHeap *heap, uint32_t externalBytes) {
 }
 
 testing::AssertionResult isValidHere(uint32_t externalBytes) {
-  return thisThread.heap == nullptr ? testing::AssertionSuccess() : isValidHeap(thisThread.heap, externalBytes);
+  return thisThread.heap == nullptr ? testing::AssertionSuccess()
+                                    : isValidHeap(thisThread.heap, externalBytes);
 }
 
 testing::AssertionResult isValidState() {
@@ -196,10 +205,12 @@ testing::AssertionResult isValidState() {
   for (ThreadHeap *heap : walkList(state->threads, findings)) {
     const testing::AssertionResult valid = isValidHeap(heap);
     if (!valid) return valid;
-    for (uint32_t number = 1; number <= heap->classCount; ++number) mapped += bareSlabs(*heap->classes[number]);
+    for (uint32_t number = 1; number <= heap->classCount; ++number)
+      mapped += bareSlabs(*heap->classes[number]);
   }
   const uint32_t entriesPerSlab = kBareSlabBytes >> kPageMapShift;
-  findings.expect(countMapped(state->pageMap) == mapped * entriesPerSlab, "the page map holds more than the slabs");
+  findings.expect(countMapped(state->pageMap) == mapped * entriesPerSlab,
+                  "the page map holds more than the slabs");
   return asResult(findings);
 }
 
