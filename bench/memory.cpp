@@ -211,6 +211,9 @@ void restartWithStaticStorage(char **argv) {
   execv("/proc/self/exe", argv);
 }
 
+constexpr size_t kSizes[] = {16, 64, 256, 1024, 4096, 16384, 65520, 65536};
+constexpr size_t kHandedSizes[] = {16, 64, 256, 1024};
+
 int main(int argc, char **argv) {
   restartWithStaticStorage(argv);
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 9;
@@ -220,13 +223,13 @@ int main(int argc, char **argv) {
   std::printf("%-28s", "ns");
   for (const Allocator &a : all) std::printf(" %9s", a.name);
   std::printf("   ours / best peer\n");
-  for (const size_t bytes : {16, 64, 256, 1024, 4096, 16384, 65520, 65536})
+  for (const size_t bytes : kSizes)
     compare("pairs, " + std::to_string(bytes), all, rounds, [&](auto &a) { return pairs(a, bytes); });
-  for (const size_t bytes : {16, 64, 256, 1024, 4096, 16384, 65520, 65536})
+  for (const size_t bytes : kSizes)
     compare("bursts of 64, " + std::to_string(bytes), all, rounds, [&](auto &a) { return bursts(a, bytes); });
   compare("10,000 blocks at random", all, rounds, [&](auto &a) { return replaceAtRandom(a, 7); });
   compare("the same on two threads", all, rounds, [&](auto &a) { return replaceOnTwoThreads(a); });
-  for (const size_t bytes : {16, 64, 256, 1024})
+  for (const size_t bytes : kHandedSizes)
     compare("handed over, " + std::to_string(bytes), all, rounds,
             [&](auto &a) { return handOver(a, bytes); });
 }

@@ -37,7 +37,7 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 // Size 0 finds the empty class 0, which has nothing ready.
 [[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader,
                                                   mint errorMode) {
-  ThreadHeap *heap = thisThread.heap;
+  ThreadHeap *heap = threadHeap;
   if (heap == nullptr || heap->limitBytes != 0) [[unlikely]]
     return allocateSlowly(size, errorMode);
   SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[bytes / 8]];
@@ -65,9 +65,12 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 }
 
 [[gnu::always_inline]] inline void freeInline(void *block) {
-  const ThreadWords &words = thisThread;
-  if (reinterpret_cast<uintptr_t>(block) - words.hotMemory < kBareSlabBytes) [[likely]]
-    return takeBack(words.heap, words.hotSlab, static_cast<FreeCell *>(block));
+  ThreadHeap *heap = threadHeap;
+  if (heap != nullptr) [[likely]] {
+    const HeapRecords &records = recordsOf(heap);
+    if (reinterpret_cast<uintptr_t>(block) - records.hotMemory < kBareSlabBytes) [[likely]]
+      return takeBack(heap, records.hotSlab, static_cast<FreeCell *>(block));
+  }
   freeByPageMap(block);
 }
 

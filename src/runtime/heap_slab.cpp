@@ -43,10 +43,16 @@ void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
   slab->freeCount = sizeClass.objectsPerSlab;
 }
 
+void forgetHotSlab(HeapRecords &records, const Slab *slab) {
+  if (records.hotSlab != slab) return;
+  records.hotSlab = nullptr;
+  records.hotMemory = kNoHotMemory;
+}
+
 // Gives back a slab that is on no list.
 void releaseSlab(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
-  if (thisThread.hotSlab == slab) forgetHotSlab();
+  forgetHotSlab(recordsOf(sizeClass.heap), slab);
   enterSlab(sizeClass, slab->memory, nullptr);
   giveSlabMemory(sizeClass, slab->memory);
   sizeClass.heap->freeBytes -= slabTotalBytes(sizeClass);

@@ -76,7 +76,7 @@ AllocatorState *ensureState() {
 void adoptAllocatorState(void *state) {
   if (state == nullptr || state == currentState()) return;
   allocatorState.store(static_cast<AllocatorState *>(state), std::memory_order_release);
-  forgetThreadHeap(); // the thread's heap is what the adopted state's slot says
+  threadHeap = nullptr; // the thread's heap is what the adopted state's slot says
 }
 
 void tearDownMemory() {
@@ -85,7 +85,7 @@ void tearDownMemory() {
   while (state->threads != nullptr) dropHeap(state->threads);
   destroyState(state);
   allocatorState.store(nullptr, std::memory_order_release);
-  forgetThreadHeap();
+  threadHeap = nullptr;
 }
 
 void initializeMemory(mint stage) {

@@ -75,7 +75,7 @@ uint32_t *heapStatistics(uint32_t *count, mint which) {
 
 void pushPeakMark(PeakMark **stack) {
   auto *mark = static_cast<PeakMark *>(allocate(sizeof(PeakMark), 0, kFatal));
-  ThreadHeap *heap = thisThread.heap;
+  ThreadHeap *heap = threadHeap;
   mark->next = *stack;
   mark->peakBytes = heap->peakBytes.value();
   *stack = mark;
@@ -84,7 +84,7 @@ void pushPeakMark(PeakMark **stack) {
 
 uint32_t popPeakMark(PeakMark **stack) {
   PeakMark *mark = *stack;
-  ThreadHeap *heap = thisThread.heap;
+  ThreadHeap *heap = threadHeap;
   const uint32_t peak = heap->peakBytes.value();
   if (mark->peakBytes > peak) heap->peakBytes.set(mark->peakBytes);
   *stack = mark->next;
@@ -95,8 +95,8 @@ uint32_t popPeakMark(PeakMark **stack) {
 uint64_t installedMemoryBytes() { return systemInstalledKilobytes() << 10; }
 
 void adjustExternalBytes(uint32_t newTotal) {
-  const uint32_t oldTotal = externalBytes.exchange(newTotal, std::memory_order_relaxed);
   ThreadHeap *heap = requireHeap();
+  const uint32_t oldTotal = externalBytes.exchange(newTotal, std::memory_order_relaxed);
   if (newTotal <= oldTotal) return heap->usedBytes.subtract(oldTotal - newTotal);
   const uint32_t used = heap->usedBytes.value();
   chargeBytes(heap, newTotal - oldTotal);

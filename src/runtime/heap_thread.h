@@ -40,8 +40,15 @@ struct ThreadHeap {
 static_assert(sizeof(void *) != 4 || sizeof(ThreadHeap) == 64);
 
 // A heap and everything that belongs to it, in one piece of the process heap.
+inline constexpr uintptr_t kNoHotMemory = ~uintptr_t{0xFFFF}; // where no area can lie
+
 struct HeapRecords {
   ThreadHeap heap;
+  // The slab of bare cells that the owner last returned a cell to. A cell inside hotMemory belongs to it,
+  // which saves the look into the page map; more important, the next allocation need not wait for that look
+  // to end.
+  uintptr_t hotMemory; // kNoHotMemory, or the address of hotSlab's area
+  Slab *hotSlab;
   SizeClass *classes[kClassCount + 1];
   AreaCache areas;
   uint64_t lastReclaim[kClassCount + 1]; // time stamps; see heap_remote.cpp
@@ -57,16 +64,8 @@ static_assert(sizeof(void *) != 4 || kHeapOwnBytes == 64 + 356 + 48 * 88);
 inline HeapRecords &recordsOf(ThreadHeap *heap) { return *reinterpret_cast<HeapRecords *>(heap); }
 inline AreaCache &areasOf(ThreadHeap *heap) { return recordsOf(heap).areas; }
 
-// What a thread keeps at hand: its heap, null before its first allocation, and the slab of bare cells that it
-// last returned a cell to. A cell inside hotMemory belongs to hotSlab and to this heap, which saves the look
-// into the page map; more important, the next allocation need not wait for that look to end.
-struct ThreadWords {
-  ThreadHeap *heap;
-  uintptr_t hotMemory; // kNoHotMemory, or the address of hotSlab's area
-  Slab *hotSlab;
-};
-inline constexpr uintptr_t kNoHotMemory = ~uintptr_t{0xFFFF}; // where no area can lie
-extern constinit thread_local ThreadWords thisThread;
+// The calling thread's heap, null before its first allocation.
+extern constinit thread_local ThreadHeap *threadHeap;
 
 // The calling thread's heap, made if it has none; null when memory is exhausted.
 ThreadHeap *ensureThreadHeap();
@@ -87,12 +86,6 @@ ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain);
 // later allocation of the thread makes a new heap. The second form is the destructor of the thread's slot.
 void endThreadHeap();
 void endHeapOfSlot(void *heap);
-
-inline void forgetHotSlab() {
-  thisThread.hotMemory = kNoHotMemory;
-  thisThread.hotSlab = nullptr;
-}
-inline void forgetThreadHeap() { thisThread = {nullptr, kNoHotMemory, nullptr}; }
 
 // Leaves the largeLock of a heap that others may have left empty; destroys it if it is an empty orphan.
 void leaveOrphan(ThreadHeap *heap);

@@ -66,7 +66,7 @@ bool createThreadSlot(ThreadSlot *slot, void (*destructor)(void *)) {
 
 void deleteThreadSlot(ThreadSlot slot) { pthread_key_delete(slot); }
 void *threadSlotValue(ThreadSlot slot) { return pthread_getspecific(slot); }
-void setThreadSlotValue(ThreadSlot slot, void *value) { pthread_setspecific(slot, value); }
+bool setThreadSlotValue(ThreadSlot slot, void *value) { return pthread_setspecific(slot, value) == 0; }
 
 uint32_t currentThreadId() { return static_cast<uint32_t>(syscall(SYS_gettid)); }
 

@@ -78,7 +78,7 @@ using ThreadSlot = uint32_t;
 bool createThreadSlot(ThreadSlot *slot, void (*destructor)(void *));
 void deleteThreadSlot(ThreadSlot slot);
 void *threadSlotValue(ThreadSlot slot);
-void setThreadSlotValue(ThreadSlot slot, void *value);
+bool setThreadSlotValue(ThreadSlot slot, void *value); // false when there was no memory to keep it
 
 // A counter that runs with time, some billions a second; cheap to read.
 inline uint64_t timeStamp() { return __builtin_ia32_rdtsc(); }

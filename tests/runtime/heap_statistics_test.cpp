@@ -56,19 +56,19 @@ TEST(PeakMarks, ReturnThePeakOfTheirSpanAndRestoreTheOuterOne) {
     PeakMark *stack = nullptr;
     void *a = allocate(100000, 0, kFatal);
     free(a);
-    const uint32_t outer = thisThread.heap->peakBytes.value();
+    const uint32_t outer = threadHeap->peakBytes.value();
     pushPeakMark(&stack);
     const uint32_t start = usedBytesOfThisThread();
-    EXPECT_EQ(thisThread.heap->peakBytes.value(), start);
+    EXPECT_EQ(threadHeap->peakBytes.value(), start);
     free(allocate(1000, 0, kFatal));
     pushPeakMark(&stack);
     free(allocate(2000, 0, kFatal)); // a cell of 2048
     EXPECT_EQ(popPeakMark(&stack), start + sizeof(void *) * 2 + 2048);
-    EXPECT_EQ(thisThread.heap->peakBytes.value(), start + sizeof(void *) * 2 + 2048)
+    EXPECT_EQ(threadHeap->peakBytes.value(), start + sizeof(void *) * 2 + 2048)
         << "the inner peak is the larger";
     EXPECT_EQ(popPeakMark(&stack), start + sizeof(void *) * 2 + 2048);
     EXPECT_EQ(stack, nullptr);
-    EXPECT_EQ(thisThread.heap->peakBytes.value(), outer);
+    EXPECT_EQ(threadHeap->peakBytes.value(), outer);
     EXPECT_TRUE(isValidHere());
   });
 }
@@ -88,10 +88,10 @@ TEST(ExternalBytes, ChangeUsedByTheDifference) {
     const uint32_t used = usedBytesOfThisThread();
     adjustExternalBytes(5000);
     EXPECT_EQ(usedBytesOfThisThread(), used + 5000);
-    EXPECT_EQ(thisThread.heap->peakBytes.value(), used + 5000);
+    EXPECT_EQ(threadHeap->peakBytes.value(), used + 5000);
     adjustExternalBytes(2000);
     EXPECT_EQ(usedBytesOfThisThread(), used + 2000);
-    EXPECT_EQ(thisThread.heap->peakBytes.value(), used + 5000);
+    EXPECT_EQ(threadHeap->peakBytes.value(), used + 5000);
     EXPECT_TRUE(isValidHere(2000));
     setLimitOfThisThread(used + 2500);
     adjustExternalBytes(2500);

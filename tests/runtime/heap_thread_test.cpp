@@ -91,7 +91,7 @@ TEST(RemoteFree, MakesNoHeapForTheFreeingThread) {
   onThread([&] {
     free(block);
     free(large);
-    EXPECT_EQ(thisThread.heap, nullptr);
+    EXPECT_EQ(threadHeap, nullptr);
   });
   free(allocate(40, 0, kFatal));
   free(allocate(70000, 0, kFatal));
@@ -107,8 +107,7 @@ TEST(RemoteFree, OfAllCellsOfManySlabsKeepsOneOfThem) {
       });
       EXPECT_TRUE(isValidHere());
       void *block = allocate(size, 0, kFatal);
-      const SizeClass &sizeClass =
-          *thisThread.heap->classes[classOfSize[(size + 7 + (size > 1024 ? 8 : 0)) / 8]];
+      const SizeClass &sizeClass = *threadHeap->classes[classOfSize[(size + 7 + (size > 1024 ? 8 : 0)) / 8]];
       EXPECT_EQ(sizeClass.fullSlabs, nullptr);
       EXPECT_EQ(sizeClass.partialCount, 1u);
       EXPECT_TRUE(isValidHere());
@@ -182,7 +181,7 @@ TEST(ThreadEnd, RunsThroughTheSlotOrTheHookButOnce) {
     free(allocate(100, 0, kFatal));
     EXPECT_EQ(heapCount(), heaps + 1);
     endThreadHeap();
-    EXPECT_EQ(thisThread.heap, nullptr);
+    EXPECT_EQ(threadHeap, nullptr);
     EXPECT_EQ(threadSlotValue(currentState()->tlsSlot), nullptr);
     endThreadHeap(); // nothing left to end
   });
@@ -208,7 +207,7 @@ TEST(ThreadEnd, FindsTheHeapWhoseWordIsLost) {
   const uint32_t heaps = heapCount();
   onThread([] {
     ThreadHeap *heap = ensureThreadHeap();
-    forgetThreadHeap();
+    threadHeap = nullptr;
     EXPECT_EQ(ensureThreadHeap(), heap) << "the slot still knows it";
   });
   EXPECT_EQ(heapCount(), heaps);

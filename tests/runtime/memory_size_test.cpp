@@ -58,7 +58,7 @@ TEST(SizeClasses, TableFindsTheSmallestClassThatHoldsASize) {
 TEST(SizeClasses, AreLaidOutInSlabsOf64KiBOrOfEightCells) {
   ensureThreadHeap();
   for (uint32_t number = 1; number <= kClassCount; ++number) {
-    const SizeClass &sizeClass = *thisThread.heap->classes[number];
+    const SizeClass &sizeClass = *threadHeap->classes[number];
     const uint32_t bytes = sizeClass.objectBytes;
     EXPECT_EQ(bytes, cellBytesOfClass(number));
     EXPECT_EQ(sizeClass.objectsPerSlab, bytes <= 1024 ? 65536 / bytes : 8);
@@ -163,8 +163,8 @@ TEST(Requests, OwnRecordsCountAsUsedFromTheStart) {
   onThread([] {
     const uint32_t own = sizeof(ThreadHeap) + 89 * sizeof(void *) + 88 * sizeof(SizeClass);
     EXPECT_EQ(usedBytesOfThisThread(), own);
-    EXPECT_EQ(thisThread.heap->peakBytes.value(), own);
-    EXPECT_EQ(thisThread.heap->freeBytes, 0u);
+    EXPECT_EQ(threadHeap->peakBytes.value(), own);
+    EXPECT_EQ(threadHeap->freeBytes, 0u);
     if (sizeof(void *) == 4) {
       EXPECT_EQ(own, 64u + 356u + 88u * 48u);
     }

@@ -86,7 +86,7 @@ TEST(State, TornDownReturnsEverythingWhateverIsInUse) {
         checks.expect(currentState()->threads->next != nullptr);
         tearDownMemory();
         checks.expect(heap.blocksOut() == 0);
-        checks.expect(currentState() == nullptr && thisThread.heap == nullptr);
+        checks.expect(currentState() == nullptr && threadHeap == nullptr);
         tearDownMemory();
         free(allocate(100, 0, kFatal));
         checks.expect(isValidState());
@@ -100,10 +100,10 @@ TEST(State, OfAHostIsSharedWithItsHeaps) {
   EXPECT_EQ(statusOfChild([](ChildChecks &checks) {
               // This thread plays the host: its state and heap exist, the library knows neither.
               void *block = allocate(100, 0, kFatal);
-              ThreadHeap *heap = thisThread.heap;
+              ThreadHeap *heap = threadHeap;
               AllocatorState *state = currentState();
               allocatorState = nullptr;
-              forgetThreadHeap();
+              threadHeap = nullptr;
               adoptAllocatorState(state);
               initializeMemory(0);
               initializeMemory(1);
@@ -113,7 +113,7 @@ TEST(State, OfAHostIsSharedWithItsHeaps) {
               free(block);
               checks.expect(usedBytesOfThisThread() == used - 104);
               adoptAllocatorState(nullptr);
-              checks.expect(currentState() == state && thisThread.heap == heap);
+              checks.expect(currentState() == state && threadHeap == heap);
               checks.expect(isValidState());
             }),
             0);

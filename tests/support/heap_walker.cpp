@@ -194,8 +194,7 @@ testing::AssertionResult isValidHeap(ThreadHeap *heap, uint32_t externalBytes) {
 }
 
 testing::AssertionResult isValidHere(uint32_t externalBytes) {
-  return thisThread.heap == nullptr ? testing::AssertionSuccess()
-                                    : isValidHeap(thisThread.heap, externalBytes);
+  return threadHeap == nullptr ? testing::AssertionSuccess() : isValidHeap(threadHeap, externalBytes);
 }
 
 testing::AssertionResult isValidState() {
