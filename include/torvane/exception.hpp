@@ -6,6 +6,8 @@
 
 #include <exception>
 
+// Handlers of compiled code find `code` right behind the base, and the destructor and `what` in that order
+// among the virtual slots: add no field and no virtual operation.
 class TORVANE_API TorvaneRuntimeException : public std::exception {
 public:
   explicit TorvaneRuntimeException(mint raised) noexcept : code(raised) {}

@@ -1,0 +1,161 @@
+// From tensors to a vector routine: shape, allocation, the dispatch tables, the repetition rule.
+//
+// An entry of a dispatch table answers with an outcome: -2 and below for success, -1 for a combination
+// without a routine, else the 0-based position of the first failing element. A routine that stores
+// another kind than the result tensor holds counts as none, so that no payload is ever read or written
+// as another type.
+#include "dispatch.h"
+
+#include "../runtime/types.h"
+#include "../tensor/tensor.h"
+#include "outcome.h"
+#include "repetition.h"
+#include "result_types.h"
+#include "widening.h"
+#include <torvane/operators.h>
+
+namespace torvane {
+
+namespace {
+
+constexpr mint kUnaryNumbers = 85, kFirstBinary = 256, kBinaryNumbers = 22;
+constexpr bool isKind(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TORVANE_TYPE_COMPLEX; }
+
+// ---- entries of the dispatch tables ---------------------------------------------------------------
+
+mint noUnary(const MTensor *, MTensor *, mint, mint) { return kNoRoutine; }
+
+mint plainUnary(const MTensor *x, MTensor *result, mint op, mint flags) {
+  const TorvaneUnaryRoutine routine = machfunsarray_1[3 * op + (x->type - 2)];
+  if (routine == nullptr || storedKind1(op, x->type) != result->type) return kNoRoutine;
+  const mint strides[2] = {1, 1};
+  return outcomeOf(routine(result->data, x->data, x->elementCount, strides, flags));
+}
+
+mint wideningUnary(const MTensor *x, MTensor *result, mint op, mint flags) {
+  const mint real = TORVANE_TYPE_REAL, complex = TORVANE_TYPE_COMPLEX;
+  const UnaryPair pair = {machfunsarray_1[3 * op + 1], machfunsarray_1[3 * op + 2]};
+  if (pair.real == nullptr || pair.complex == nullptr) return kNoRoutine;
+  if (storedKind1(op, real) != real || storedKind1(op, complex) != complex) return kNoRoutine;
+  return widenUnary(pair, static_cast<mcomplex *>(result->data), static_cast<const mreal *>(x->data),
+                    x->elementCount, flags);
+}
+
+TorvaneBinaryRoutine binaryRoutineFor(mint op, mint kind1, mint kind2) {
+  return machfunsarray_2[9 * (op - kFirstBinary) + 3 * (kind1 - 2) + (kind2 - 2)];
+}
+
+mint noBinary(const MTensor *, const MTensor *, MTensor *, mint, mint) { return kNoRoutine; }
+
+mint plainBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, mint flags) {
+  const TorvaneBinaryRoutine routine = binaryRoutineFor(op, x->type, y->type);
+  if (routine == nullptr || storedKind2(op, x->type, y->type) != result->type) return kNoRoutine;
+  return overBlocks({x->elementCount, y->elementCount}, [&](const PairRun &run) {
+    return outcomeOf(routine(elementAt(result, run.resultStart), elementAt(x, run.start1),
+                             elementAt(y, run.start2), run.count, run.strides, flags));
+  });
+}
+
+// The real operand that becomes complex is the second, unless only the first is real.
+mint wideningBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, mint flags) {
+  const mint complex = TORVANE_TYPE_COMPLEX;
+  const bool widensFirst = y->type == TORVANE_TYPE_INTEGER;
+  const mint wide1 = widensFirst ? complex : x->type, wide2 = widensFirst ? y->type : complex;
+  const BinaryPair pair = {binaryRoutineFor(op, x->type, y->type), binaryRoutineFor(op, wide1, wide2),
+                           widensFirst};
+  if (pair.real == nullptr || pair.complex == nullptr) return kNoRoutine;
+  if (storedKind2(op, x->type, y->type) != TORVANE_TYPE_REAL || storedKind2(op, wide1, wide2) != complex)
+    return kNoRoutine;
+  return widenBinary(pair, result, x, y, flags);
+}
+
+using UnaryEntry = mint (*)(const MTensor *, MTensor *, mint, mint);
+using BinaryEntry = mint (*)(const MTensor *, const MTensor *, MTensor *, mint, mint);
+
+// Rows: operand integer, real, complex. Columns: result integer, real, complex.
+constexpr UnaryEntry kUnaryEntries[9] = {
+    plainUnary, noUnary,    noUnary,       //
+    plainUnary, plainUnary, wideningUnary, //
+    plainUnary, plainUnary, plainUnary,
+};
+
+// Rows: first and second operand. Columns: result integer, real, complex.
+constexpr BinaryEntry kBinaryEntries[27] = {
+    plainBinary, noBinary,    noBinary,       // integer, integer
+    plainBinary, plainBinary, wideningBinary, // integer, real
+    noBinary,    plainBinary, plainBinary,    // integer, complex
+    plainBinary, plainBinary, wideningBinary, // real, integer
+    plainBinary, plainBinary, wideningBinary, // real, real
+    noBinary,    plainBinary, plainBinary,    // real, complex
+    noBinary,    plainBinary, plainBinary,    // complex, integer
+    noBinary,    plainBinary, plainBinary,    // complex, real
+    noBinary,    plainBinary, plainBinary,    // complex, complex
+};
+
+mint runUnary(const MTensor *x, MTensor *result, mint op, mint flags) {
+  if (op < 0 || op >= kUnaryNumbers || !isKind(x->type) || !isKind(result->type)) return kNoRoutine;
+  return kUnaryEntries[3 * (x->type - 2) + (result->type - 2)](x, result, op, flags);
+}
+
+mint runBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, mint flags) {
+  if (op < kFirstBinary || op >= kFirstBinary + kBinaryNumbers) return kNoRoutine;
+  if (!isKind(x->type) || !isKind(y->type) || !isKind(result->type)) return kNoRoutine;
+  return kBinaryEntries[9 * (x->type - 2) + 3 * (y->type - 2) + (result->type - 2)](x, y, result, op, flags);
+}
+
+mint statusOf(mint outcome) { return outcome >= kNoRoutine ? kValueFailed : kSuccess; }
+
+mint allocationStatus(mint status) { return status == kSizeFailed ? mint{kNoMemory} : status; }
+
+// An operand that becomes its own result in another type is still read while the result is written, so
+// the result grows in a payload of its own and changes places with the operand's at the end.
+mint retypeInPlace(MTensor *x, mint op, mint resultType, mint flags) {
+  MTensor *fresh = nullptr;
+  mint status = allocationStatus(MTensor_allocateCommon(&fresh, resultType, x->rank, x->dimensions, kReport));
+  if (status != kSuccess) return status;
+  status = statusOf(runUnary(x, fresh, op, flags));
+  if (status == kSuccess) {
+    void *old = x->data;
+    x->data = fresh->data;
+    fresh->data = old;
+    MTensor_setType(x, resultType);
+  }
+  MTensor_delete(fresh);
+  return status;
+}
+
+} // namespace
+
+mint tensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType, mint flags) {
+  if (*result == x && x->type != resultType) return retypeInPlace(x, op, resultType, flags);
+  const mint status =
+      allocationStatus(MTensor_allocateCommon(result, resultType, x->rank, x->dimensions, kReport));
+  return status != kSuccess ? status : statusOf(runUnary(x, *result, op, flags));
+}
+
+mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint resultType, mint flags) {
+  mint rank;
+  mint *dimensions;
+  if (MTensor_maxCompatibleDimensions(x, y, &rank, &dimensions) == 0) return -1;
+  if (*result != x && *result != y) {
+    const mint status =
+        allocationStatus(MTensor_allocateCommon(result, resultType, rank, dimensions, kReport));
+    if (status != kSuccess) return status;
+  } else if ((*result)->elementCount < resultCount(x->elementCount, y->elementCount)) {
+    return kValueFailed; // an operand that is overwritten in place must have room for the larger one's
+                         // elements
+  }
+  return statusOf(runBinary(x, y, *result, op, flags));
+}
+
+} // namespace torvane
+
+using namespace torvane;
+
+mint MTensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType) {
+  return tensorMathUnary(result, x, op, resultType, 0) == kSuccess ? 0 : 1;
+}
+
+mint MTensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint resultType) {
+  return tensorMathBinary(result, x, y, op, resultType, 0) == kSuccess ? 0 : 1;
+}

@@ -1,0 +1,121 @@
+// The loops behind a vector routine.
+//
+// A routine runs one functor over runs of elements of one kind; operands of two kinds are widened to the
+// wider one element by element, so that every element has the bits of the typed entry on the widened
+// operands. Three ways of checking:
+//   unchecked   the flag of the operand kind is not set, or the row asks no test: only what both forms
+//               raise stops the loop;
+//   by element  integers, and reals and complexes in place: the test comes before the store, so that the
+//               failing element and all later ones keep what an operand held;
+//   in bulk     reals and complexes elsewhere: one look at the accrued exceptions after the plain loop,
+//               which gives 1 and no position.
+// The error code is lost; the position, counted from 1, is what a routine returns.
+#pragma once
+
+#include "../scalar/evaluate.h"
+#include <torvane/operators.h>
+
+#include <fenv.h>
+
+namespace torvane {
+
+// The kind an operand pair is computed in.
+template <class T> constexpr T convertTo(T x) { return x; }
+template <class T> constexpr T convertTo(mint x) requires(!isInteger<T>) {
+  if constexpr (isComplex<T>)
+    return {static_cast<mreal>(x), 0.0};
+  else
+    return static_cast<T>(x);
+}
+template <class T> constexpr T convertTo(mreal x) requires(isComplex<T>) { return {x, 0.0}; }
+
+template <class T> inline constexpr int kRank = isInteger<T> ? 0 : isReal<T> ? 1 : 2;
+template <class X, class Y> using WiderOf = ChooseOf<(kRank<X> < kRank<Y>), Y, X>;
+
+// Element k of an operand at a stride.
+template <class X> struct Walk {
+  const X *data;
+  mint stride;
+  X at(mint k) const { return data[ptrdiff_t{k} * stride]; }
+};
+
+template <class Form, class Op, class T, class Result, class... X>
+inline __attribute__((always_inline)) mint runLoop(Result *result, mint step, mint count,
+                                                   Walk<X>... operands) {
+  for (mint k = 0; k < count; ++k) {
+    error code = error::none;
+    const Result value = compute<Op, Form>(code, convertTo<T>(operands.at(k))...);
+    if (code != error::none) [[unlikely]]
+      return k + 1;
+    result[ptrdiff_t{k} * step] = value;
+  }
+  return 0;
+}
+
+// The shapes with a loop of their own: dense, and dense with one operand at stride 0.
+template <class Form, class Op, class T, class Result, class X>
+mint runShape(Result *result, mint count, const mint *strides, const X *x) {
+  if (strides[0] == 1 && strides[1] == 1) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 1});
+  return runLoop<Form, Op, T>(result, strides[0], count, Walk<X>{x, strides[1]});
+}
+
+template <class Form, class Op, class T, class Result, class X, class Y>
+mint runShape(Result *result, mint count, const mint *strides, const X *x, const Y *y) {
+  const mint sx = strides[1], sy = strides[2];
+  if (strides[0] == 1) {
+    if (sx == 1 && sy == 1) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 1}, Walk<Y>{y, 1});
+    if (sx == 1 && sy == 0) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 1}, Walk<Y>{y, 0});
+    if (sx == 0 && sy == 1) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 0}, Walk<Y>{y, 1});
+  }
+  return runLoop<Form, Op, T>(result, strides[0], count, Walk<X>{x, sx}, Walk<Y>{y, sy});
+}
+
+template <class Form, class Op, class T, class Result, class A, class X, class Y>
+mint runShape(Result *result, mint count, const mint *strides, const A *a, const X *x, const Y *y) {
+  if (strides[0] == 1 && strides[1] == 0 && strides[2] == 1 && strides[3] == 1)
+    return runLoop<Form, Op, T>(result, 1, count, Walk<A>{a, 0}, Walk<X>{x, 1}, Walk<Y>{y, 1});
+  return runLoop<Form, Op, T>(result, strides[0], count, Walk<A>{a, strides[1]}, Walk<X>{x, strides[2]},
+                              Walk<Y>{y, strides[3]});
+}
+
+// Underflow and inexact never fail an element.
+inline constexpr int kFailingExceptions = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
+
+template <class Op, class T> constexpr bool isTestedBy(mint flags) {
+  return (flags & (isInteger<T> ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS)) != 0 &&
+         (kChecks<Op, T> & (checks::c1 | checks::c69)) != 0;
+}
+
+template <class Op, class T, class First, class... X>
+mint runRoutine(void *result, mint count, const mint *strides, mint flags, const First *first,
+                const X *...rest) {
+  using Result = ResultOf<Op, T>;
+  auto *target = static_cast<Result *>(result);
+  if (!isTestedBy<Op, T>(flags)) return runShape<Plain, Op, T>(target, count, strides, first, rest...);
+  if (isInteger<T> || result == static_cast<const void *>(first))
+    return runShape<Checked, Op, T>(target, count, strides, first, rest...);
+  feclearexcept(kFailingExceptions);
+  const mint position = runShape<Plain, Op, T>(target, count, strides, first, rest...);
+  if (position != 0) return position;
+  return fetestexcept(kFailingExceptions) != 0 ? 1 : 0;
+}
+
+template <class Op, class X>
+mint unaryRoutine(void *result, const void *x, mint count, const mint *strides, mint flags) {
+  return runRoutine<Op, X>(result, count, strides, flags, static_cast<const X *>(x));
+}
+
+template <class Op, class X, class Y>
+mint binaryRoutine(void *result, const void *x, const void *y, mint count, const mint *strides, mint flags) {
+  return runRoutine<Op, WiderOf<X, Y>>(result, count, strides, flags, static_cast<const X *>(x),
+                                       static_cast<const Y *>(y));
+}
+
+template <class Op, class X>
+mint ternaryRoutine(void *result, const void *a, const void *x, const void *y, mint count,
+                    const mint *strides, mint flags) {
+  return runRoutine<Op, X>(result, count, strides, flags, static_cast<const X *>(a),
+                           static_cast<const X *>(x), static_cast<const X *>(y));
+}
+
+} // namespace torvane

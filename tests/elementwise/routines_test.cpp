@@ -1,0 +1,270 @@
+// Every vector routine of the operator tables against its typed entries, bit for bit: all shapes of
+// strides, lengths 0 to 67, in place and apart, every setting of the flags, red zones around each buffer.
+#include "scalar/operator_table.h"
+#include "support/kinds.h"
+
+#include <fenv.h>
+#include <gtest/gtest.h>
+#include <torvane/machfuncs.h>
+#include <torvane/operators.h>
+#include <torvane/scalars.h>
+
+using namespace torvane;
+using namespace torvane::test;
+
+namespace {
+
+template <class Entry> struct Forms {
+  Entry plain, checked;
+};
+
+// An operator's typed entries by kind, 2 to 4.
+template <class Row, class Entry> struct Operator {
+  Row row;
+  Forms<Entry> byKind[3];
+};
+
+constexpr const char *kKindNames[] = {"i", "d", "c"};
+
+std::vector<Operator<UnaryRow, TypedUnary>> unaryOperators() {
+  std::vector<Operator<UnaryRow, TypedUnary>> all;
+  size_t next = 0;
+#define FORMS(T, typed) {wrap(unary_##typed##_##T), wrap(checked_unary_##typed##_##T)}
+#define TORVANE_UNARY(family, number, typed, ...)                                                                      \
+  all.push_back({table::kUnary[next++], {FORMS(Integer32, typed), FORMS(Real64, typed), FORMS(ComplexReal64, typed)}});
+#include "scalar/operators.def"
+#undef FORMS
+  return all;
+}
+
+std::vector<Operator<BinaryRow, TypedBinary>> binaryOperators() {
+  std::vector<Operator<BinaryRow, TypedBinary>> all;
+  size_t next = 0;
+#define FORMS(T, typed) {wrap(binary_##typed##_##T##_##T), wrap(checked_binary_##typed##_##T##_##T)}
+#define TORVANE_BINARY(family, number, typed, ...)                                                                     \
+  all.push_back({table::kBinary[next++], {FORMS(Integer32, typed), FORMS(Real64, typed), FORMS(ComplexReal64, typed)}});
+#include "scalar/operators.def"
+#undef FORMS
+  return all;
+}
+
+enum class Testing { none, byElement, inBulk };
+
+Checks cellOf(const ClassChecks &cells, mint kind) {
+  return kind == TORVANE_TYPE_INTEGER ? cells.signedInteger : kind == TORVANE_TYPE_REAL ? cells.real : cells.complex;
+}
+
+Testing testingOf(const ClassChecks &cells, mint kind, mint flags, bool inPlace) {
+  const Checks cell = cellOf(cells, kind);
+  if (kind == TORVANE_TYPE_INTEGER) return (flags & 4) && (cell & checks::c1) ? Testing::byElement : Testing::none;
+  if ((flags & 2) == 0 || (cell & checks::c69) == 0) return Testing::none;
+  return inPlace ? Testing::byElement : Testing::inBulk;
+}
+
+constexpr int kFailing = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
+
+// What a routine must return and store, from one typed call an element.
+struct Expectation {
+  std::vector<Element> elements; // those before the failure
+  mint position = 0;
+};
+
+template <class Entry, class Apply>
+Expectation expectation(const Forms<Entry> &forms, Testing testing, mint count, Apply apply) {
+  Expectation expected;
+  feclearexcept(kFailing);
+  for (mint k = 0; k < count; ++k) {
+    const Outcome outcome = apply(testing == Testing::byElement ? forms.checked : forms.plain, k);
+    if (outcome.code != 0) {
+      expected.position = k + 1;
+      return expected;
+    }
+    expected.elements.push_back(outcome.element);
+  }
+  if (testing == Testing::inBulk && fetestexcept(kFailing) != 0) expected.position = 1;
+  return expected;
+}
+
+// Room for `count` elements at a stride of either sign, and the index of the first.
+ptrdiff_t firstIndex(mint count, mint stride) { return stride < 0 ? ptrdiff_t{count - 1} * -stride : 0; }
+size_t extent(mint count, mint stride) { return count == 0 ? 1 : size_t(count - 1) * size_t(std::abs(stride)) + 1; }
+
+Buffer filled(mint kind, mint count, mint stride, std::mt19937_64 &random) {
+  Buffer buffer(kind, extent(count, stride));
+  for (size_t k = 0; k < buffer.count(); ++k) buffer.set(ptrdiff_t(k), sampleElement(kind, random));
+  buffer.snapshot();
+  return buffer;
+}
+
+// Stored elements agree; the failing one and what a stride skips are untouched where that is promised.
+void expectStored(const Buffer &result, const Expectation &expected, mint count, mint stride, Testing testing) {
+  std::vector<bool> mayChange(result.count());
+  const ptrdiff_t first = firstIndex(count, stride);
+  for (size_t k = 0; k < expected.elements.size(); ++k) {
+    const ptrdiff_t index = first + ptrdiff_t(k) * stride;
+    mayChange[size_t(index)] = true;
+    if (stride != 0 || k + 1 == expected.elements.size())
+      ASSERT_EQ(result.get(index), expected.elements[k]) << "element " << k << " of " << count;
+  }
+  const bool laterOnesMayChange = testing != Testing::byElement;
+  for (mint k = 0; laterOnesMayChange && k < count; ++k) mayChange[size_t(first + ptrdiff_t{k} * stride)] = true;
+  for (size_t k = 0; k < result.count(); ++k) ASSERT_TRUE(mayChange[k] || result.isUntouched(ptrdiff_t(k))) << k;
+  ASSERT_TRUE(result.zonesHold());
+}
+
+constexpr mint kFlagSettings[] = {0, 2, 4, 6};
+
+using UnaryOperator = Operator<UnaryRow, TypedUnary>;
+void checkUnary(const UnaryOperator &op, mint kind, mint count, const mint (&strides)[2], mint flags, bool inPlace,
+                std::mt19937_64 &random) {
+  const TorvaneUnaryRoutine routine = machfunsarray_1[3 * op.row.number + kind - 2];
+  const Forms<TypedUnary> &forms = op.byKind[kind - 2];
+  const Testing testing = testingOf(op.row.checks, kind, flags, inPlace);
+  Buffer x = filled(kind, count, strides[1], random);
+  const ptrdiff_t firstX = firstIndex(count, strides[1]);
+  const Expectation expected = expectation(forms, testing, count, [&](const TypedUnary &entry, mint k) {
+    return entry(x.get(firstX + ptrdiff_t{k} * strides[1]));
+  });
+  const mint resultKind = forms.plain(Element{kind, {1, 0}}).element.kind;
+  Buffer apart(resultKind, extent(count, strides[0]));
+  Buffer &result = inPlace ? x : apart;
+  SCOPED_TRACE(testing::Message() << kKindNames[kind - 2] << "_" << op.row.vector << " count " << count << " strides "
+                                  << strides[0] << " " << strides[1] << " flags " << flags << " in place " << inPlace);
+  const mint pending = setExceptionActive(77);
+  ASSERT_EQ(routine(result.at(firstIndex(count, strides[0])), x.at(firstX), count, strides, flags), expected.position);
+  ASSERT_EQ(setExceptionActive(pending), 77) << "a routine raises nothing";
+  expectStored(result, expected, count, strides[0], testing);
+}
+
+TEST(UnaryRoutines, AreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
+  std::mt19937_64 random(1);
+  const mint shapes[][2] = {{1, 1}, {1, 0}, {2, 1}, {1, 3}, {-1, 1}, {1, -2}, {3, -1}, {0, 1}};
+  for (const UnaryOperator &op : unaryOperators())
+    for (mint kind = 2; kind <= 4; ++kind) {
+      if ((op.row.columns >> (kind - 2) & 1) == 0) continue;
+      for (const mint flags : kFlagSettings)
+        for (mint count = 0; count <= 67; ++count) {
+          for (const auto &strides : shapes)
+            ASSERT_NO_FATAL_FAILURE(checkUnary(op, kind, count, strides, flags, false, random));
+          const bool sameWidth = op.byKind[kind - 2].plain(Element{kind, {1, 0}}).element.kind == kind;
+          if (sameWidth) ASSERT_NO_FATAL_FAILURE(checkUnary(op, kind, count, {1, 1}, flags, true, random));
+          if (sameWidth) ASSERT_NO_FATAL_FAILURE(checkUnary(op, kind, count, {2, 2}, flags, true, random));
+        }
+    }
+}
+
+using BinaryOperator = Operator<BinaryRow, TypedBinary>;
+void checkBinary(const BinaryOperator &op, mint kind1, mint kind2, mint count, const mint (&strides)[3], mint flags,
+                 bool inPlace, std::mt19937_64 &random) {
+  const TorvaneBinaryRoutine routine = machfunsarray_2[9 * (op.row.number - 256) + 3 * (kind1 - 2) + kind2 - 2];
+  const mint kind = std::max(kind1, kind2); // both operands widen to the wider kind
+  const Forms<TypedBinary> &forms = op.byKind[kind - 2];
+  const Testing testing = testingOf(op.row.checks, kind, flags, inPlace);
+  Buffer x = filled(kind1, count, strides[1], random), y = filled(kind2, count, strides[2], random);
+  const ptrdiff_t firstX = firstIndex(count, strides[1]), firstY = firstIndex(count, strides[2]);
+  const Expectation expected = expectation(forms, testing, count, [&](const TypedBinary &entry, mint k) {
+    return entry(x.get(firstX + ptrdiff_t{k} * strides[1]).as(kind), y.get(firstY + ptrdiff_t{k} * strides[2]).as(kind));
+  });
+  Buffer apart(kind, extent(count, strides[0]));
+  Buffer &result = inPlace ? x : apart;
+  SCOPED_TRACE(testing::Message() << kKindNames[kind1 - 2] << kKindNames[kind2 - 2] << "_" << op.row.vector << " count "
+                                  << count << " strides " << strides[0] << " " << strides[1] << " " << strides[2]
+                                  << " flags " << flags << " in place " << inPlace);
+  const mint pending = setExceptionActive(77);
+  ASSERT_EQ(routine(result.at(firstIndex(count, strides[0])), x.at(firstX), y.at(firstY), count, strides, flags),
+            expected.position);
+  ASSERT_EQ(setExceptionActive(pending), 77) << "a routine raises nothing";
+  expectStored(result, expected, count, strides[0], testing);
+  ASSERT_TRUE(y.zonesHold());
+}
+
+TEST(BinaryRoutines, AreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
+  std::mt19937_64 random(2);
+  const mint shapes[][3] = {{1, 1, 1}, {1, 0, 1}, {1, 1, 0}, {1, 0, 0}, {2, 1, 3}, {-1, 1, -2}, {3, -1, 0}, {0, 1, 1}};
+  for (const BinaryOperator &op : binaryOperators())
+    for (mint column = 0; column < 9; ++column) {
+      if ((op.row.columns >> column & 1) == 0) continue;
+      const mint kind1 = column / 3 + 2, kind2 = column % 3 + 2;
+      for (const mint flags : kFlagSettings)
+        for (mint count = 0; count <= 67; ++count) {
+          for (const auto &strides : shapes)
+            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, strides, flags, false, random));
+          const bool sameWidth = kind1 >= kind2;
+          if (sameWidth) ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, true, random));
+          if (sameWidth) ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, {1, 1, 0}, flags, true, random));
+        }
+    }
+}
+
+// A table entry stands exactly where the row has a column, and reserved numbers are null throughout.
+TEST(OperatorTables, HoldTheRowsAndNothingElse) {
+  bool present[85][3] = {};
+  for (const UnaryRow &row : table::kUnary)
+    for (int k = 0; k < 3; ++k) present[row.number][k] = row.columns >> k & 1;
+  for (int number = 0; number < 85; ++number)
+    for (int k = 0; k < 3; ++k) EXPECT_EQ(machfunsarray_1[3 * number + k] != nullptr, present[number][k]) << number;
+  bool presentPair[22][9] = {};
+  for (const BinaryRow &row : table::kBinary)
+    for (int k = 0; k < 9; ++k) presentPair[row.number - 256][k] = row.columns >> k & 1;
+  for (int number = 0; number < 22; ++number)
+    for (int k = 0; k < 9; ++k) EXPECT_EQ(machfunsarray_2[9 * number + k] != nullptr, presentPair[number][k]) << number;
+  EXPECT_EQ(machfunsarray_1[3 * 57 + 1], machfunc_d_sqrt);
+  EXPECT_EQ(machfunsarray_2[9 * 4 + 5], machfunc_dc_div);
+}
+
+TEST(UnaryRoutines, ScalarOperandFillsTheResult) {
+  const mreal x = 9;
+  mreal result[5] = {};
+  const mint strides[2] = {1, 0};
+  EXPECT_EQ(machfunc_d_sqrt(result, &x, 5, strides, 0), 0);
+  for (const mreal element : result) EXPECT_EQ(element, 3);
+}
+
+TEST(UnaryRoutines, NegativeCountDoesNothing) {
+  const mint strides[2] = {1, 1};
+  EXPECT_EQ(machfunc_d_sqrt(nullptr, nullptr, -3, strides, 6), 0);
+  EXPECT_EQ(machfunc_i_minus(nullptr, nullptr, INT32_MIN, strides, 6), 0);
+}
+
+// Bulk and in place tell a failure differently: 1, or the position of the element.
+TEST(CheckedRoutines, TellThePositionInPlaceAndOneElsewhere) {
+  mreal x[4] = {1, 2, 1e200, 4}, result[4];
+  const mint strides[2] = {1, 1};
+  EXPECT_EQ(machfunc_d_square(result, x, 4, strides, TORVANE_CHECK_REALS), 1);
+  EXPECT_EQ(result[3], 16); // the loop has written everything
+  EXPECT_EQ(machfunc_d_square(x, x, 4, strides, TORVANE_CHECK_REALS), 3);
+  EXPECT_EQ(x[2], 1e200); // an element that failed in place is still there for a retry
+  EXPECT_EQ(x[3], 4);
+}
+
+// The bulk test reads the accrued exceptions: an infinity that was there before fails nothing.
+TEST(CheckedRoutines, BulkTestPassesAnInfinityThatWasThereBefore) {
+  const mreal x[2] = {HUGE_VAL, 1}, one = 1;
+  mreal result[2];
+  const mint strides[3] = {1, 1, 0};
+  EXPECT_EQ(machfunc_dd_plus(result, x, &one, 2, strides, TORVANE_CHECK_REALS), 0);
+  EXPECT_EQ(result[0], HUGE_VAL);
+  feraiseexcept(FE_OVERFLOW); // nor does what the caller had accrued
+  EXPECT_EQ(machfunc_dd_plus(result, x, &one, 2, strides, TORVANE_CHECK_REALS), 0);
+}
+
+TEST(TernaryRoutines, AxpyIsItsTypedEntry) {
+  const mint a = 3, x[4] = {1, -2, 5, 1000000000}, y[4] = {10, 20, 30, 40};
+  mint result[4];
+  const mint strides[4] = {1, 0, 1, 1};
+  EXPECT_EQ(machfunc_iii_axpy(result, &a, x, y, 4, strides, 0), 0);
+  for (int k = 0; k < 4; ++k) EXPECT_EQ(result[k], ternary_axpy_Integer32_Integer32_Integer32(a, x[k], y[k]));
+  EXPECT_EQ(machfunc_iii_axpy(result, &a, x, y, 4, strides, TORVANE_CHECK_INTEGERS), 4);
+  const mreal b[3] = {1, 2, 3};
+  mreal sums[3];
+  const mint dense[4] = {1, 1, 1, 1};
+  EXPECT_EQ(machfunc_ddd_axpy(sums, b, b, b, 3, dense, TORVANE_CHECK_REALS), 0);
+  EXPECT_EQ(sums[2], 12);
+  const mcomplex z = {0, 1};
+  mcomplex product;
+  EXPECT_EQ(machfunc_ccc_axpy(&product, &z, &z, &z, 1, dense, 0), 0);
+  EXPECT_EQ(product.re, -1);
+  EXPECT_EQ(product.im, 1);
+}
+
+} // namespace

@@ -1,0 +1,105 @@
+// The headers scalars.h and machfuncs.h, and the translation units that define what they declare.
+#include "files.h"
+
+namespace generate {
+
+using namespace torvane;
+
+namespace {
+
+std::string header(const std::string &guard, const std::string &about,
+                   const std::vector<ExportGroup> &groups) {
+  std::string text = "/* " + about + "\n *\n * " + kGeneratedNote + " */\n#ifndef " + guard + "\n#define " +
+                     guard + "\n\n#include \"types.h\"\n\nTORVANE_BEGIN_DECLARATIONS\n";
+  for (const ExportGroup &group : groups) {
+    text += "\n" + group.comment + "\n";
+    for (const DerivedExport &one : group.exports) text += prototype(one.signature, "TORVANE_API ") + ";\n";
+  }
+  return text + "\nTORVANE_END_DECLARATIONS\n\n#endif\n";
+}
+
+// One translation unit a family: many small ones cost minutes of header reading.
+void writeUnits(Files &files, const std::string &folder, const std::string &includes,
+                const std::string &publicHeader, const std::vector<ExportGroup> &groups) {
+  for (const ExportGroup &group : groups) {
+    std::string &text = files[folder + "/generated/" + group.family + ".cpp"];
+    if (text.empty())
+      text = std::string("// ") + kGeneratedNote + "\n" + includes + "#include \"../../scalar/bodies/" +
+             group.family + ".h\"\n#include <torvane/" + publicHeader + ">\n\nusing namespace torvane;\n";
+    text += "\n";
+    for (const DerivedExport &one : group.exports)
+      text += prototype(one.signature, "") + " {\n  " + one.definition + "\n}\n";
+  }
+}
+
+} // namespace
+
+void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries) {
+  files["include/torvane/scalars.h"] = header(
+      "TORVANE_SCALARS_H",
+      "The typed entries: every scalar operator over thirteen element types, plain and checked.\n"
+      " *\n * Integers, Real32 and Real64 pass and return by value. Real16 passes as its 16-bit pattern and\n"
+      " * comes back through a leading pointer, which is also returned. Complexes pass as (re, im) and come\n"
+      " * back through leading pointers to the two parts, the first of which is returned. Results may share\n"
+      " * storage with nothing. A failing entry raises its code (failure.h) and in style 1 returns an\n"
+      " * arbitrary value. Codes before a semicolon are raised by both forms; codes 1 of checked forms "
+      "stand\n"
+      " * for a result outside its integer type or equal to the most negative value, 6 and 9 for an "
+      "infinite\n"
+      " * and a NaN result. All entries are pure and may be called from any thread.",
+      entries);
+  writeUnits(files, "src/scalar", "", "scalars.h", entries);
+}
+
+void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines) {
+  files["include/torvane/machfuncs.h"] = header(
+      "TORVANE_MACHFUNCS_H",
+      "The vector routines: an operator over runs of elements of kinds i (mint), d (mreal), c (mcomplex).\n"
+      " *\n * `strides` counts elements, the result's first, then each operand's; 0 repeats one element and "
+      "a\n"
+      " * negative stride walks down. Flags: 2 checks real and complex results, 4 integer ones. Returns 0, "
+      "or\n"
+      " * one plus the position of the first failing element, before which all are written; a checked real\n"
+      " * or complex routine that is not in place tests in bulk and returns 1. The result may be the first\n"
+      " * operand. Nothing is raised. A count below 1 does nothing.",
+      routines);
+  writeUnits(files, "src/elementwise", "#include \"../kernel.h\"\n#include \"../reduction.h\"\n",
+             "machfuncs.h", routines);
+}
+
+namespace {
+
+std::string tableRow(mint number, const std::vector<std::string> &names) {
+  std::string text = "    /* " + std::to_string(number) + " */ ";
+  for (const std::string &name : names) text += (name.empty() ? "nullptr" : name) + ", ";
+  text.pop_back();
+  return text + "\n";
+}
+
+} // namespace
+
+void writeOperatorTables(Files &files) {
+  std::string text =
+      std::string("// ") + kGeneratedNote +
+      "\n// Plain arrays, which compiled code indexes by operator number and kind.\n"
+      "#include <torvane/machfuncs.h>\n#include <torvane/operators.h>\n\n// clang-format off\n";
+  text += "const TorvaneUnaryRoutine machfunsarray_1[85 * 3] = {\n";
+  for (mint number = 0; number < 85; ++number) {
+    std::vector<std::string> names(3);
+    for (const UnaryRow &row : table::kUnary)
+      for (int column = 0; row.number == number && column < 3; ++column)
+        names[static_cast<size_t>(column)] = unaryRoutineName(row, column);
+    text += tableRow(number, names);
+  }
+  text += "};\n\nconst TorvaneBinaryRoutine machfunsarray_2[22 * 9] = {\n";
+  for (mint number = 256; number < 278; ++number) {
+    std::vector<std::string> names(9);
+    for (const BinaryRow &row : table::kBinary)
+      for (int column = 0; row.number == number && column < 9; ++column)
+        names[static_cast<size_t>(column)] = binaryRoutineName(row, column);
+    text += tableRow(number, names);
+  }
+  files["src/elementwise/generated/operator_tables.cpp"] = text + "};\n// clang-format on\n";
+}
+
+} // namespace generate

@@ -1,0 +1,109 @@
+// The vector routines: for every row and kind column one export, machfunc_<kinds>_<operator>.
+#include "operators.h"
+
+namespace generate {
+
+using namespace torvane;
+
+namespace {
+
+const char kKindLetter[] = {'i', 'd', 'c'};
+const char *const kKindType[] = {"mint", "mreal", "ComplexReal64"};
+
+std::string listed(std::initializer_list<std::string> items) {
+  std::string text;
+  for (const std::string &item : items) text += (text.empty() ? "" : ", ") + item;
+  return text;
+}
+
+DerivedExport makeRoutine(const std::string &name, const std::string &shell,
+                          std::vector<std::string> operands) {
+  DerivedExport routine;
+  routine.signature = {"machfunc", name, kWord, {{kPointer, "result"}}};
+  std::string arguments = "result";
+  for (const std::string &operand : operands) {
+    routine.signature.parameters.push_back({kConstPointer, operand});
+    arguments += ", " + operand;
+  }
+  const Type strides = {"const mint *", "ptr", ""};
+  routine.signature.parameters.insert(routine.signature.parameters.end(),
+                                      {{kWord, "count"}, {strides, "strides"}, {kWord, "flags"}});
+  routine.definition = "return " + shell + "(" + arguments + ", count, strides, flags);";
+  return routine;
+}
+
+ExportGroup unaryGroup(const UnaryRow &row) {
+  ExportGroup group = {row.family, std::string("/* ") + row.vector + ": " + row.meaning + ". */", {}};
+  for (int column = 0; column < 3; ++column) {
+    const std::string name = unaryRoutineName(row, column);
+    if (name.empty()) continue;
+    const std::string functor = std::string("unary::") + row.typed;
+    group.exports.push_back(
+        makeRoutine(name, "unaryRoutine<" + listed({functor, kKindType[column]}) + ">", {"x"}));
+  }
+  return group;
+}
+
+ExportGroup binaryGroup(const BinaryRow &row) {
+  ExportGroup group = {row.family, std::string("/* ") + row.vector + ": " + row.meaning + ". */", {}};
+  for (int column = 0; column < 9; ++column) {
+    const std::string name = binaryRoutineName(row, column);
+    if (name.empty()) continue;
+    const std::string types =
+        listed({std::string("binary::") + row.typed, kKindType[column / 3], kKindType[column % 3]});
+    group.exports.push_back(makeRoutine(name, "binaryRoutine<" + types + ">", {"x", "y"}));
+  }
+  return group;
+}
+
+ExportGroup ternaryGroup(const TernaryRow &row) {
+  ExportGroup group = {row.family, std::string("/* ") + row.typed + ": " + row.meaning + ". */", {}};
+  for (int kind = 0; kind < 3; ++kind) {
+    if ((row.columns >> kind & 1) == 0) continue;
+    const std::string name = "machfunc_" + std::string(3, kKindLetter[kind]) + "_" + row.typed;
+    const std::string functor = std::string("ternary::") + row.typed;
+    group.exports.push_back(
+        makeRoutine(name, "ternaryRoutine<" + listed({functor, kKindType[kind]}) + ">", {"a", "x", "y"}));
+  }
+  return group;
+}
+
+ExportGroup reductionGroup(const ReductionRow &row) {
+  ExportGroup group = {row.family, std::string("/* ") + row.vector + ": " + row.meaning + ". */", {}};
+  const Type pointers[] = {{"mint *", "ptr", ""}, {"mreal *", "ptr", ""}, {"mcomplex *", "ptr", ""}};
+  for (size_t kind = 0; kind < 3; ++kind) {
+    if ((row.columns >> kind & 1) == 0) continue;
+    const std::string name = std::string("machfunc_") + kKindLetter[kind] + "_" + row.vector;
+    const std::string functor = std::string("reduction::") + row.vector;
+    DerivedExport routine =
+        makeRoutine(name, "reductionRoutine<" + listed({functor, kKindType[kind]}) + ">", {"data"});
+    routine.signature.parameters[0] = {pointers[kind], "accumulator"};
+    routine.signature.parameters[1] = {{"const " + pointers[kind].c, "ptr", ""}, "data"};
+    routine.definition.replace(routine.definition.find("(result"), 7, "(accumulator");
+    group.exports.push_back(routine);
+  }
+  return group;
+}
+
+} // namespace
+
+std::string unaryRoutineName(const UnaryRow &row, int column) {
+  if ((row.columns >> column & 1) == 0) return "";
+  return std::string("machfunc_") + kKindLetter[column] + "_" + row.vector;
+}
+
+std::string binaryRoutineName(const BinaryRow &row, int column) {
+  if ((row.columns >> column & 1) == 0) return "";
+  return std::string("machfunc_") + kKindLetter[column / 3] + kKindLetter[column % 3] + "_" + row.vector;
+}
+
+std::vector<ExportGroup> vectorRoutines() {
+  std::vector<ExportGroup> groups;
+  for (const UnaryRow &row : table::kUnary) groups.push_back(unaryGroup(row));
+  for (const BinaryRow &row : table::kBinary) groups.push_back(binaryGroup(row));
+  for (const TernaryRow &row : table::kTernary) groups.push_back(ternaryGroup(row));
+  for (const ReductionRow &row : table::kReductions) groups.push_back(reductionGroup(row));
+  return groups;
+}
+
+} // namespace generate
