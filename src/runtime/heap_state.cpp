@@ -60,10 +60,12 @@ void destroyState(AllocatorState *state) {
 
 } // namespace
 
-AllocatorState *ensureState() {
-  AllocatorState *state = allocatorState.load(std::memory_order_acquire);
-  if (state != nullptr) return state;
-  state = newState();
+namespace {
+
+constinit Lock stateLock; // held while the state is made
+
+AllocatorState *makeState() {
+  AllocatorState *state = newState();
   if (state == nullptr) return nullptr;
   if (newThreadHeap(state, true) == nullptr) {
     destroyState(state);
@@ -71,6 +73,16 @@ AllocatorState *ensureState() {
   }
   allocatorState.store(state, std::memory_order_release);
   return state;
+}
+
+} // namespace
+
+// A host starts up on one thread; two threads that allocate without that must not end up with a state each.
+AllocatorState *ensureState() {
+  if (AllocatorState *state = allocatorState.load(std::memory_order_acquire)) return state;
+  LockGuard guard(stateLock);
+  AllocatorState *state = allocatorState.load(std::memory_order_acquire);
+  return state != nullptr ? state : makeState();
 }
 
 void adoptAllocatorState(void *state) {
