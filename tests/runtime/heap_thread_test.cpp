@@ -117,6 +117,21 @@ TEST(RemoteFree, OfAllCellsOfManySlabsKeepsOneOfThem) {
   });
 }
 
+// The area of a slab that is given up may belong to anyone a moment later.
+TEST(ReleasedSlab, IsNoLongerTakenForTheOwnerOfItsArea) {
+  onThread([] {
+    std::vector<void *> blocks(200);
+    for (void *&block : blocks) block = allocate(1024, 0, kFatal);
+    for (void *block : blocks) {
+      free(block);
+      ASSERT_TRUE(isValidHere());
+    }
+    for (void *&block : blocks) block = allocate(64, 0, kFatal);
+    for (void *block : blocks) free(block);
+    EXPECT_TRUE(isValidHere());
+  });
+}
+
 TEST(ThreadEnd, DestroysAnEmptyHeapAndReturnsAllItsMemory) {
   const uint32_t heaps = heapCount();
   FailingHeap heap;

@@ -37,13 +37,13 @@ void failEveryAllocation(uint32_t size, mint mode) {
 
 } // namespace
 
-TEST(Failure, AtAnyRequestOfAThreadsFirstAllocationLeavesNothingBehind) {
+TEST(Exhaustion, AtAnyRequestOfAThreadsFirstAllocationLeavesNothingBehind) {
   ensureThreadHeap();
   for (const uint32_t size : {8u, 1024u, 1025u, 65528u, 65529u, 5000000u})
     for (const mint mode : {1, 2, 3}) failEveryAllocation(size, mode);
 }
 
-TEST(Failure, AtAnyRequestOfTheFirstStateLeavesNothingBehind) {
+TEST(Exhaustion, AtAnyRequestOfTheFirstStateLeavesNothingBehind) {
   const ChildOutcome outcome = runInChild([] {
     tearDownMemory();
     FailingHeap heap;
@@ -62,7 +62,7 @@ TEST(Failure, AtAnyRequestOfTheFirstStateLeavesNothingBehind) {
   EXPECT_EQ(outcome.status, 0);
 }
 
-TEST(Failure, InTheReportModeChecksTheLimit) {
+TEST(Exhaustion, InTheReportModeChecksTheLimit) {
   onThread([] {
     free(allocate(8, 0, kFatal));
     const uint32_t used = usedBytesOfThisThread();
@@ -81,7 +81,7 @@ TEST(Failure, InTheReportModeChecksTheLimit) {
   });
 }
 
-TEST(Failure, OfReallocationKeepsTheOldBlock) {
+TEST(Exhaustion, OfReallocationKeepsTheOldBlock) {
   onThread([] {
     auto *block = static_cast<char *>(allocate(16, 0, kFatal));
     std::strcpy(block, "still here");

@@ -20,6 +20,7 @@ struct Findings {
 };
 
 struct Totals {
+  std::set<const Slab *> slabs; // all of the heap
   uint32_t freeBytes = 0;
   uint32_t liveBytes = 0;
 };
@@ -125,6 +126,7 @@ void checkClass(SizeClass &sizeClass, ThreadHeap *heap, Totals &totals, Findings
   if (sizeClass.spareSlab != nullptr) slabs.push_back(sizeClass.spareSlab);
   findings.expect(std::set<Slab *>(slabs.begin(), slabs.end()).size() == slabs.size(),
                   "a slab is on two lists");
+  totals.slabs.insert(slabs.begin(), slabs.end());
   uint32_t remoteBytes = 0;
   for (const Slab *slab : slabs) remoteBytes += checkSlab(slab, sizeClass, totals, findings);
   findings.expect(remoteBytes == sizeClass.remoteBytes, "remoteBytes is wrong");
@@ -143,6 +145,17 @@ void checkLargeBlocks(ThreadHeap *heap, Totals &totals, Findings &findings) {
     totals.liveBytes += block->totalBytes;
   }
   findings.expect(deferred.empty(), "a deferred block is not the heap's");
+}
+
+// A hot slab that was released would take in cells of whoever has its area now.
+void checkHotSlab(const HeapRecords &records, const Totals &totals, Findings &findings) {
+  if (records.hotSlab == nullptr)
+    return findings.expect(records.hotMemory == kNoHotMemory, "memory of no slab is hot");
+  findings.expect(totals.slabs.count(records.hotSlab) == 1, "the hot slab is not the heap's");
+  if (!findings.text.empty()) return;
+  findings.expect(records.hotMemory == reinterpret_cast<uintptr_t>(records.hotSlab->memory) &&
+                      !hasCellHeaders(*records.hotSlab->sizeClass),
+                  "the hot memory is not the hot slab's");
 }
 
 void checkAreas(const AreaCache &areas, Findings &findings) {
@@ -185,6 +198,7 @@ testing::AssertionResult isValidHeap(ThreadHeap *heap, uint32_t externalBytes) {
   for (uint32_t number = 1; number <= heap->classCount; ++number)
     checkClass(*heap->classes[number], heap, totals, findings);
   checkLargeBlocks(heap, totals, findings);
+  checkHotSlab(recordsOf(heap), totals, findings);
   checkAreas(areasOf(heap), findings);
   const uint32_t used = kHeapOwnBytes + totals.liveBytes + externalBytes;
   findings.expect(heap->freeBytes == totals.freeBytes, "freeBytes is wrong");
