@@ -22,7 +22,6 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
   FreeCell *cell = slab->freeHead;
   const uint32_t bytes = sizeClass.objectBytes;
   slab->freeHead = cell->next;
-  heap->freeBytes -= bytes;
   chargeBytes(heap, bytes);
   void *block = cell;
   if (hasHeader) {
@@ -67,9 +66,10 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 [[gnu::always_inline]] inline void freeInline(void *block) {
   ThreadHeap *heap = threadHeap;
   if (heap != nullptr) [[likely]] {
-    const HeapRecords &records = recordsOf(heap);
-    if (reinterpret_cast<uintptr_t>(block) - records.hotMemory < kBareSlabBytes) [[likely]]
-      return takeBack(heap, records.hotSlab, static_cast<FreeCell *>(block));
+    const auto address = reinterpret_cast<uintptr_t>(block);
+    const HotSlab &hot = hotSlabFor(recordsOf(heap), address);
+    if (address - hot.memory < kBareSlabBytes) [[likely]]
+      return takeBack(heap, hot.slab, static_cast<FreeCell *>(block));
   }
   freeByPageMap(block);
 }

@@ -61,6 +61,7 @@ void releaseLargeBlock(LargeBlock *block) {
   ThreadHeap *heap = block->heap;
   unlink(heap->largeBlocks, block);
   heap->usedBytes.subtract(block->totalBytes);
+  heap->heldBytes -= block->totalBytes;
   giveArea(areasOf(heap), block, block->totalBytes);
 }
 

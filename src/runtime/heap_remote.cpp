@@ -52,7 +52,6 @@ uint32_t reclaimCells(Slab *slab, FreeCell *cells) {
   ThreadHeap *heap = sizeClass.heap;
   const bool wasFull = slab->freeCount == 0;
   const uint32_t bytes = spliceCells(slab, cells) * sizeClass.objectBytes;
-  heap->freeBytes += bytes;
   heap->usedBytes.subtract(bytes);
   if (wasFull) moveToPartial(slab);
   if (slab->freeCount == sizeClass.objectsPerSlab) retireSlab(slab);

@@ -44,9 +44,12 @@ void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
 }
 
 void forgetHotSlab(HeapRecords &records, const Slab *slab) {
-  if (records.hotSlab != slab) return;
-  records.hotSlab = nullptr;
-  records.hotMemory = kNoHotMemory;
+  // An area that is not aligned to its size reaches into two places.
+  const auto memory = reinterpret_cast<uintptr_t>(slab->memory);
+  for (const uintptr_t address : {memory, memory + kBareSlabBytes - 1}) {
+    HotSlab &entry = hotSlabFor(records, address);
+    if (entry.memory == memory) entry = {kNoHotMemory, nullptr};
+  }
 }
 
 // Gives back a slab that is on no list.
@@ -55,7 +58,7 @@ void releaseSlab(Slab *slab) {
   forgetHotSlab(recordsOf(sizeClass.heap), slab);
   enterSlab(sizeClass, slab->memory, nullptr);
   giveSlabMemory(sizeClass, slab->memory);
-  sizeClass.heap->freeBytes -= slabTotalBytes(sizeClass);
+  sizeClass.heap->heldBytes -= slabTotalBytes(sizeClass);
   processHeap.load(std::memory_order_relaxed)->giveAligned(slab);
 }
 
@@ -86,7 +89,6 @@ void abandonCells(Slab *slab) {
   ThreadHeap *heap = slab->sizeClass->heap;
   const uint32_t live = (slab->sizeClass->objectsPerSlab - slab->freeCount) * slab->sizeClass->objectBytes;
   heap->usedBytes.subtract(live);
-  heap->freeBytes += live;
 }
 
 } // namespace
@@ -104,7 +106,7 @@ Slab *newSlab(SizeClass &sizeClass) {
   }
   fillHeader(slab, sizeClass, memory);
   putOnPartial(slab);
-  sizeClass.heap->freeBytes += slabTotalBytes(sizeClass);
+  sizeClass.heap->heldBytes += slabTotalBytes(sizeClass);
   return slab;
 }
 

@@ -66,7 +66,6 @@ inline void returnCell(ThreadHeap *heap, Slab *slab, FreeCell *cell) {
   cell->next = slab->freeHead;
   slab->freeHead = cell;
   ++slab->freeCount;
-  heap->freeBytes += bytes;
   heap->usedBytes.subtract(bytes);
 }
 

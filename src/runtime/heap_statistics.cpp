@@ -97,6 +97,7 @@ uint64_t installedMemoryBytes() { return systemInstalledKilobytes() << 10; }
 void adjustExternalBytes(uint32_t newTotal) {
   ThreadHeap *heap = requireHeap();
   const uint32_t oldTotal = externalBytes.exchange(newTotal, std::memory_order_relaxed);
+  heap->heldBytes += newTotal - oldTotal;
   if (newTotal <= oldTotal) return heap->usedBytes.subtract(oldTotal - newTotal);
   const uint32_t used = heap->usedBytes.value();
   chargeBytes(heap, newTotal - oldTotal);

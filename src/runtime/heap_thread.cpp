@@ -19,12 +19,13 @@ void initializeHeap(HeapRecords &records, const AllocatorGeometry &geometry, boo
   heap.classOfSize = classOfSize.data();
   heap.maxSmallBytes = kMaxSmallBytes;
   heap.usedBytes.set(kHeapOwnBytes);
+  heap.heldBytes = kHeapOwnBytes;
   heap.peakBytes.set(kHeapOwnBytes);
   heap.classCount = kClassCount;
   heap.isMainHeap = isMain;
   heap.ownerThreadId = currentThreadId();
   records.areas.maxKeptBytes = kMaxKeptBytes;
-  records.hotMemory = kNoHotMemory;
+  for (HotSlab &entry : records.hotSlabs) entry.memory = kNoHotMemory;
   for (uint32_t number = 1; number <= kClassCount; ++number) {
     records.classes[number] = &records.sizeClasses[number];
     initializeSizeClass(records.sizeClasses[number], &heap, number, geometry);
@@ -53,7 +54,7 @@ bool hasNoSlabs(ThreadHeap *heap) {
 // freeBytes is 0 only without slabs, each of which counts its header; but the counter has 32 bits, and
 // where addresses have more it may have wrapped to 0, so the lists have the last word.
 bool isEmptyOrphan(ThreadHeap *heap) {
-  return heap->orphaned.load(std::memory_order_relaxed) == kOrphaned && heap->freeBytes == 0 &&
+  return heap->orphaned.load(std::memory_order_relaxed) == kOrphaned && freeBytesOf(heap) == 0 &&
          heap->largeBlocks == nullptr && hasNoSlabs(heap);
 }
 

@@ -66,6 +66,7 @@ void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   void *block = takeLargeBlock(heap, bytes);
   if (block == nullptr) return failRequest(bytes, errorMode);
   chargeBytes(heap, bytes);
+  heap->heldBytes += bytes;
   return block;
 }
 
@@ -112,8 +113,8 @@ void freeByPageMap(void *block) {
   if (slab == nullptr) return freeWithHeader(block);
   ThreadHeap *heap = slab->sizeClass->heap;
   if (heap != threadHeap) return freeCellOfOtherThread(slab, static_cast<FreeCell *>(block));
-  recordsOf(heap).hotMemory = reinterpret_cast<uintptr_t>(slab->memory);
-  recordsOf(heap).hotSlab = slab;
+  hotSlabFor(recordsOf(heap),
+             reinterpret_cast<uintptr_t>(block)) = {reinterpret_cast<uintptr_t>(slab->memory), slab};
   takeBack(heap, slab, static_cast<FreeCell *>(block));
 }
 

@@ -148,14 +148,13 @@ void checkLargeBlocks(ThreadHeap *heap, Totals &totals, Findings &findings) {
 }
 
 // A hot slab that was released would take in cells of whoever has its area now.
-void checkHotSlab(const HeapRecords &records, const Totals &totals, Findings &findings) {
-  if (records.hotSlab == nullptr)
-    return findings.expect(records.hotMemory == kNoHotMemory, "memory of no slab is hot");
-  findings.expect(totals.slabs.count(records.hotSlab) == 1, "the hot slab is not the heap's");
+void checkHotSlab(const HotSlab &entry, const Totals &totals, Findings &findings) {
+  if (entry.slab == nullptr) return findings.expect(entry.memory == kNoHotMemory, "memory of no slab is hot");
+  findings.expect(totals.slabs.count(entry.slab) == 1, "a hot slab is not the heap's");
   if (!findings.text.empty()) return;
-  findings.expect(records.hotMemory == reinterpret_cast<uintptr_t>(records.hotSlab->memory) &&
-                      !hasCellHeaders(*records.hotSlab->sizeClass),
-                  "the hot memory is not the hot slab's");
+  findings.expect(entry.memory == reinterpret_cast<uintptr_t>(entry.slab->memory) &&
+                      !hasCellHeaders(*entry.slab->sizeClass),
+                  "hot memory is not its slab's");
 }
 
 void checkAreas(const AreaCache &areas, Findings &findings) {
@@ -198,10 +197,10 @@ testing::AssertionResult isValidHeap(ThreadHeap *heap, uint32_t externalBytes) {
   for (uint32_t number = 1; number <= heap->classCount; ++number)
     checkClass(*heap->classes[number], heap, totals, findings);
   checkLargeBlocks(heap, totals, findings);
-  checkHotSlab(recordsOf(heap), totals, findings);
+  for (const HotSlab &entry : recordsOf(heap).hotSlabs) checkHotSlab(entry, totals, findings);
   checkAreas(areasOf(heap), findings);
   const uint32_t used = kHeapOwnBytes + totals.liveBytes + externalBytes;
-  findings.expect(heap->freeBytes == totals.freeBytes, "freeBytes is wrong");
+  findings.expect(freeBytesOf(heap) == totals.freeBytes, "freeBytes is wrong");
   findings.expect(heap->usedBytes.value() == used, "usedBytes is wrong");
   findings.expect(heap->peakBytes.value() >= used, "usedBytes is above its peak");
   return asResult(findings);
