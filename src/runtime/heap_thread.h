@@ -47,7 +47,7 @@ struct HotSlab {
   uintptr_t memory; // kNoHotMemory for none
   Slab *slab;
 };
-inline constexpr uint32_t kHotSlabs = 32;
+inline constexpr uint32_t kHotSlabs = 256;
 
 struct HeapRecords {
   ThreadHeap heap;
