@@ -2,7 +2,7 @@
 // in this one process and are called through function pointers; rounds alternate between them and the
 // median round counts. Prints nanoseconds for one operation and our ratio to the best peer.
 //
-//   bench_memory [rounds]
+//   bench_memory [rounds [part of a row's name]]
 #include <torvane/memory.h>
 
 #include <algorithm>
@@ -12,11 +12,15 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <dlfcn.h>
 #include <functional>
+#include <pthread.h>
 #include <random>
+#include <sched.h>
 #include <string>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -91,6 +95,21 @@ double bursts(const Allocator &a, size_t bytes) {
   return nanosecondsSince(start) / (kBursts * blocks.size());
 }
 
+// Puts the calling thread on one processor: two threads that the scheduler happens to keep on the same one
+// measure the scheduler.
+void pinTo(int processor) {
+  cpu_set_t set;
+  CPU_ZERO(&set);
+  CPU_SET(processor, &set);
+  pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}
+
+void unpin() {
+  cpu_set_t set;
+  std::memset(&set, 0xFF, sizeof set);
+  pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}
+
 constexpr int kReplacements = 400000;
 
 // Blocks of 16 to 1024 bytes, small ones more often, replaced at random.
@@ -117,10 +136,20 @@ double replaceAtRandom(const Allocator &a, uint32_t seed) {
 // Both threads' replacements count, so that perfect scaling halves the figure of one thread.
 double replaceOnTwoThreads(const Allocator &a) {
   double first = 0, second = 0;
-  std::thread other([&] { second = replaceAtRandom(a, 1); });
+  pinTo(0);
+  std::thread other([&] {
+    pinTo(1);
+    second = replaceAtRandom(a, 1);
+  });
   first = replaceAtRandom(a, 2);
   other.join();
+  unpin();
   return (first + second) / 4;
+}
+
+// Spins a little, then lets others run: the machine may have fewer processors free than the figure needs.
+template <class Condition> void waitUntil(Condition holds) {
+  for (int spins = 0; !holds(); ++spins) spins < 2000 ? __builtin_ia32_pause() : std::this_thread::yield();
 }
 
 // One thread allocates, the other releases; blocks travel in batches of 64 through a ring.
@@ -130,19 +159,22 @@ double handOver(const Allocator &a, size_t bytes) {
   alignas(64) std::atomic<uint64_t> written{0};
   alignas(64) std::atomic<uint64_t> read{0};
   const auto start = Clock::now();
+  pinTo(0);
   std::thread consumer([&] {
+    pinTo(1);
     for (uint64_t i = 0; i < kBlocks; i += kBatch) {
-      while (written.load(std::memory_order_acquire) < i + kBatch) __builtin_ia32_pause();
+      waitUntil([&] { return written.load(std::memory_order_acquire) >= i + kBatch; });
       for (uint64_t j = i; j < i + kBatch; ++j) a.give(ring[j % kRing]);
       read.store(i + kBatch, std::memory_order_release);
     }
   });
   for (uint64_t i = 0; i < kBlocks; i += kBatch) {
-    while (i + kBatch - read.load(std::memory_order_acquire) > kRing) __builtin_ia32_pause();
+    waitUntil([&] { return i + kBatch - read.load(std::memory_order_acquire) <= kRing; });
     for (uint64_t j = i; j < i + kBatch; ++j) touch(ring[j % kRing] = a.take(bytes));
     written.store(i + kBatch, std::memory_order_release);
   }
   consumer.join();
+  unpin();
   return nanosecondsSince(start) / kBlocks;
 }
 
@@ -151,8 +183,11 @@ double median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
+const char *wanted = "";
+
 void compare(const std::string &what, const std::vector<Allocator> &all, int rounds,
              const std::function<double(const Allocator &)> &measure) {
+  if (what.find(wanted) == std::string::npos) return;
   std::vector<std::vector<double>> times(all.size());
   for (int round = 0; round < rounds; ++round)
     for (size_t i = 0; i < all.size(); ++i) times[i].push_back(measure(all[i]));
@@ -169,19 +204,32 @@ void compare(const std::string &what, const std::vector<Allocator> &all, int rou
 
 } // namespace
 
+// jemalloc wants thread-local storage that the loader must set aside at start.
+void restartWithStaticStorage(char **argv) {
+  if (std::getenv("GLIBC_TUNABLES") != nullptr) return;
+  setenv("GLIBC_TUNABLES", "glibc.rtld.optional_static_tls=8192", 1);
+  execv("/proc/self/exe", argv);
+}
+
+constexpr size_t kSizes[] = {16, 64, 256, 1024, 4096, 16384, 65520, 65536};
+constexpr size_t kHandedSizes[] = {16, 64, 256, 1024};
+
 int main(int argc, char **argv) {
+  restartWithStaticStorage(argv);
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 9;
+  if (argc > 2) wanted = argv[2];
   const auto all = allocators();
 
   std::printf("%-28s", "ns");
   for (const Allocator &a : all) std::printf(" %9s", a.name);
   std::printf("   ours / best peer\n");
-  for (const size_t bytes : {16, 64, 256, 1024, 4096, 16384, 65520, 65536})
+  for (const size_t bytes : kSizes)
     compare("pairs, " + std::to_string(bytes), all, rounds, [&](auto &a) { return pairs(a, bytes); });
-  for (const size_t bytes : {16, 64, 256, 1024, 4096, 16384, 65520, 65536})
+  for (const size_t bytes : kSizes)
     compare("bursts of 64, " + std::to_string(bytes), all, rounds, [&](auto &a) { return bursts(a, bytes); });
   compare("10,000 blocks at random", all, rounds, [&](auto &a) { return replaceAtRandom(a, 7); });
   compare("the same on two threads", all, rounds, [&](auto &a) { return replaceOnTwoThreads(a); });
-  for (const size_t bytes : {16, 64, 256, 1024})
-    compare("handed over, " + std::to_string(bytes), all, rounds, [&](auto &a) { return handOver(a, bytes); });
+  for (const size_t bytes : kHandedSizes)
+    compare("handed over, " + std::to_string(bytes), all, rounds,
+            [&](auto &a) { return handOver(a, bytes); });
 }

@@ -84,7 +84,8 @@ void *takeArea(AreaCache &cache, uint32_t bytes) {
 
 void giveArea(AreaCache &cache, void *area, uint32_t bytes) {
   const uint32_t grade = gradeOf(bytes);
-  grade == kNoGrade ? processHeap.load(std::memory_order_relaxed)->give(area) : keepOrGive(cache, area, grade);
+  grade == kNoGrade ? processHeap.load(std::memory_order_relaxed)->give(area)
+                    : keepOrGive(cache, area, grade);
 }
 
 void closeAreaCache(AreaCache &cache) {

@@ -19,13 +19,13 @@ struct KeptArea {
 
 struct AreaCache {
   uint32_t keptBytes;
-  uint32_t maxKeptBytes; // 0 once the heap's thread has ended
-  uint32_t victim; // the list that gives way next when there is no room
+  uint32_t maxKeptBytes;            // 0 once the heap's thread has ended
+  uint32_t victim;                  // the list that gives way next when there is no room
   KeptArea *lists[kAreaGrades + 1]; // by grade, and the aligned areas last
 };
 
-// Areas of kBareSlabBytes aligned to kSlabAlignment, and plain areas of any size. Null when memory is exhausted.
-// `bytes` is the same at take and give.
+// Areas of kBareSlabBytes aligned to kSlabAlignment, and plain areas of any size. Null when memory is
+// exhausted. `bytes` is the same at take and give.
 void *takeAlignedArea(AreaCache &cache);
 void giveAlignedArea(AreaCache &cache, void *area);
 void *takeArea(AreaCache &cache, uint32_t bytes);

@@ -11,31 +11,34 @@ namespace torvane {
 inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 
 // The whole of an allocation, step by step, and the release of any block that is not in the hot slab.
-void *allocateSlowly(uint32_t size, mint errorMode);
-void *allocateWithHeader(uint32_t size, mint errorMode);
-void freeByPageMap(void *block);
-void settleAndReclaim(Slab *slab);
+[[gnu::noinline]] void *allocateSlowly(uint32_t size, mint errorMode);
+[[gnu::noinline]] void *allocateWithHeader(uint32_t size, mint errorMode);
+[[gnu::noinline]] void freeByPageMap(void *block);
+[[gnu::noinline]] void settleAndReclaim(Slab *slab);
 
 // Takes the first free cell of a slab on the partial list. `hasHeader` is known where this is called.
-[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab, bool hasHeader) {
+[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab,
+                                            bool hasHeader) {
   FreeCell *cell = slab->freeHead;
   const uint32_t bytes = sizeClass.objectBytes;
   slab->freeHead = cell->next;
-  heap->freeBytes -= bytes;
   chargeBytes(heap, bytes);
   void *block = cell;
   if (hasHeader) {
     *reinterpret_cast<uintptr_t *>(cell) = reinterpret_cast<uintptr_t>(slab) + 1;
     block = reinterpret_cast<char *>(cell) + kCellHeaderBytes;
   }
-  if (--slab->freeCount == 0) [[unlikely]] return moveToFull(slab, block);
+  if (--slab->freeCount == 0) [[unlikely]]
+    return moveToFull(slab, block);
   return block;
 }
 
 // Size 0 finds the empty class 0, which has nothing ready.
-[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader, mint errorMode) {
-  ThreadHeap *heap = thisThread.heap;
-  if (heap == nullptr || heap->limitBytes != 0) [[unlikely]] return allocateSlowly(size, errorMode);
+[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader,
+                                                  mint errorMode) {
+  ThreadHeap *heap = threadHeap;
+  if (heap == nullptr || heap->limitBytes != 0) [[unlikely]]
+    return allocateSlowly(size, errorMode);
   SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[bytes / 8]];
   Slab *slab = sizeClass.partialSlabs;
   if (slab == nullptr || sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
@@ -44,7 +47,8 @@ void settleAndReclaim(Slab *slab);
 }
 
 [[gnu::always_inline]] inline void *allocateInline(uint32_t size, mint errorMode) {
-  if (size <= kMaxBareCellBytes) [[likely]] return takeReadyCell(size, roundUpTo8(size), false, errorMode);
+  if (size <= kMaxBareCellBytes) [[likely]]
+    return takeReadyCell(size, roundUpTo8(size), false, errorMode);
   return allocateWithHeader(size, errorMode);
 }
 
@@ -54,14 +58,19 @@ void settleAndReclaim(Slab *slab);
   returnCell(heap, slab, cell);
   if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
     return settleAndReclaim(slab);
-  if (slab->freeCount == 1) [[unlikely]] return moveToPartial(slab);
+  if (slab->freeCount == 1) [[unlikely]]
+    return moveToPartial(slab);
   if (slab->freeCount == sizeClass.objectsPerSlab) retireSlab(slab);
 }
 
 [[gnu::always_inline]] inline void freeInline(void *block) {
-  const ThreadWords &words = thisThread;
-  if (reinterpret_cast<uintptr_t>(block) - words.hotMemory < kBareSlabBytes) [[likely]]
-    return takeBack(words.heap, words.hotSlab, static_cast<FreeCell *>(block));
+  ThreadHeap *heap = threadHeap;
+  if (heap != nullptr) [[likely]] {
+    const auto address = reinterpret_cast<uintptr_t>(block);
+    const HotSlab &hot = hotSlabFor(recordsOf(heap), address);
+    if (address - hot.memory < kBareSlabBytes) [[likely]]
+      return takeBack(heap, hot.slab, static_cast<FreeCell *>(block));
+  }
   freeByPageMap(block);
 }
 

@@ -37,7 +37,7 @@ void *takeLargeBlock(ThreadHeap *heap, uint32_t totalBytes) {
 
 void freeLargeBlock(LargeBlock *block) {
   ThreadHeap *heap = block->heap;
-  if (heap != thisThread.heap) return freeOfOtherThread(block);
+  if (heap != threadHeap) return freeOfOtherThread(block);
   releaseLargeBlock(block);
   if (heap->deferredLarge.load(std::memory_order_relaxed) != nullptr) releaseDeferredLarge(heap);
 }
@@ -61,6 +61,7 @@ void releaseLargeBlock(LargeBlock *block) {
   ThreadHeap *heap = block->heap;
   unlink(heap->largeBlocks, block);
   heap->usedBytes.subtract(block->totalBytes);
+  heap->heldBytes -= block->totalBytes;
   giveArea(areasOf(heap), block, block->totalBytes);
 }
 

@@ -16,6 +16,7 @@ struct AllocatorGeometry;
 struct Slab;
 struct ThreadHeap;
 
+inline constexpr size_t kCacheLineBytes = 64;
 inline constexpr uint32_t kClassCount = 88;
 inline constexpr uint32_t kMaxBareCellBytes = 1024;
 inline constexpr uint32_t kMaxSmallBytes = 65536;
@@ -25,17 +26,27 @@ inline constexpr uint32_t kBareSlabBytes = 65536; // the area of every slab of b
 
 struct SizeClass {
   ThreadHeap *heap;
-  Lock lock; // over pendingSlabs, remoteBytes and the slabs' remote lists
+#if UINTPTR_MAX == UINT32_MAX
+  BriefLock lock; // over pendingSlabs, remoteBytes and the slabs' remote lists
+#endif
   Slab *fullSlabs;
-  Slab *partialSlabs;
+  Slab *partialSlabs;               // a queue (heap_list.h); cells are taken from its first slab
   std::atomic<Slab *> pendingSlabs; // written under the lock, polled by the owner without it
   Slab *spareSlab;                  // at most one wholly free slab, on no list
   uint32_t slabDataBytes;
   uint32_t objectBytes;
   uint32_t slabPages; // pages to enter in the page map, 0 for cells with a header
+#if UINTPTR_MAX == UINT32_MAX
   uint32_t remoteBytes;
+#endif
   uint32_t objectsPerSlab;
   uint32_t partialCount;
+#if UINTPTR_MAX > UINT32_MAX
+  // Written for every cell that comes back from another thread: in a cache line that the owner's common
+  // roads do not read.
+  alignas(kCacheLineBytes) BriefLock lock;
+  uint32_t remoteBytes;
+#endif
 };
 static_assert(sizeof(void *) != 4 || sizeof(SizeClass) == 48);
 

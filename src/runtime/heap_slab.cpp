@@ -10,8 +10,7 @@ namespace {
 
 void *takeSlabMemory(SizeClass &sizeClass) {
   AreaCache &areas = areasOf(sizeClass.heap);
-  return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes)
-                                   : takeAlignedArea(areas);
+  return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes) : takeAlignedArea(areas);
 }
 
 void giveSlabMemory(SizeClass &sizeClass, void *memory) {
@@ -32,8 +31,7 @@ FreeCell *chainCells(void *memory, uint32_t cellBytes, uint32_t count) {
 }
 
 bool enterSlab(const SizeClass &sizeClass, const void *memory, Slab *entry) {
-  return hasCellHeaders(sizeClass) ||
-         enterInPageMap(currentState(), memory, sizeClass.slabDataBytes, entry);
+  return hasCellHeaders(sizeClass) || enterInPageMap(currentState(), memory, sizeClass.slabDataBytes, entry);
 }
 
 void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
@@ -45,25 +43,36 @@ void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
   slab->freeCount = sizeClass.objectsPerSlab;
 }
 
+void forgetHotSlab(HeapRecords &records, const Slab *slab) {
+  // An area that is not aligned to its size reaches into two places.
+  const auto memory = reinterpret_cast<uintptr_t>(slab->memory);
+  for (const uintptr_t address : {memory, memory + kBareSlabBytes - 1}) {
+    HotSlab &entry = hotSlabFor(records, address);
+    if (entry.memory == memory) entry = {kNoHotMemory, nullptr};
+  }
+}
+
 // Gives back a slab that is on no list.
 void releaseSlab(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
-  if (thisThread.hotSlab == slab) forgetHotSlab();
+  forgetHotSlab(recordsOf(sizeClass.heap), slab);
   enterSlab(sizeClass, slab->memory, nullptr);
   giveSlabMemory(sizeClass, slab->memory);
-  sizeClass.heap->freeBytes -= slabTotalBytes(sizeClass);
-  processHeap.load(std::memory_order_relaxed)->give(slab);
+  sizeClass.heap->heldBytes -= slabTotalBytes(sizeClass);
+  processHeap.load(std::memory_order_relaxed)->giveAligned(slab);
 }
 
 void takeOffPartial(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
-  unlink(sizeClass.partialSlabs, slab);
+  unlinkFromQueue(sizeClass.partialSlabs, slab);
   --sizeClass.partialCount;
 }
 
 bool isWhollyFree(const Slab *slab) { return slab->freeCount == slab->sizeClass->objectsPerSlab; }
 
-// An idle slab in place gives way: cells are taken from slabs in use first.
+// At the end of the queue, so that a slab gathers free cells until its turn comes; at the front it would lose
+// each cell again at once, and move between the lists with every cell. An idle slab in place gives way:
+// cells are taken from slabs in use first.
 void putOnPartial(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
   Slab *head = sizeClass.partialSlabs;
@@ -71,7 +80,7 @@ void putOnPartial(Slab *slab) {
     takeOffPartial(head);
     sizeClass.spareSlab = head;
   }
-  pushFront(sizeClass.partialSlabs, slab);
+  pushBack(sizeClass.partialSlabs, slab);
   ++sizeClass.partialCount;
 }
 
@@ -80,24 +89,24 @@ void abandonCells(Slab *slab) {
   ThreadHeap *heap = slab->sizeClass->heap;
   const uint32_t live = (slab->sizeClass->objectsPerSlab - slab->freeCount) * slab->sizeClass->objectBytes;
   heap->usedBytes.subtract(live);
-  heap->freeBytes += live;
 }
 
 } // namespace
 
 Slab *newSlab(SizeClass &sizeClass) {
   const ProcessHeap &source = *processHeap.load(std::memory_order_relaxed);
-  auto *slab = static_cast<Slab *>(source.take(sizeof(Slab)));
+  auto *slab = static_cast<Slab *>(
+      source.takeAligned(sizeof(Slab), alignof(Slab) > sizeof(void *) ? alignof(Slab) : sizeof(void *)));
   if (slab == nullptr) return nullptr;
   void *memory = takeSlabMemory(sizeClass);
   if (memory == nullptr || !enterSlab(sizeClass, memory, slab)) {
     if (memory != nullptr) giveSlabMemory(sizeClass, memory);
-    source.give(slab);
+    source.giveAligned(slab);
     return nullptr;
   }
   fillHeader(slab, sizeClass, memory);
   putOnPartial(slab);
-  sizeClass.heap->freeBytes += slabTotalBytes(sizeClass);
+  sizeClass.heap->heldBytes += slabTotalBytes(sizeClass);
   return slab;
 }
 
@@ -112,7 +121,7 @@ Slab *takeSpareSlab(SizeClass &sizeClass) {
 void retireSlab(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
   const bool hasSpare = sizeClass.spareSlab != nullptr;
-  if (!hasSpare && slab->prev == nullptr && slab->next == nullptr) return;
+  if (!hasSpare && slab == sizeClass.partialSlabs && slab->next == nullptr) return;
   takeOffPartial(slab);
   if (hasSpare)
     releaseSlab(slab);

@@ -60,10 +60,12 @@ void destroyState(AllocatorState *state) {
 
 } // namespace
 
-AllocatorState *ensureState() {
-  AllocatorState *state = allocatorState.load(std::memory_order_acquire);
-  if (state != nullptr) return state;
-  state = newState();
+namespace {
+
+constinit Lock stateLock; // held while the state is made
+
+AllocatorState *makeState() {
+  AllocatorState *state = newState();
   if (state == nullptr) return nullptr;
   if (newThreadHeap(state, true) == nullptr) {
     destroyState(state);
@@ -73,10 +75,20 @@ AllocatorState *ensureState() {
   return state;
 }
 
+} // namespace
+
+// A host starts up on one thread; two threads that allocate without that must not end up with a state each.
+AllocatorState *ensureState() {
+  if (AllocatorState *state = allocatorState.load(std::memory_order_acquire)) return state;
+  LockGuard guard(stateLock);
+  AllocatorState *state = allocatorState.load(std::memory_order_acquire);
+  return state != nullptr ? state : makeState();
+}
+
 void adoptAllocatorState(void *state) {
   if (state == nullptr || state == currentState()) return;
   allocatorState.store(static_cast<AllocatorState *>(state), std::memory_order_release);
-  forgetThreadHeap(); // the thread's heap is what the adopted state's slot says
+  threadHeap = nullptr; // the thread's heap is what the adopted state's slot says
 }
 
 void tearDownMemory() {
@@ -85,7 +97,7 @@ void tearDownMemory() {
   while (state->threads != nullptr) dropHeap(state->threads);
   destroyState(state);
   allocatorState.store(nullptr, std::memory_order_release);
-  forgetThreadHeap();
+  threadHeap = nullptr;
 }
 
 void initializeMemory(mint stage) {

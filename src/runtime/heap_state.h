@@ -42,6 +42,4 @@ inline AllocatorState *currentState() { return allocatorState.load(std::memory_o
 // exhausted, and then nothing is left behind.
 AllocatorState *ensureState();
 
-
-
 } // namespace torvane

@@ -34,11 +34,16 @@ uint32_t deferredLargeBytes(ThreadHeap *heap) {
 
 uint32_t figureOf(ThreadHeap *heap, mint which) {
   switch (which) {
-  case 0: return heap->usedBytes.value();
-  case 1: return heap->peakBytes.value();
-  case 2: return remoteBytes(heap);
-  case 3: return deferredLargeBytes(heap);
-  default: return heap->ownerThreadId;
+  case 0:
+    return heap->usedBytes.value();
+  case 1:
+    return heap->peakBytes.value();
+  case 2:
+    return remoteBytes(heap);
+  case 3:
+    return deferredLargeBytes(heap);
+  default:
+    return heap->ownerThreadId;
   }
 }
 
@@ -63,13 +68,14 @@ uint32_t *heapStatistics(uint32_t *count, mint which) {
   *count = countHeaps(state);
   auto *figures = static_cast<uint32_t *>(allocate(*count * uint32_t{sizeof(uint32_t)}, 0, kFatal));
   uint32_t *figure = figures;
-  for (ThreadHeap *heap = state->threads; heap != nullptr; heap = heap->next) *figure++ = figureOf(heap, which);
+  for (ThreadHeap *heap = state->threads; heap != nullptr; heap = heap->next)
+    *figure++ = figureOf(heap, which);
   return figures;
 }
 
 void pushPeakMark(PeakMark **stack) {
   auto *mark = static_cast<PeakMark *>(allocate(sizeof(PeakMark), 0, kFatal));
-  ThreadHeap *heap = thisThread.heap;
+  ThreadHeap *heap = threadHeap;
   mark->next = *stack;
   mark->peakBytes = heap->peakBytes.value();
   *stack = mark;
@@ -78,7 +84,7 @@ void pushPeakMark(PeakMark **stack) {
 
 uint32_t popPeakMark(PeakMark **stack) {
   PeakMark *mark = *stack;
-  ThreadHeap *heap = thisThread.heap;
+  ThreadHeap *heap = threadHeap;
   const uint32_t peak = heap->peakBytes.value();
   if (mark->peakBytes > peak) heap->peakBytes.set(mark->peakBytes);
   *stack = mark->next;
@@ -89,12 +95,14 @@ uint32_t popPeakMark(PeakMark **stack) {
 uint64_t installedMemoryBytes() { return systemInstalledKilobytes() << 10; }
 
 void adjustExternalBytes(uint32_t newTotal) {
-  const uint32_t oldTotal = externalBytes.exchange(newTotal, std::memory_order_relaxed);
   ThreadHeap *heap = requireHeap();
+  const uint32_t oldTotal = externalBytes.exchange(newTotal, std::memory_order_relaxed);
+  heap->heldBytes += newTotal - oldTotal;
   if (newTotal <= oldTotal) return heap->usedBytes.subtract(oldTotal - newTotal);
   const uint32_t used = heap->usedBytes.value();
   chargeBytes(heap, newTotal - oldTotal);
-  if (heap->limitBytes != 0 && (used + (newTotal - oldTotal) < used || heap->usedBytes.value() > heap->limitBytes))
+  if (heap->limitBytes != 0 &&
+      (used + (newTotal - oldTotal) < used || heap->usedBytes.value() > heap->limitBytes))
     limitHook(heap->usedBytes.value());
 }
 

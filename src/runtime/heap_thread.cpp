@@ -9,7 +9,7 @@
 
 namespace torvane {
 
-constinit thread_local ThreadWords thisThread = {nullptr, kNoHotMemory, nullptr};
+constinit thread_local ThreadHeap *threadHeap = nullptr;
 
 namespace {
 
@@ -19,11 +19,13 @@ void initializeHeap(HeapRecords &records, const AllocatorGeometry &geometry, boo
   heap.classOfSize = classOfSize.data();
   heap.maxSmallBytes = kMaxSmallBytes;
   heap.usedBytes.set(kHeapOwnBytes);
+  heap.heldBytes = kHeapOwnBytes;
   heap.peakBytes.set(kHeapOwnBytes);
   heap.classCount = kClassCount;
   heap.isMainHeap = isMain;
   heap.ownerThreadId = currentThreadId();
   records.areas.maxKeptBytes = kMaxKeptBytes;
+  for (HotSlab &entry : records.hotSlabs) entry.memory = kNoHotMemory;
   for (uint32_t number = 1; number <= kClassCount; ++number) {
     records.classes[number] = &records.sizeClasses[number];
     initializeSizeClass(records.sizeClasses[number], &heap, number, geometry);
@@ -52,7 +54,7 @@ bool hasNoSlabs(ThreadHeap *heap) {
 // freeBytes is 0 only without slabs, each of which counts its header; but the counter has 32 bits, and
 // where addresses have more it may have wrapped to 0, so the lists have the last word.
 bool isEmptyOrphan(ThreadHeap *heap) {
-  return heap->orphaned.load(std::memory_order_relaxed) == kOrphaned && heap->freeBytes == 0 &&
+  return heap->orphaned.load(std::memory_order_relaxed) == kOrphaned && freeBytesOf(heap) == 0 &&
          heap->largeBlocks == nullptr && hasNoSlabs(heap);
 }
 
@@ -89,31 +91,34 @@ ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain) {
   if (memory == nullptr) return nullptr;
   auto *records = new (memory) HeapRecords{};
   initializeHeap(*records, *state->geometry, isMain);
-  setThreadSlotValue(state->tlsSlot, &records->heap);
+  if (!setThreadSlotValue(state->tlsSlot, &records->heap)) {
+    processHeap.load()->giveAligned(memory);
+    return nullptr;
+  }
   LockGuard guard(state->threadListLock);
   pushFront(state->threads, &records->heap);
   return &records->heap;
 }
 
 ThreadHeap *ensureThreadHeap() {
-  if (thisThread.heap != nullptr) return thisThread.heap;
+  if (threadHeap != nullptr) return threadHeap;
   AllocatorState *state = ensureState();
   if (state == nullptr) return nullptr;
   auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
-  return thisThread.heap = heap != nullptr ? heap : newThreadHeap(state, false);
+  return threadHeap = heap != nullptr ? heap : newThreadHeap(state, false);
 }
 
 void endThreadHeap() {
   AllocatorState *state = currentState();
   if (state == nullptr) return;
   auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
-  forgetThreadHeap();
+  threadHeap = nullptr;
   setThreadSlotValue(state->tlsSlot, nullptr);
   if (heap != nullptr) closeHeap(heap);
 }
 
 void endHeapOfSlot(void *heap) {
-  forgetThreadHeap();
+  threadHeap = nullptr;
   closeHeap(static_cast<ThreadHeap *>(heap));
 }
 

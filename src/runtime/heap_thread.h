@@ -1,7 +1,7 @@
 // A thread's heap. The thread that owns it takes from it and returns to it without a lock; other threads
 // hand blocks back through the deferred lists. With every block at home
 //     usedBytes = own records + sum of live cells (class size) + sum of large blocks (totalBytes),
-//     freeBytes = sum over slabs of slabTotalBytes - live cells * objectBytes,
+//     heldBytes = usedBytes + freeBytes, where freeBytes = sum over slabs of slabTotalBytes - live cells,
 // where cells and blocks that other threads have freed stay live until the owner reclaims them.
 //
 // When the thread ends with blocks out, the heap stays behind as an orphan. From then on any thread that
@@ -28,7 +28,7 @@ struct ThreadHeap {
   const uint8_t *classOfSize;
   Lock largeLock; // over deferredLarge and, for an orphan, everything
   uint32_t maxSmallBytes;
-  uint32_t freeBytes;
+  uint32_t heldBytes; // freeBytes + usedBytes: what a cell that goes or comes leaves as it is
   ByteCounter usedBytes;
   ByteCounter peakBytes;
   uint32_t limitBytes; // 0: none
@@ -40,11 +40,26 @@ struct ThreadHeap {
 static_assert(sizeof(void *) != 4 || sizeof(ThreadHeap) == 64);
 
 // A heap and everything that belongs to it, in one piece of the process heap.
+inline constexpr uintptr_t kNoHotMemory = ~uintptr_t{0xFFFF}; // where no area can lie
+
+// A slab of bare cells and its area.
+struct HotSlab {
+  uintptr_t memory; // kNoHotMemory for none
+  Slab *slab;
+};
+inline constexpr uint32_t kHotSlabs = 256;
+
 struct HeapRecords {
   ThreadHeap heap;
+  // Slabs that the owner has returned bare cells to, by their place in the address space. A cell inside the
+  // area of its entry belongs to that slab, which saves the look into the page map; more important, the next
+  // allocation need not wait for that look to end.
+  HotSlab hotSlabs[kHotSlabs];
   SizeClass *classes[kClassCount + 1];
   AreaCache areas;
-  alignas(64) SizeClass sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
+  uint64_t lastReclaim[kClassCount + 1]; // time stamps; see heap_remote.cpp
+  alignas(kCacheLineBytes) SizeClass
+      sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
 };
 
 // What a heap counts as used before it has handed out anything.
@@ -53,18 +68,14 @@ inline constexpr uint32_t kHeapOwnBytes = static_cast<uint32_t>(
 static_assert(sizeof(void *) != 4 || kHeapOwnBytes == 64 + 356 + 48 * 88);
 
 inline HeapRecords &recordsOf(ThreadHeap *heap) { return *reinterpret_cast<HeapRecords *>(heap); }
+inline HotSlab &hotSlabFor(HeapRecords &records, uintptr_t address) {
+  return records.hotSlabs[address / kBareSlabBytes % kHotSlabs];
+}
+inline uint32_t freeBytesOf(const ThreadHeap *heap) { return heap->heldBytes - heap->usedBytes.value(); }
 inline AreaCache &areasOf(ThreadHeap *heap) { return recordsOf(heap).areas; }
 
-// What a thread keeps at hand: its heap, null before its first allocation, and the slab of bare cells that it
-// last returned a cell to. A cell inside hotMemory belongs to hotSlab and to this heap, which saves the look
-// into the page map; more important, the next allocation need not wait for that look to end.
-struct ThreadWords {
-  ThreadHeap *heap;
-  uintptr_t hotMemory; // kNoHotMemory, or the address of hotSlab's area
-  Slab *hotSlab;
-};
-inline constexpr uintptr_t kNoHotMemory = ~uintptr_t{0xFFFF}; // where no area can lie
-extern constinit thread_local ThreadWords thisThread;
+// The calling thread's heap, null before its first allocation.
+extern constinit thread_local ThreadHeap *threadHeap;
 
 // The calling thread's heap, made if it has none; null when memory is exhausted.
 ThreadHeap *ensureThreadHeap();
@@ -85,12 +96,6 @@ ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain);
 // later allocation of the thread makes a new heap. The second form is the destructor of the thread's slot.
 void endThreadHeap();
 void endHeapOfSlot(void *heap);
-
-inline void forgetHotSlab() {
-  thisThread.hotMemory = kNoHotMemory;
-  thisThread.hotSlab = nullptr;
-}
-inline void forgetThreadHeap() { thisThread = {nullptr, kNoHotMemory, nullptr}; }
 
 // Leaves the largeLock of a heap that others may have left empty; destroys it if it is an empty orphan.
 void leaveOrphan(ThreadHeap *heap);

@@ -50,7 +50,9 @@ Slab *slabWithFreeCell(SizeClass &sizeClass) {
   if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaim(sizeClass);
   if (sizeClass.partialSlabs != nullptr) return sizeClass.partialSlabs;
   if (Slab *slab = takeSpareSlab(sizeClass)) return slab;
-  return newSlab(sizeClass);
+  if (Slab *slab = newSlab(sizeClass)) return slab;
+  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaimNow(sizeClass);
+  return sizeClass.partialSlabs;
 }
 
 void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
@@ -60,16 +62,18 @@ void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   return handOut(heap, sizeClass, slab, hasCellHeaders(sizeClass));
 }
 
-void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
+[[gnu::noinline]] void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   void *block = takeLargeBlock(heap, bytes);
   if (block == nullptr) return failRequest(bytes, errorMode);
   chargeBytes(heap, bytes);
+  heap->heldBytes += bytes;
   return block;
 }
 
 void freeCell(Slab *slab, FreeCell *cell) {
   ThreadHeap *heap = slab->sizeClass->heap;
-  if (heap != thisThread.heap) [[unlikely]] return freeCellOfOtherThread(slab, cell);
+  if (heap != threadHeap) [[unlikely]]
+    return freeCellOfOtherThread(slab, cell);
   takeBack(heap, slab, cell);
 }
 
@@ -80,7 +84,7 @@ uintptr_t headerWord(const void *block) {
 
 bool namesSlab(uintptr_t word) { return (word & 1) != 0 && word != 1; }
 
-void freeWithHeader(void *block) {
+[[gnu::noinline]] void freeWithHeader(void *block) {
   const uintptr_t word = headerWord(block);
   if (!namesSlab(word)) return freeLargeBlock(largeBlockOf(block));
   freeCell(reinterpret_cast<Slab *>(word - 1),
@@ -108,9 +112,9 @@ void freeByPageMap(void *block) {
   Slab *slab = slabOfAddress(currentState()->pageMap, block);
   if (slab == nullptr) return freeWithHeader(block);
   ThreadHeap *heap = slab->sizeClass->heap;
-  if (heap != thisThread.heap) return freeCellOfOtherThread(slab, static_cast<FreeCell *>(block));
-  thisThread.hotMemory = reinterpret_cast<uintptr_t>(slab->memory);
-  thisThread.hotSlab = slab;
+  if (heap != threadHeap) return freeCellOfOtherThread(slab, static_cast<FreeCell *>(block));
+  hotSlabFor(recordsOf(heap),
+             reinterpret_cast<uintptr_t>(block)) = {reinterpret_cast<uintptr_t>(slab->memory), slab};
   takeBack(heap, slab, static_cast<FreeCell *>(block));
 }
 
@@ -167,9 +171,8 @@ uint32_t blockUsableBytes(const void *block) {
   return size - overhead;
 }
 
-// Compiled code and tensors compare this figure with stored ones, so it stays as it is although `allocate`
-// takes otherwise near the borders: 65528 bytes count as a cell here and as one there, 65529 to 65535 as a
-// large block in both, but no request is taken to have a cell header unless its class is above 1024.
+// Reckoned from the rounded request alone, as tensors have always reported it; `allocate` adds its header
+// before it looks up the class, so that near a class's border it may take the next one.
 uint32_t allocatedBytesFor(uint32_t request) {
   const uint32_t rounded = roundUpTo8(request);
   if (rounded > kMaxSmallBytes - 1) return rounded + kLargeHeaderBytes;
@@ -178,10 +181,10 @@ uint32_t allocatedBytesFor(uint32_t request) {
 }
 
 void checkLimit(uint32_t extraBytes) {
-  const ThreadHeap *heap = thisThread.heap;
+  const ThreadHeap *heap = threadHeap;
   if (heap == nullptr || heap->limitBytes == 0) return;
   const uint32_t sum = addSaturating(heap->usedBytes.value(), extraBytes);
-  if (sum > heap->limitBytes) callLimitHook(thisThread.heap, sum);
+  if (sum > heap->limitBytes) callLimitHook(threadHeap, sum);
 }
 
 uint32_t usedBytesOfThisThread() {

@@ -30,7 +30,8 @@ template <class Table> std::atomic<Slab *> *ensureEntry(AllocatorState *state, T
   return next == nullptr ? nullptr : ensureEntry(state, next, unit);
 }
 
-template <class Entry, uint32_t kEntries, uint32_t kShift> void destroyTable(PageMapTable<Entry, kEntries, kShift> *table) {
+template <class Entry, uint32_t kEntries, uint32_t kShift>
+void destroyTable(PageMapTable<Entry, kEntries, kShift> *table) {
   if (table == nullptr) return;
   if constexpr (!std::is_same_v<Entry, Slab>)
     for (auto &entry : table->entries) destroyTable(entry.load(std::memory_order_relaxed));
@@ -49,7 +50,9 @@ bool enterInPageMap(AllocatorState *state, const void *memory, size_t bytes, Sla
   return true;
 }
 
-PageMapTop *newPageMap() { return static_cast<PageMapTop *>(processHeap.load()->takeZeroed(sizeof(PageMapTop))); }
+PageMapTop *newPageMap() {
+  return static_cast<PageMapTop *>(processHeap.load()->takeZeroed(sizeof(PageMapTop)));
+}
 void destroyPageMap(PageMapTop *map) { destroyTable(map); }
 
 } // namespace torvane

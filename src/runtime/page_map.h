@@ -40,7 +40,8 @@ template <class Table> inline Slab *slabOfUnit(const Table *table, uintptr_t uni
   const auto *entry = table->entryOf(unit).load(std::memory_order_acquire);
   return entry == nullptr ? nullptr : slabOfUnit(entry, unit);
 }
-template <uint32_t kEntries> inline Slab *slabOfUnit(const PageMapTable<Slab, kEntries, 0> *leaf, uintptr_t unit) {
+template <uint32_t kEntries>
+inline Slab *slabOfUnit(const PageMapTable<Slab, kEntries, 0> *leaf, uintptr_t unit) {
   return leaf->entryOf(unit).load(std::memory_order_relaxed);
 }
 

@@ -43,6 +43,18 @@ void Lock::enterSlowly() {
 
 void Lock::wakeOne() { syscall(SYS_futex, futexWord(word), FUTEX_WAKE_PRIVATE, 1, nullptr, nullptr, 0); }
 
+void BriefLock::enterSlowly() {
+  for (int spins = 0;; ++spins) {
+    if (word.load(std::memory_order_relaxed) == 0 && tryEnter()) return;
+    if (spins < 200) {
+      __builtin_ia32_pause();
+    } else {
+      const timespec nap = {0, 20000};
+      nanosleep(&nap, nullptr);
+    }
+  }
+}
+
 static_assert(sizeof(ThreadSlot) >= sizeof(pthread_key_t));
 
 bool createThreadSlot(ThreadSlot *slot, void (*destructor)(void *)) {
@@ -54,7 +66,7 @@ bool createThreadSlot(ThreadSlot *slot, void (*destructor)(void *)) {
 
 void deleteThreadSlot(ThreadSlot slot) { pthread_key_delete(slot); }
 void *threadSlotValue(ThreadSlot slot) { return pthread_getspecific(slot); }
-void setThreadSlotValue(ThreadSlot slot, void *value) { pthread_setspecific(slot, value); }
+bool setThreadSlotValue(ThreadSlot slot, void *value) { return pthread_setspecific(slot, value) == 0; }
 
 uint32_t currentThreadId() { return static_cast<uint32_t>(syscall(SYS_gettid)); }
 

@@ -25,7 +25,9 @@ void *counted(void *block) {
 
 void *take(size_t bytes) { return refuses() ? nullptr : counted(platformProcessHeap.take(bytes)); }
 
-void *takeZeroed(size_t bytes) { return refuses() ? nullptr : counted(platformProcessHeap.takeZeroed(bytes)); }
+void *takeZeroed(size_t bytes) {
+  return refuses() ? nullptr : counted(platformProcessHeap.takeZeroed(bytes));
+}
 
 void *takeAligned(size_t bytes, size_t alignment) {
   return refuses() ? nullptr : counted(platformProcessHeap.takeAligned(bytes, alignment));

@@ -129,16 +129,13 @@ template <mint kind1, mint kind2, class Entry> TypedBinary wrapBinary(Entry *ent
 inline Element sampleElement(mint kind, std::mt19937_64 &random) {
   static const std::vector<double> special = specialReals<double>();
   static const std::vector<double> ordinary = randomReals<double>(500, 99);
-  static const mint words[] = {0,     1,      -1,    2,         3,          -7,       46340,
-                               46341, -46341, 65536, INT32_MAX, -INT32_MAX, INT32_MIN};
+  static const mint words[] = {0, 1, -1, 2, 3, -7, 46340, 46341, -46341, 65536, INT32_MAX, -INT32_MAX, INT32_MIN};
+  const auto below = [&](size_t bound) { return static_cast<size_t>(random() % bound); };
   const auto real = [&] {
     switch (random() % 4) {
-    case 0:
-      return special[random() % special.size()];
-    case 1:
-      return ordinary[random() % ordinary.size()];
-    default:
-      return double(random() % 2000) / 16 - 40;
+    case 0: return special[below(special.size())];
+    case 1: return ordinary[below(ordinary.size())];
+    default: return double(random() % 2000) / 16 - 40;
     }
   };
   if (kind == TORVANE_TYPE_INTEGER) {

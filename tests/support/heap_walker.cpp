@@ -1,0 +1,229 @@
+#include "heap_walker.h"
+
+#include "runtime/heap_slab.h"
+#include "runtime/heap_state.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace torvane::test {
+
+namespace {
+
+// What is wrong, or empty. The first finding stays.
+struct Findings {
+  std::string text;
+  void expect(bool holds, const std::string &what) {
+    if (!holds && text.empty()) text = what;
+  }
+};
+
+struct Totals {
+  std::set<const Slab *> slabs; // all of the heap
+  uint32_t freeBytes = 0;
+  uint32_t liveBytes = 0;
+};
+
+// Marks the cells of one list; each must be a cell of the slab and on one list only. Returns their number.
+uint32_t markCells(const Slab *slab, const FreeCell *head, std::vector<bool> &marked, Findings &findings) {
+  const SizeClass &sizeClass = *slab->sizeClass;
+  uint32_t count = 0;
+  for (const FreeCell *cell = head; cell != nullptr; cell = cell->next, ++count) {
+    const size_t offset =
+        static_cast<size_t>(reinterpret_cast<const char *>(cell) - static_cast<char *>(slab->memory));
+    const size_t index = offset / sizeClass.objectBytes;
+    if (offset % sizeClass.objectBytes != 0 || index >= sizeClass.objectsPerSlab || marked[index]) {
+      findings.expect(false, "a free list leaves its slab, or holds a cell twice");
+      return count;
+    }
+    marked[index] = true;
+  }
+  return count;
+}
+
+void checkLiveHeaders(const Slab *slab, const std::vector<bool> &free, Findings &findings) {
+  const char *cell = static_cast<const char *>(slab->memory);
+  for (size_t i = 0; i < free.size(); ++i, cell += slab->sizeClass->objectBytes)
+    if (!free[i])
+      findings.expect(*reinterpret_cast<const uintptr_t *>(cell) == reinterpret_cast<uintptr_t>(slab) + 1,
+                      "a live cell does not name its slab");
+}
+
+void checkPageMap(const Slab *slab, Findings &findings) {
+  const char *memory = static_cast<const char *>(slab->memory);
+  for (uint32_t at = 0; at < slab->sizeClass->slabDataBytes; at += 4096)
+    findings.expect(slabOfAddress(currentState()->pageMap, memory + at) == slab,
+                    "a page of a slab is not in the page map");
+  findings.expect(reinterpret_cast<uintptr_t>(memory) % kSlabAlignment == 0, "a slab is not aligned");
+}
+
+// Returns the remotely freed bytes of the slab.
+uint32_t checkSlab(const Slab *slab, const SizeClass &sizeClass, Totals &totals, Findings &findings) {
+  findings.expect(slab->sizeClass == &sizeClass, "a slab is on a list of another class");
+  std::vector<bool> marked(sizeClass.objectsPerSlab);
+  const uint32_t freeCells = markCells(slab, slab->freeHead, marked, findings);
+  findings.expect(freeCells == slab->freeCount, "freeCount is not the length of the free list");
+  const uint32_t remote = markCells(slab, slab->remoteHead, marked, findings);
+  if (hasCellHeaders(sizeClass))
+    checkLiveHeaders(slab, marked, findings);
+  else
+    checkPageMap(slab, findings);
+  totals.liveBytes += (sizeClass.objectsPerSlab - freeCells) * sizeClass.objectBytes;
+  totals.freeBytes +=
+      slabTotalBytes(sizeClass) - (sizeClass.objectsPerSlab - freeCells) * sizeClass.objectBytes;
+  return remote * sizeClass.objectBytes;
+}
+
+// `before` is what the first record's prev holds: null, or in a queue the last record.
+template <class Record>
+std::vector<Record *> walkList(Record *head, Findings &findings, const Record *before = nullptr) {
+  std::vector<Record *> records;
+  for (Record *record = head; record != nullptr && findings.text.empty(); record = record->next) {
+    findings.expect(record->prev == before, "a list's prev link is wrong");
+    before = record;
+    records.push_back(record);
+  }
+  return records;
+}
+
+void checkPending(const SizeClass &sizeClass, const std::vector<Slab *> &slabs, Findings &findings) {
+  std::set<const Slab *> pending;
+  for (const Slab *slab = sizeClass.pendingSlabs; slab != nullptr; slab = slab->pendingNext)
+    if (!pending.insert(slab).second) return findings.expect(false, "the pending list runs in a circle");
+  for (const Slab *slab : slabs) {
+    findings.expect((pending.erase(slab) != 0) == (slab->remoteHead != nullptr),
+                    "a slab is pending without remote cells, or has some and is not");
+    if (slab->remoteHead == nullptr)
+      findings.expect(slab->pendingNext == slab, "an idle pendingNext is not the slab itself");
+  }
+  findings.expect(pending.empty(), "a pending slab is on no list");
+}
+
+void checkIdleSlab(const SizeClass &sizeClass, const std::vector<Slab *> &partial, Findings &findings) {
+  if (sizeClass.spareSlab != nullptr)
+    findings.expect(sizeClass.spareSlab->freeCount == sizeClass.objectsPerSlab,
+                    "the spare slab has live cells");
+  for (const Slab *slab : partial) {
+    findings.expect(slab->freeCount > 0, "a slab without free cells is on the partial list");
+    if (slab->freeCount == sizeClass.objectsPerSlab)
+      findings.expect(partial.size() == 1 && sizeClass.spareSlab == nullptr,
+                      "a second wholly free slab is kept");
+  }
+}
+
+void checkClass(SizeClass &sizeClass, ThreadHeap *heap, Totals &totals, Findings &findings) {
+  LockGuard guard(sizeClass.lock);
+  findings.expect(sizeClass.heap == heap, "a class belongs to another heap");
+  std::vector<Slab *> slabs = walkList(sizeClass.fullSlabs, findings);
+  for (const Slab *slab : slabs) findings.expect(slab->freeCount == 0, "a full slab has free cells");
+  const Slab *last = sizeClass.partialSlabs == nullptr ? nullptr : sizeClass.partialSlabs->prev;
+  const std::vector<Slab *> partial = walkList<Slab>(sizeClass.partialSlabs, findings, last);
+  findings.expect(partial.empty() || partial.back() == last, "the partial queue does not know its last slab");
+  findings.expect(partial.size() == sizeClass.partialCount, "partialCount is wrong");
+  checkIdleSlab(sizeClass, partial, findings);
+  slabs.insert(slabs.end(), partial.begin(), partial.end());
+  if (sizeClass.spareSlab != nullptr) slabs.push_back(sizeClass.spareSlab);
+  findings.expect(std::set<Slab *>(slabs.begin(), slabs.end()).size() == slabs.size(),
+                  "a slab is on two lists");
+  totals.slabs.insert(slabs.begin(), slabs.end());
+  uint32_t remoteBytes = 0;
+  for (const Slab *slab : slabs) remoteBytes += checkSlab(slab, sizeClass, totals, findings);
+  findings.expect(remoteBytes == sizeClass.remoteBytes, "remoteBytes is wrong");
+  checkPending(sizeClass, slabs, findings);
+}
+
+void checkLargeBlocks(ThreadHeap *heap, Totals &totals, Findings &findings) {
+  LockGuard guard(heap->largeLock);
+  std::set<const LargeBlock *> deferred;
+  for (const LargeBlock *block = heap->deferredLarge; block != nullptr; block = block->deferredNext)
+    if (!deferred.insert(block).second) return findings.expect(false, "deferredLarge runs in a circle");
+  for (const LargeBlock *block : walkList(heap->largeBlocks, findings)) {
+    findings.expect(block->heap == heap && block->totalBytes % 2 == 0, "a large block's header is wrong");
+    if (deferred.erase(block) == 0)
+      findings.expect(block->deferredNext == block, "deferredNext is not the block itself");
+    totals.liveBytes += block->totalBytes;
+  }
+  findings.expect(deferred.empty(), "a deferred block is not the heap's");
+}
+
+// A hot slab that was released would take in cells of whoever has its area now.
+void checkHotSlab(const HotSlab &entry, const Totals &totals, Findings &findings) {
+  if (entry.slab == nullptr) return findings.expect(entry.memory == kNoHotMemory, "memory of no slab is hot");
+  findings.expect(totals.slabs.count(entry.slab) == 1, "a hot slab is not the heap's");
+  if (!findings.text.empty()) return;
+  findings.expect(entry.memory == reinterpret_cast<uintptr_t>(entry.slab->memory) &&
+                      !hasCellHeaders(*entry.slab->sizeClass),
+                  "hot memory is not its slab's");
+}
+
+void checkAreas(const AreaCache &areas, Findings &findings) {
+  findings.expect(areas.keptBytes <= areas.maxKeptBytes, "more areas are kept than allowed");
+  bool any = false;
+  for (const KeptArea *list : areas.lists) any |= list != nullptr;
+  findings.expect(any == (areas.keptBytes != 0), "keptBytes is wrong");
+}
+
+testing::AssertionResult asResult(const Findings &findings) {
+  if (findings.text.empty()) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << findings.text;
+}
+
+uint32_t countMapped(const PageMapShape<kNarrowAddresses>::Leaf *leaf) {
+  uint32_t count = 0;
+  for (const auto &entry : leaf->entries) count += entry.load() != nullptr;
+  return count;
+}
+
+template <class Table> uint32_t countMapped(const Table *table) {
+  uint32_t count = 0;
+  for (const auto &entry : table->entries)
+    if (entry.load() != nullptr) count += countMapped(entry.load());
+  return count;
+}
+
+uint32_t bareSlabs(const SizeClass &sizeClass) {
+  if (hasCellHeaders(sizeClass)) return 0;
+  Findings ignored;
+  return static_cast<uint32_t>(walkList(sizeClass.fullSlabs, ignored).size()) + sizeClass.partialCount +
+         (sizeClass.spareSlab != nullptr);
+}
+
+} // namespace
+
+testing::AssertionResult isValidHeap(ThreadHeap *heap, uint32_t externalBytes) {
+  Findings findings;
+  Totals totals;
+  for (uint32_t number = 1; number <= heap->classCount; ++number)
+    checkClass(*heap->classes[number], heap, totals, findings);
+  checkLargeBlocks(heap, totals, findings);
+  for (const HotSlab &entry : recordsOf(heap).hotSlabs) checkHotSlab(entry, totals, findings);
+  checkAreas(areasOf(heap), findings);
+  const uint32_t used = kHeapOwnBytes + totals.liveBytes + externalBytes;
+  findings.expect(freeBytesOf(heap) == totals.freeBytes, "freeBytes is wrong");
+  findings.expect(heap->usedBytes.value() == used, "usedBytes is wrong");
+  findings.expect(heap->peakBytes.value() >= used, "usedBytes is above its peak");
+  return asResult(findings);
+}
+
+testing::AssertionResult isValidHere(uint32_t externalBytes) {
+  return threadHeap == nullptr ? testing::AssertionSuccess() : isValidHeap(threadHeap, externalBytes);
+}
+
+testing::AssertionResult isValidState() {
+  Findings findings;
+  AllocatorState *state = currentState();
+  uint32_t mapped = 0;
+  for (ThreadHeap *heap : walkList(state->threads, findings)) {
+    const testing::AssertionResult valid = isValidHeap(heap);
+    if (!valid) return valid;
+    for (uint32_t number = 1; number <= heap->classCount; ++number)
+      mapped += bareSlabs(*heap->classes[number]);
+  }
+  const uint32_t entriesPerSlab = kBareSlabBytes >> kPageMapShift;
+  findings.expect(countMapped(state->pageMap) == mapped * entriesPerSlab,
+                  "the page map holds more than the slabs");
+  return asResult(findings);
+}
+
+} // namespace torvane::test
