@@ -1,62 +1,28 @@
 // Integer powers of integers.
 //
-// Exponents to 64 run straight-line multiplications, one per step of the power tree of D. E. Knuth, "The
-// Art of Computer Programming" 2, section 4.6.3, which is a shortest addition chain for each of them;
-// above, the bits of the exponent from the top. Products wrap, in the unsigned word that serves the width.
-// The checked form compares the base with the largest one whose power fits, which the exact power exceeds
-// exactly when some product of the chain would.
+// Exponents to 64 run straight-line multiplications, one per step of their addition chain; above, the bits
+// of the exponent from the top. Products wrap, in the unsigned word that serves the width. The checked form
+// compares the base with the largest one whose power fits, which the exact power exceeds exactly when some
+// product of the chain would.
 #pragma once
 
 #include "../runtime/failure.h"
+#include "addition_chain.h"
 #include "magnitude.h"
 
 namespace torvane {
 
-inline constexpr int kLastChain = 64;
-
-// x^n is x^below[n] times x^(n - below[n]), both of them on the way from 1 to n.
-struct PowerTree {
-  uint8_t below[kLastChain + 1] = {};
-  uint8_t length[kLastChain + 1] = {}; // in multiplications
-
-  constexpr PowerTree() {
-    for (int level = 0; level < 8; ++level)
-      for (int n : order)
-        if (n != 0 && length[n] == level) growFrom(n);
-  }
-
-private:
-  // Nodes in the order they were reached: within a level, from left to right.
-  int order[kLastChain] = {1};
-  int reached = 1;
-
-  // Children of n: n + a for every a on the way from 1 to n, in that order.
-  constexpr void growFrom(int n) {
-    int way[9] = {}, steps = 0;
-    for (int a = n; a != 0; a = below[a]) way[steps++] = a;
-    while (steps-- > 0) attach(n + way[steps], n);
-  }
-  constexpr void attach(int child, int n) {
-    if (child > kLastChain || below[child] != 0) return;
-    below[child] = static_cast<uint8_t>(n);
-    length[child] = static_cast<uint8_t>(length[n] + 1);
-    order[reached++] = child;
-  }
-};
-
-inline constexpr PowerTree kPowerTree;
-
-template <int n, class Word> [[gnu::always_inline]] constexpr void climb(Word (&power)[kLastChain + 1]) {
+template <int n, class Word> [[gnu::always_inline]] constexpr void climb(Word (&power)[kLongestChain + 1]) {
   if constexpr (n > 1) {
-    constexpr int below = kPowerTree.below[n];
-    climb<below>(power);
-    power[n] = power[below] * power[n - below];
+    constexpr int before = kPowerTree.parent[n];
+    climb<before>(power);
+    power[n] = power[before] * power[n - before];
   }
 }
 
 template <int n, class Word> [[gnu::always_inline]] constexpr Word chain(Word x) {
   if constexpr (n == 0) return 1;
-  Word power[kLastChain + 1];
+  Word power[kLongestChain + 1];
   power[1] = x;
   climb<n>(power);
   return power[n];

@@ -89,19 +89,19 @@ TEST(IntegerPower, KeepsItsStatedEdges) {
 TEST(PowerChain, IsOfTheShortestLengthForEveryExponent) {
   const int shortest[] = {0, 1, 2, 2, 3, 3, 4, 3, 4, 4, 5, 4, 5, 5, 5, 4, 5, 5, 6, 5, 6, 6, 6, 5, 6, 6, 6, 6, 7, 6, 7, 5,
                           6, 6, 7, 6, 7, 7, 7, 6, 7, 7, 7, 7, 7, 7, 8, 6, 7, 7, 7, 7, 8, 7, 8, 7, 8, 8, 8, 7, 8, 8, 8, 6};
-  for (int n = 1; n <= kLastChain; ++n) {
+  for (int n = 1; n <= int{kLongestChain}; ++n) {
     int length = 0;
-    for (int k = n; k != 1; k = kPowerTree.below[k]) ++length;
+    for (int k = n; k != 1; k = kPowerTree.parent[k]) ++length;
     EXPECT_EQ(length, shortest[n - 1]) << n;
   }
 }
 
 // Both factors of a step stand on its own way from 1.
 TEST(PowerChain, UsesOnlyPowersItHas) {
-  for (int n = 2; n <= kLastChain; ++n) {
+  for (int n = 2; n <= int{kLongestChain}; ++n) {
     std::vector<int> way;
-    for (int k = kPowerTree.below[n]; k != 0; k = kPowerTree.below[k]) way.push_back(k);
-    EXPECT_NE(std::find(way.begin(), way.end(), n - kPowerTree.below[n]), way.end()) << n;
+    for (int k = kPowerTree.parent[n]; k != 0; k = kPowerTree.parent[k]) way.push_back(k);
+    EXPECT_NE(std::find(way.begin(), way.end(), n - kPowerTree.parent[n]), way.end()) << n;
   }
 }
 

@@ -26,13 +26,6 @@ template <class R, class T> constexpr auto toPart(T x) {
     return R(x);
 }
 
-// The one exponent type with values that an int64_t does not hold.
-template <class R> Complex<R> complexPower(error &code, Complex<R> x, uint64_t y) {
-  if (y <= static_cast<uint64_t>(INT64_MAX)) return complexes::pow(code, x, static_cast<int64_t>(y));
-  const Complex<R> half = complexes::pow(code, x * x, static_cast<int64_t>(y >> 1));
-  return (y & 1) != 0 ? half * x : half;
-}
-
 namespace binary {
 
 struct pow {
@@ -44,10 +37,8 @@ struct pow {
       return integerPower<Form>(code, x, y);
     else if constexpr (!isComplex<Result>)
       return realPower<R>(code, Real64(x), Real64(y));
-    else if constexpr (isSame<Y, UnsignedInteger64>)
-      return complexPower(code, x, y);
     else if constexpr (isInteger<Y>)
-      return complexes::pow(code, x, int64_t{y});
+      return complexes::pow(code, x, y);
     else
       return complexes::pow(code, toPart<R>(x), toPart<R>(y));
   }

@@ -71,14 +71,6 @@ template <class R> R fractionalPart(R x) {
 // In [0, 1]: a negative fraction below the rounding of 1 gives 1 itself, and so does a negative integer.
 template <class R> R fractionAboveFloor(R x) { return x < 0 ? fractionalPart(x) + R(1) : fractionalPart(x); }
 
-// Of two non-zero values; takes the sign of the divisor and never equals it, though the sum may round to it.
-template <class R> R realRemainder(R x, R y) {
-  const R r = R(__builtin_fmod(x, y));
-  if (!((y > 0 && r < 0) || (y < 0 && r > 0))) return r;
-  const R sum = r + y;
-  return sum == y ? R(0) : sum;
-}
-
 // The remainder of the floored quotient: the truncating one, moved by one divisor where the signs differ.
 // The most negative value divided by -1 is left to the processor, which may trap.
 template <class T> constexpr T flooredRemainder(T x, T y) {
@@ -167,7 +159,6 @@ namespace binary {
 struct mod {
   template <class Form, class T> static T apply(error &code, T x, T y) {
     if constexpr (isComplex<T>) {
-      if (x.im == 0 && y.im == 0) return {apply<Form>(code, x.re, y.re), 0};
       return complexes::mod(code, x, y);
     } else {
       if (y == T(0)) {
@@ -175,7 +166,7 @@ struct mod {
         return 0;
       }
       if constexpr (isReal<T>)
-        return realRemainder(x, y);
+        return complexes::flooredRemainder(x, y);
       else
         return flooredRemainder(x, y);
     }
