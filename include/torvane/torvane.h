@@ -10,6 +10,7 @@
 #include "operators.h"
 #include "elementwise.h"
 #include "scalars.h"
+#include "integers.h"
 #include "machfuncs.h"
 
 #endif
