@@ -1592,7 +1592,7 @@ TORVANE_API double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(do
                                                                               double y_re, double y_im);
 
 /* mod: x less y times the floor of x / y.
- * Codes: integers 14 - reals 14 - complexes 14, 16; checked 6, 9. */
+ * Codes: integers 14 - reals 14 - complexes 1, 14, 16; checked 6, 9. */
 TORVANE_API int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y);
 TORVANE_API uint8_t binary_mod_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
 TORVANE_API int16_t binary_mod_Integer16_Integer16(int16_t x, int16_t y);

@@ -15,7 +15,10 @@
 #include "detail/scalar/bodies/parts.h"
 #include "detail/scalar/bodies/comparison.h"
 #include "detail/scalar/bodies/bits.h"
+#include "detail/scalar/bodies/rounding.h"
+#include "detail/scalar/bodies/powers.h"
 #include "detail/scalar/bodies/arithmetic.h"
+#include "detail/scalar/bodies/casts.h"
 
 namespace torvane::inlined {
 
@@ -2125,6 +2128,396 @@ inline float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re
 inline double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
   return store(re, im, evaluate<unary::round, Checked>(ComplexReal64{x_re, x_im}));
 }
+inline int8_t unary_floor_Integer8(int8_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline uint8_t unary_floor_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline int16_t unary_floor_Integer16(int16_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline uint16_t unary_floor_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline int32_t unary_floor_Integer32(int32_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline uint32_t unary_floor_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline int64_t unary_floor_Integer64(int64_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline uint64_t unary_floor_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline mint unary_floor_Real16(uint16_t x) {
+  return evaluate<unary::floor, Plain>(Real16{x});
+}
+inline mint unary_floor_Real32(float x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline mint unary_floor_Real64(double x) {
+  return evaluate<unary::floor, Plain>(x);
+}
+inline float *unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::floor, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::floor, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_floor_Integer8(int8_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline uint8_t checked_unary_floor_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline int16_t checked_unary_floor_Integer16(int16_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline uint16_t checked_unary_floor_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline int32_t checked_unary_floor_Integer32(int32_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline uint32_t checked_unary_floor_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline int64_t checked_unary_floor_Integer64(int64_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline uint64_t checked_unary_floor_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline mint checked_unary_floor_Real16(uint16_t x) {
+  return evaluate<unary::floor, Checked>(Real16{x});
+}
+inline mint checked_unary_floor_Real32(float x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline mint checked_unary_floor_Real64(double x) {
+  return evaluate<unary::floor, Checked>(x);
+}
+inline float *checked_unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::floor, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::floor, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_ceiling_Integer8(int8_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline uint8_t unary_ceiling_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline int16_t unary_ceiling_Integer16(int16_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline uint16_t unary_ceiling_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline int32_t unary_ceiling_Integer32(int32_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline uint32_t unary_ceiling_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline int64_t unary_ceiling_Integer64(int64_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline uint64_t unary_ceiling_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline mint unary_ceiling_Real16(uint16_t x) {
+  return evaluate<unary::ceiling, Plain>(Real16{x});
+}
+inline mint unary_ceiling_Real32(float x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline mint unary_ceiling_Real64(double x) {
+  return evaluate<unary::ceiling, Plain>(x);
+}
+inline float *unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::ceiling, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::ceiling, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_ceiling_Integer8(int8_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline uint8_t checked_unary_ceiling_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline int16_t checked_unary_ceiling_Integer16(int16_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline uint16_t checked_unary_ceiling_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline int32_t checked_unary_ceiling_Integer32(int32_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline uint32_t checked_unary_ceiling_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline int64_t checked_unary_ceiling_Integer64(int64_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline uint64_t checked_unary_ceiling_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline mint checked_unary_ceiling_Real16(uint16_t x) {
+  return evaluate<unary::ceiling, Checked>(Real16{x});
+}
+inline mint checked_unary_ceiling_Real32(float x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline mint checked_unary_ceiling_Real64(double x) {
+  return evaluate<unary::ceiling, Checked>(x);
+}
+inline float *checked_unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::ceiling, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::ceiling, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_intpart_Integer8(int8_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline uint8_t unary_intpart_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline int16_t unary_intpart_Integer16(int16_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline uint16_t unary_intpart_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline int32_t unary_intpart_Integer32(int32_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline uint32_t unary_intpart_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline int64_t unary_intpart_Integer64(int64_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline uint64_t unary_intpart_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline mint unary_intpart_Real16(uint16_t x) {
+  return evaluate<unary::intpart, Plain>(Real16{x});
+}
+inline mint unary_intpart_Real32(float x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline mint unary_intpart_Real64(double x) {
+  return evaluate<unary::intpart, Plain>(x);
+}
+inline float *unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::intpart, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::intpart, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_intpart_Integer8(int8_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline uint8_t checked_unary_intpart_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline int16_t checked_unary_intpart_Integer16(int16_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline uint16_t checked_unary_intpart_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline int32_t checked_unary_intpart_Integer32(int32_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline uint32_t checked_unary_intpart_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline int64_t checked_unary_intpart_Integer64(int64_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline uint64_t checked_unary_intpart_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline mint checked_unary_intpart_Real16(uint16_t x) {
+  return evaluate<unary::intpart, Checked>(Real16{x});
+}
+inline mint checked_unary_intpart_Real32(float x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline mint checked_unary_intpart_Real64(double x) {
+  return evaluate<unary::intpart, Checked>(x);
+}
+inline float *checked_unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::intpart, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::intpart, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_fracpart_Integer8(int8_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline uint8_t unary_fracpart_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline int16_t unary_fracpart_Integer16(int16_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline uint16_t unary_fracpart_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline int32_t unary_fracpart_Integer32(int32_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline uint32_t unary_fracpart_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline int64_t unary_fracpart_Integer64(int64_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline uint64_t unary_fracpart_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline uint16_t *unary_fracpart_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::fracpart, Plain>(Real16{x}));
+}
+inline float unary_fracpart_Real32(float x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline double unary_fracpart_Real64(double x) {
+  return evaluate<unary::fracpart, Plain>(x);
+}
+inline float *unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::fracpart, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::fracpart, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_fracpart_Integer8(int8_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline uint8_t checked_unary_fracpart_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline int16_t checked_unary_fracpart_Integer16(int16_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline uint16_t checked_unary_fracpart_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline int32_t checked_unary_fracpart_Integer32(int32_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline uint32_t checked_unary_fracpart_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline int64_t checked_unary_fracpart_Integer64(int64_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline uint64_t checked_unary_fracpart_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline uint16_t *checked_unary_fracpart_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::fracpart, Checked>(Real16{x}));
+}
+inline float checked_unary_fracpart_Real32(float x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline double checked_unary_fracpart_Real64(double x) {
+  return evaluate<unary::fracpart, Checked>(x);
+}
+inline float *checked_unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::fracpart, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::fracpart, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_mod1_Integer8(int8_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline uint8_t unary_mod1_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline int16_t unary_mod1_Integer16(int16_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline uint16_t unary_mod1_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline int32_t unary_mod1_Integer32(int32_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline uint32_t unary_mod1_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline int64_t unary_mod1_Integer64(int64_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline uint64_t unary_mod1_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline uint16_t *unary_mod1_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::mod1, Plain>(Real16{x}));
+}
+inline float unary_mod1_Real32(float x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline double unary_mod1_Real64(double x) {
+  return evaluate<unary::mod1, Plain>(x);
+}
+inline float *unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::mod1, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::mod1, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_mod1_Integer8(int8_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline uint8_t checked_unary_mod1_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline int16_t checked_unary_mod1_Integer16(int16_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline uint16_t checked_unary_mod1_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline int32_t checked_unary_mod1_Integer32(int32_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline uint32_t checked_unary_mod1_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline int64_t checked_unary_mod1_Integer64(int64_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline uint64_t checked_unary_mod1_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline uint16_t *checked_unary_mod1_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::mod1, Checked>(Real16{x}));
+}
+inline float checked_unary_mod1_Real32(float x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline double checked_unary_mod1_Real64(double x) {
+  return evaluate<unary::mod1, Checked>(x);
+}
+inline float *checked_unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal64{x_re, x_im}));
+}
 inline int8_t binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::plus, Plain>(x, y);
 }
@@ -3682,6 +4075,1262 @@ inline double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(double 
                                                                          double y_re, double y_im) {
   return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
 }
+inline int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline uint8_t binary_mod_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline int16_t binary_mod_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline uint16_t binary_mod_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline int32_t binary_mod_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline uint32_t binary_mod_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline int64_t binary_mod_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline uint64_t binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline uint16_t *binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::mod, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_mod_Real32_Real32(float x, float y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline double binary_mod_Real64_Real64(double x, double y) {
+  return evaluate<binary::mod, Plain>(x, y);
+}
+inline float *binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<binary::mod, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                      double y_re, double y_im) {
+  return store(re, im, evaluate<binary::mod, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline uint8_t checked_binary_mod_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline int16_t checked_binary_mod_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline uint16_t checked_binary_mod_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline int32_t checked_binary_mod_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline uint32_t checked_binary_mod_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline int64_t checked_binary_mod_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline uint64_t checked_binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline uint16_t *checked_binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::mod, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_mod_Real32_Real32(float x, float y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline double checked_binary_mod_Real64_Real64(double x, double y) {
+  return evaluate<binary::mod, Checked>(x, y);
+}
+inline float *checked_binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<binary::mod, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::mod, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_quotient_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline uint8_t binary_quotient_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline int16_t binary_quotient_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline uint16_t binary_quotient_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline int32_t binary_quotient_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline uint32_t binary_quotient_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline int64_t binary_quotient_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline uint64_t binary_quotient_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline mint binary_quotient_Real16_Real16(uint16_t x, uint16_t y) {
+  return evaluate<binary::quotient, Plain>(Real16{x}, Real16{y});
+}
+inline mint binary_quotient_Real32_Real32(float x, float y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline mint binary_quotient_Real64_Real64(double x, double y) {
+  return evaluate<binary::quotient, Plain>(x, y);
+}
+inline float *binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im) {
+  return store(re, im, evaluate<binary::quotient, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::quotient, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_quotient_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline uint8_t checked_binary_quotient_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline int16_t checked_binary_quotient_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline uint16_t checked_binary_quotient_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline int32_t checked_binary_quotient_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline uint32_t checked_binary_quotient_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline int64_t checked_binary_quotient_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline uint64_t checked_binary_quotient_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline mint checked_binary_quotient_Real16_Real16(uint16_t x, uint16_t y) {
+  return evaluate<binary::quotient, Checked>(Real16{x}, Real16{y});
+}
+inline mint checked_binary_quotient_Real32_Real32(float x, float y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline mint checked_binary_quotient_Real64_Real64(double x, double y) {
+  return evaluate<binary::quotient, Checked>(x, y);
+}
+inline float *checked_binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_pow_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_UnsignedInteger8(int8_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_Integer16(int8_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_UnsignedInteger16(int8_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_Integer32(int8_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_UnsignedInteger32(int8_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_Integer64(int8_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int8_t binary_pow_Integer8_UnsignedInteger64(int8_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_Integer8_Real16(uint16_t *result, int8_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_Integer8_Real32(int8_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Integer8_Real64(int8_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_Integer8_ComplexReal32(float *re, float *im, int8_t x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Integer8_ComplexReal64(double *re, double *im, int8_t x, double y_re,
+                                                 double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint8_t binary_pow_UnsignedInteger8_Integer8(uint8_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_Integer16(uint8_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_UnsignedInteger16(uint8_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_Integer32(uint8_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_UnsignedInteger32(uint8_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_Integer64(uint8_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint8_t binary_pow_UnsignedInteger8_UnsignedInteger64(uint8_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_UnsignedInteger8_Real16(uint16_t *result, uint8_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_UnsignedInteger8_Real32(uint8_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_UnsignedInteger8_Real64(uint8_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_UnsignedInteger8_ComplexReal32(float *re, float *im, uint8_t x, float y_re,
+                                                        float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_UnsignedInteger8_ComplexReal64(double *re, double *im, uint8_t x, double y_re,
+                                                         double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline int16_t binary_pow_Integer16_Integer8(int16_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_UnsignedInteger8(int16_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_UnsignedInteger16(int16_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_Integer32(int16_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_UnsignedInteger32(int16_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_Integer64(int16_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int16_t binary_pow_Integer16_UnsignedInteger64(int16_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_Integer16_Real16(uint16_t *result, int16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_Integer16_Real32(int16_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Integer16_Real64(int16_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_Integer16_ComplexReal32(float *re, float *im, int16_t x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Integer16_ComplexReal64(double *re, double *im, int16_t x, double y_re,
+                                                  double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint16_t binary_pow_UnsignedInteger16_Integer8(uint16_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_UnsignedInteger8(uint16_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_Integer16(uint16_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_Integer32(uint16_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_UnsignedInteger32(uint16_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_Integer64(uint16_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t binary_pow_UnsignedInteger16_UnsignedInteger64(uint16_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_UnsignedInteger16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_UnsignedInteger16_Real32(uint16_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_UnsignedInteger16_Real64(uint16_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_UnsignedInteger16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
+                                                         float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_UnsignedInteger16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
+                                                          double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline int32_t binary_pow_Integer32_Integer8(int32_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_UnsignedInteger8(int32_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_Integer16(int32_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_UnsignedInteger16(int32_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_UnsignedInteger32(int32_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_Integer64(int32_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int32_t binary_pow_Integer32_UnsignedInteger64(int32_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_Integer32_Real16(uint16_t *result, int32_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_Integer32_Real32(int32_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Integer32_Real64(int32_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_Integer32_ComplexReal32(float *re, float *im, int32_t x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Integer32_ComplexReal64(double *re, double *im, int32_t x, double y_re,
+                                                  double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint32_t binary_pow_UnsignedInteger32_Integer8(uint32_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_UnsignedInteger8(uint32_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_Integer16(uint32_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_UnsignedInteger16(uint32_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_Integer32(uint32_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_Integer64(uint32_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint32_t binary_pow_UnsignedInteger32_UnsignedInteger64(uint32_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_UnsignedInteger32_Real16(uint16_t *result, uint32_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_UnsignedInteger32_Real32(uint32_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_UnsignedInteger32_Real64(uint32_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_UnsignedInteger32_ComplexReal32(float *re, float *im, uint32_t x, float y_re,
+                                                         float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_UnsignedInteger32_ComplexReal64(double *re, double *im, uint32_t x, double y_re,
+                                                          double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline int64_t binary_pow_Integer64_Integer8(int64_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_UnsignedInteger8(int64_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_Integer16(int64_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_UnsignedInteger16(int64_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_Integer32(int64_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_UnsignedInteger32(int64_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline int64_t binary_pow_Integer64_UnsignedInteger64(int64_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_Integer64_Real16(uint16_t *result, int64_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_Integer64_Real32(int64_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Integer64_Real64(int64_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_Integer64_ComplexReal32(float *re, float *im, int64_t x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Integer64_ComplexReal64(double *re, double *im, int64_t x, double y_re,
+                                                  double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint64_t binary_pow_UnsignedInteger64_Integer8(uint64_t x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_UnsignedInteger8(uint64_t x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_Integer16(uint64_t x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_UnsignedInteger16(uint64_t x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_Integer32(uint64_t x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_UnsignedInteger32(uint64_t x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_Integer64(uint64_t x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint64_t binary_pow_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline uint16_t *binary_pow_UnsignedInteger64_Real16(uint16_t *result, uint64_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+}
+inline float binary_pow_UnsignedInteger64_Real32(uint64_t x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_UnsignedInteger64_Real64(uint64_t x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_UnsignedInteger64_ComplexReal32(float *re, float *im, uint64_t x, float y_re,
+                                                         float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_UnsignedInteger64_ComplexReal64(double *re, double *im, uint64_t x, double y_re,
+                                                          double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint16_t *binary_pow_Real16_Integer8(uint16_t *result, uint16_t x, int8_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_UnsignedInteger8(uint16_t *result, uint16_t x, uint8_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_Integer16(uint16_t *result, uint16_t x, int16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_UnsignedInteger16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_Integer32(uint16_t *result, uint16_t x, int32_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_UnsignedInteger32(uint16_t *result, uint16_t x, uint32_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_Integer64(uint16_t *result, uint16_t x, int64_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_UnsignedInteger64(uint16_t *result, uint16_t x, uint64_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+}
+inline uint16_t *binary_pow_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_pow_Real16_Real32(uint16_t x, float y) {
+  return evaluate<binary::pow, Plain>(Real16{x}, y);
+}
+inline double binary_pow_Real16_Real64(uint16_t x, double y) {
+  return evaluate<binary::pow, Plain>(Real16{x}, y);
+}
+inline float *binary_pow_Real16_ComplexReal32(float *re, float *im, uint16_t x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(Real16{x}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Real16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
+                                               double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(Real16{x}, ComplexReal64{y_re, y_im}));
+}
+inline float binary_pow_Real32_Integer8(float x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_UnsignedInteger8(float x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_Integer16(float x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_UnsignedInteger16(float x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_Integer32(float x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_UnsignedInteger32(float x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_Integer64(float x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_UnsignedInteger64(float x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float binary_pow_Real32_Real16(float x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, Real16{y});
+}
+inline float binary_pow_Real32_Real32(float x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real32_Real64(float x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline float *binary_pow_Real32_ComplexReal32(float *re, float *im, float x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Real32_ComplexReal64(double *re, double *im, float x, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline double binary_pow_Real64_Integer8(double x, int8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_UnsignedInteger8(double x, uint8_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_Integer16(double x, int16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_UnsignedInteger16(double x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_Integer32(double x, int32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_UnsignedInteger32(double x, uint32_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_Integer64(double x, int64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_UnsignedInteger64(double x, uint64_t y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_Real16(double x, uint16_t y) {
+  return evaluate<binary::pow, Plain>(x, Real16{y});
+}
+inline double binary_pow_Real64_Real32(double x, float y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double binary_pow_Real64_Real64(double x, double y) {
+  return evaluate<binary::pow, Plain>(x, y);
+}
+inline double *binary_pow_Real64_ComplexReal32(double *re, double *im, double x, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_Real64_ComplexReal64(double *re, double *im, double x, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+}
+inline float *binary_pow_ComplexReal32_Integer8(float *re, float *im, float x_re, float x_im, int8_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_UnsignedInteger8(float *re, float *im, float x_re, float x_im,
+                                                        uint8_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_Integer16(float *re, float *im, float x_re, float x_im, int16_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_UnsignedInteger16(float *re, float *im, float x_re, float x_im,
+                                                         uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_Integer32(float *re, float *im, float x_re, float x_im, int32_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_UnsignedInteger32(float *re, float *im, float x_re, float x_im,
+                                                         uint32_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_Integer64(float *re, float *im, float x_re, float x_im, int64_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_UnsignedInteger64(float *re, float *im, float x_re, float x_im,
+                                                         uint64_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_Real16(float *re, float *im, float x_re, float x_im, uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, Real16{y}));
+}
+inline float *binary_pow_ComplexReal32_Real32(float *re, float *im, float x_re, float x_im, float y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal32_Real64(double *re, double *im, float x_re, float x_im, double y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *binary_pow_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_ComplexReal32_ComplexReal64(double *re, double *im, float x_re, float x_im,
+                                                      double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline double *binary_pow_ComplexReal64_Integer8(double *re, double *im, double x_re, double x_im,
+                                                 int8_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_UnsignedInteger8(double *re, double *im, double x_re, double x_im,
+                                                         uint8_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_Integer16(double *re, double *im, double x_re, double x_im,
+                                                  int16_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_UnsignedInteger16(double *re, double *im, double x_re, double x_im,
+                                                          uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_Integer32(double *re, double *im, double x_re, double x_im,
+                                                  int32_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_UnsignedInteger32(double *re, double *im, double x_re, double x_im,
+                                                          uint32_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_Integer64(double *re, double *im, double x_re, double x_im,
+                                                  int64_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_UnsignedInteger64(double *re, double *im, double x_re, double x_im,
+                                                          uint64_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_Real16(double *re, double *im, double x_re, double x_im,
+                                               uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, Real16{y}));
+}
+inline double *binary_pow_ComplexReal64_Real32(double *re, double *im, double x_re, double x_im, float y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_Real64(double *re, double *im, double x_re, double x_im, double y) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *binary_pow_ComplexReal64_ComplexReal32(double *re, double *im, double x_re, double x_im,
+                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_pow_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                      double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_pow_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_UnsignedInteger8(int8_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_Integer16(int8_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_UnsignedInteger16(int8_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_Integer32(int8_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_UnsignedInteger32(int8_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_Integer64(int8_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int8_t checked_binary_pow_Integer8_UnsignedInteger64(int8_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_Integer8_Real16(uint16_t *result, int8_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_Integer8_Real32(int8_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Integer8_Real64(int8_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_Integer8_ComplexReal32(float *re, float *im, int8_t x, float y_re,
+                                                        float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Integer8_ComplexReal64(double *re, double *im, int8_t x, double y_re,
+                                                         double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_Integer8(uint8_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_Integer16(uint8_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger16(uint8_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_Integer32(uint8_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger32(uint8_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_Integer64(uint8_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger64(uint8_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_UnsignedInteger8_Real16(uint16_t *result, uint8_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_UnsignedInteger8_Real32(uint8_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_UnsignedInteger8_Real64(uint8_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_UnsignedInteger8_ComplexReal32(float *re, float *im, uint8_t x,
+                                                                float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_UnsignedInteger8_ComplexReal64(double *re, double *im, uint8_t x,
+                                                                 double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline int16_t checked_binary_pow_Integer16_Integer8(int16_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_UnsignedInteger8(int16_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_UnsignedInteger16(int16_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_Integer32(int16_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_UnsignedInteger32(int16_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_Integer64(int16_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int16_t checked_binary_pow_Integer16_UnsignedInteger64(int16_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_Integer16_Real16(uint16_t *result, int16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_Integer16_Real32(int16_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Integer16_Real64(int16_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_Integer16_ComplexReal32(float *re, float *im, int16_t x, float y_re,
+                                                         float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Integer16_ComplexReal64(double *re, double *im, int16_t x, double y_re,
+                                                          double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_Integer8(uint16_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger8(uint16_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_Integer16(uint16_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_Integer32(uint16_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger32(uint16_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_Integer64(uint16_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger64(uint16_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_UnsignedInteger16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_UnsignedInteger16_Real32(uint16_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_UnsignedInteger16_Real64(uint16_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_UnsignedInteger16_ComplexReal32(float *re, float *im, uint16_t x,
+                                                                 float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_UnsignedInteger16_ComplexReal64(double *re, double *im, uint16_t x,
+                                                                  double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline int32_t checked_binary_pow_Integer32_Integer8(int32_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_UnsignedInteger8(int32_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_Integer16(int32_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_UnsignedInteger16(int32_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_UnsignedInteger32(int32_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_Integer64(int32_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int32_t checked_binary_pow_Integer32_UnsignedInteger64(int32_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_Integer32_Real16(uint16_t *result, int32_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_Integer32_Real32(int32_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Integer32_Real64(int32_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_Integer32_ComplexReal32(float *re, float *im, int32_t x, float y_re,
+                                                         float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Integer32_ComplexReal64(double *re, double *im, int32_t x, double y_re,
+                                                          double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_Integer8(uint32_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger8(uint32_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_Integer16(uint32_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger16(uint32_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_Integer32(uint32_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_Integer64(uint32_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger64(uint32_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_UnsignedInteger32_Real16(uint16_t *result, uint32_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_UnsignedInteger32_Real32(uint32_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_UnsignedInteger32_Real64(uint32_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_UnsignedInteger32_ComplexReal32(float *re, float *im, uint32_t x,
+                                                                 float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_UnsignedInteger32_ComplexReal64(double *re, double *im, uint32_t x,
+                                                                  double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline int64_t checked_binary_pow_Integer64_Integer8(int64_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_UnsignedInteger8(int64_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_Integer16(int64_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_UnsignedInteger16(int64_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_Integer32(int64_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_UnsignedInteger32(int64_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline int64_t checked_binary_pow_Integer64_UnsignedInteger64(int64_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_Integer64_Real16(uint16_t *result, int64_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_Integer64_Real32(int64_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Integer64_Real64(int64_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_Integer64_ComplexReal32(float *re, float *im, int64_t x, float y_re,
+                                                         float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Integer64_ComplexReal64(double *re, double *im, int64_t x, double y_re,
+                                                          double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_Integer8(uint64_t x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger8(uint64_t x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_Integer16(uint64_t x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger16(uint64_t x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_Integer32(uint64_t x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger32(uint64_t x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_Integer64(uint64_t x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline uint16_t *checked_binary_pow_UnsignedInteger64_Real16(uint16_t *result, uint64_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+}
+inline float checked_binary_pow_UnsignedInteger64_Real32(uint64_t x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_UnsignedInteger64_Real64(uint64_t x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_UnsignedInteger64_ComplexReal32(float *re, float *im, uint64_t x,
+                                                                 float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_UnsignedInteger64_ComplexReal64(double *re, double *im, uint64_t x,
+                                                                  double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline uint16_t *checked_binary_pow_Real16_Integer8(uint16_t *result, uint16_t x, int8_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_UnsignedInteger8(uint16_t *result, uint16_t x, uint8_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_Integer16(uint16_t *result, uint16_t x, int16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_UnsignedInteger16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_Integer32(uint16_t *result, uint16_t x, int32_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_UnsignedInteger32(uint16_t *result, uint16_t x, uint32_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_Integer64(uint16_t *result, uint16_t x, int64_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_UnsignedInteger64(uint16_t *result, uint16_t x, uint64_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+}
+inline uint16_t *checked_binary_pow_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::pow, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_pow_Real16_Real32(uint16_t x, float y) {
+  return evaluate<binary::pow, Checked>(Real16{x}, y);
+}
+inline double checked_binary_pow_Real16_Real64(uint16_t x, double y) {
+  return evaluate<binary::pow, Checked>(Real16{x}, y);
+}
+inline float *checked_binary_pow_Real16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
+                                                      float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(Real16{x}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Real16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
+                                                       double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(Real16{x}, ComplexReal64{y_re, y_im}));
+}
+inline float checked_binary_pow_Real32_Integer8(float x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_UnsignedInteger8(float x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_Integer16(float x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_UnsignedInteger16(float x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_Integer32(float x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_UnsignedInteger32(float x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_Integer64(float x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_UnsignedInteger64(float x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float checked_binary_pow_Real32_Real16(float x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, Real16{y});
+}
+inline float checked_binary_pow_Real32_Real32(float x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real32_Real64(float x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline float *checked_binary_pow_Real32_ComplexReal32(float *re, float *im, float x, float y_re,
+                                                      float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Real32_ComplexReal64(double *re, double *im, float x, double y_re,
+                                                       double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline double checked_binary_pow_Real64_Integer8(double x, int8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_UnsignedInteger8(double x, uint8_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_Integer16(double x, int16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_UnsignedInteger16(double x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_Integer32(double x, int32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_UnsignedInteger32(double x, uint32_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_Integer64(double x, int64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_UnsignedInteger64(double x, uint64_t y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_Real16(double x, uint16_t y) {
+  return evaluate<binary::pow, Checked>(x, Real16{y});
+}
+inline double checked_binary_pow_Real64_Real32(double x, float y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double checked_binary_pow_Real64_Real64(double x, double y) {
+  return evaluate<binary::pow, Checked>(x, y);
+}
+inline double *checked_binary_pow_Real64_ComplexReal32(double *re, double *im, double x, float y_re,
+                                                       float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_Real64_ComplexReal64(double *re, double *im, double x, double y_re,
+                                                       double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+}
+inline float *checked_binary_pow_ComplexReal32_Integer8(float *re, float *im, float x_re, float x_im,
+                                                        int8_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_UnsignedInteger8(float *re, float *im, float x_re,
+                                                                float x_im, uint8_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_Integer16(float *re, float *im, float x_re, float x_im,
+                                                         int16_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_UnsignedInteger16(float *re, float *im, float x_re,
+                                                                 float x_im, uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_Integer32(float *re, float *im, float x_re, float x_im,
+                                                         int32_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_UnsignedInteger32(float *re, float *im, float x_re,
+                                                                 float x_im, uint32_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_Integer64(float *re, float *im, float x_re, float x_im,
+                                                         int64_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_UnsignedInteger64(float *re, float *im, float x_re,
+                                                                 float x_im, uint64_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_Real16(float *re, float *im, float x_re, float x_im,
+                                                      uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, Real16{y}));
+}
+inline float *checked_binary_pow_ComplexReal32_Real32(float *re, float *im, float x_re, float x_im,
+                                                      float y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal32_Real64(double *re, double *im, float x_re, float x_im,
+                                                       double y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+}
+inline float *checked_binary_pow_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_ComplexReal32_ComplexReal64(double *re, double *im, float x_re,
+                                                              float x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline double *checked_binary_pow_ComplexReal64_Integer8(double *re, double *im, double x_re, double x_im,
+                                                         int8_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_UnsignedInteger8(double *re, double *im, double x_re,
+                                                                 double x_im, uint8_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_Integer16(double *re, double *im, double x_re, double x_im,
+                                                          int16_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_UnsignedInteger16(double *re, double *im, double x_re,
+                                                                  double x_im, uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_Integer32(double *re, double *im, double x_re, double x_im,
+                                                          int32_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_UnsignedInteger32(double *re, double *im, double x_re,
+                                                                  double x_im, uint32_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_Integer64(double *re, double *im, double x_re, double x_im,
+                                                          int64_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_UnsignedInteger64(double *re, double *im, double x_re,
+                                                                  double x_im, uint64_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_Real16(double *re, double *im, double x_re, double x_im,
+                                                       uint16_t y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, Real16{y}));
+}
+inline double *checked_binary_pow_ComplexReal64_Real32(double *re, double *im, double x_re, double x_im,
+                                                       float y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_Real64(double *re, double *im, double x_re, double x_im,
+                                                       double y) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+}
+inline double *checked_binary_pow_ComplexReal64_ComplexReal32(double *re, double *im, double x_re,
+                                                              double x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_pow_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
 inline int8_t ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axpy, Plain>(a, x, y);
 }
@@ -4089,6 +5738,198 @@ inline double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(d
                                                                                double x_re, double x_im,
                                                                                double y_re, double y_im) {
   return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t integer_safe_cast_Integer8_Integer8(int8_t x) {
+  return evaluateCast<Integer8, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_Integer8_UnsignedInteger8(int8_t x) {
+  return evaluateCast<Integer8, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_Integer8_Integer16(int8_t x) {
+  return evaluateCast<Integer8, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_Integer8_UnsignedInteger16(int8_t x) {
+  return evaluateCast<Integer8, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_Integer8_Integer32(int8_t x) {
+  return evaluateCast<Integer8, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_Integer8_UnsignedInteger32(int8_t x) {
+  return evaluateCast<Integer8, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_Integer8_Integer64(int8_t x) {
+  return evaluateCast<Integer8, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_Integer8_UnsignedInteger64(int8_t x) {
+  return evaluateCast<Integer8, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_UnsignedInteger8_Integer8(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_UnsignedInteger8_UnsignedInteger8(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_UnsignedInteger8_Integer16(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_UnsignedInteger8_UnsignedInteger16(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_UnsignedInteger8_Integer32(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_UnsignedInteger8_UnsignedInteger32(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_UnsignedInteger8_Integer64(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_UnsignedInteger8_UnsignedInteger64(uint8_t x) {
+  return evaluateCast<UnsignedInteger8, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_Integer16_Integer8(int16_t x) {
+  return evaluateCast<Integer16, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_Integer16_UnsignedInteger8(int16_t x) {
+  return evaluateCast<Integer16, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_Integer16_Integer16(int16_t x) {
+  return evaluateCast<Integer16, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_Integer16_UnsignedInteger16(int16_t x) {
+  return evaluateCast<Integer16, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_Integer16_Integer32(int16_t x) {
+  return evaluateCast<Integer16, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_Integer16_UnsignedInteger32(int16_t x) {
+  return evaluateCast<Integer16, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_Integer16_Integer64(int16_t x) {
+  return evaluateCast<Integer16, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_Integer16_UnsignedInteger64(int16_t x) {
+  return evaluateCast<Integer16, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_UnsignedInteger16_Integer8(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_UnsignedInteger16_UnsignedInteger8(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_UnsignedInteger16_Integer16(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_UnsignedInteger16_UnsignedInteger16(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_UnsignedInteger16_Integer32(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_UnsignedInteger16_UnsignedInteger32(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_UnsignedInteger16_Integer64(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_UnsignedInteger16_UnsignedInteger64(uint16_t x) {
+  return evaluateCast<UnsignedInteger16, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_Integer32_Integer8(int32_t x) {
+  return evaluateCast<Integer32, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_Integer32_UnsignedInteger8(int32_t x) {
+  return evaluateCast<Integer32, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_Integer32_Integer16(int32_t x) {
+  return evaluateCast<Integer32, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_Integer32_UnsignedInteger16(int32_t x) {
+  return evaluateCast<Integer32, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_Integer32_Integer32(int32_t x) {
+  return evaluateCast<Integer32, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_Integer32_UnsignedInteger32(int32_t x) {
+  return evaluateCast<Integer32, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_Integer32_Integer64(int32_t x) {
+  return evaluateCast<Integer32, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_Integer32_UnsignedInteger64(int32_t x) {
+  return evaluateCast<Integer32, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_UnsignedInteger32_Integer8(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_UnsignedInteger32_UnsignedInteger8(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_UnsignedInteger32_Integer16(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_UnsignedInteger32_UnsignedInteger16(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_UnsignedInteger32_Integer32(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_UnsignedInteger32_UnsignedInteger32(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_UnsignedInteger32_Integer64(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_UnsignedInteger32_UnsignedInteger64(uint32_t x) {
+  return evaluateCast<UnsignedInteger32, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_Integer64_Integer8(int64_t x) {
+  return evaluateCast<Integer64, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_Integer64_UnsignedInteger8(int64_t x) {
+  return evaluateCast<Integer64, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_Integer64_Integer16(int64_t x) {
+  return evaluateCast<Integer64, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_Integer64_UnsignedInteger16(int64_t x) {
+  return evaluateCast<Integer64, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_Integer64_Integer32(int64_t x) {
+  return evaluateCast<Integer64, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_Integer64_UnsignedInteger32(int64_t x) {
+  return evaluateCast<Integer64, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_Integer64_Integer64(int64_t x) {
+  return evaluateCast<Integer64, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_Integer64_UnsignedInteger64(int64_t x) {
+  return evaluateCast<Integer64, UnsignedInteger64>(x);
+}
+inline int8_t integer_safe_cast_UnsignedInteger64_Integer8(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, Integer8>(x);
+}
+inline uint8_t integer_safe_cast_UnsignedInteger64_UnsignedInteger8(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, UnsignedInteger8>(x);
+}
+inline int16_t integer_safe_cast_UnsignedInteger64_Integer16(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, Integer16>(x);
+}
+inline uint16_t integer_safe_cast_UnsignedInteger64_UnsignedInteger16(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, UnsignedInteger16>(x);
+}
+inline int32_t integer_safe_cast_UnsignedInteger64_Integer32(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, Integer32>(x);
+}
+inline uint32_t integer_safe_cast_UnsignedInteger64_UnsignedInteger32(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, UnsignedInteger32>(x);
+}
+inline int64_t integer_safe_cast_UnsignedInteger64_Integer64(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, Integer64>(x);
+}
+inline uint64_t integer_safe_cast_UnsignedInteger64_UnsignedInteger64(uint64_t x) {
+  return evaluateCast<UnsignedInteger64, UnsignedInteger64>(x);
 }
 
 } // namespace torvane::inlined

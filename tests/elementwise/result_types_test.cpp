@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <torvane/operators.h>
-#include <vector>
+#include <string>
 
 namespace {
 
-using Numbers = std::vector<mint>;
-bool isOneOf(const Numbers &numbers, mint number) {
+using Numbers = std::initializer_list<mint>;
+bool isOneOf(Numbers numbers, mint number) {
   return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
 }
 
