@@ -31,8 +31,8 @@ template <class R> Scaled scaled(R x) {
   return {static_cast<int64_t>(std::ldexp(fraction, kBits<R>)), exponent - kBits<R>};
 }
 
-// Whether |x - y| < max(|x|, |y|) * 2^(bits - significand) for two finite values of one sign and 0 < bits <= the
-// significand less 1: exact, since values further apart than a factor of 4 cannot be that close.
+// Whether |x - y| < max(|x|, |y|) * 2^(bits - significand) for two finite values of one sign and 0 < bits <=
+// the significand less 1: exact, since values further apart than a factor of 4 cannot be that close.
 template <class R> bool areClose(int bits, R x, R y) {
   Scaled a = scaled(x), b = scaled(y);
   if (std::abs(a.exponent - b.exponent) > 2) return false;
@@ -51,7 +51,8 @@ template <class R> mint modelled(int bits, R x, R y) {
 
 // Values a few units, a few bits or a few binades from x.
 template <class R> std::vector<R> neighbours(R x, std::mt19937_64 &random) {
-  std::vector<R> values = {x, std::nextafter(x, R(INFINITY)), std::nextafter(x, R(-INFINITY)), x / 2, x * 2, x * 4, -x, R(0)};
+  std::vector<R> values = {
+      x, std::nextafter(x, R(INFINITY)), std::nextafter(x, R(-INFINITY)), x / 2, x * 2, x * 4, -x, R(0)};
   for (int bits = 0; bits <= kBits<R>; ++bits) {
     const R step = std::ldexp(x, bits - kBits<R>);
     values.insert(values.end(), {x + step, x - step, x + step * R(random() % 1000) / 500});
@@ -147,8 +148,12 @@ template <class R> struct FarPair {
   R x, y;
   mint order;
 };
-template <class R> const FarPair<R> kFarPairs[] = {
-    {1, R(2.5), -1}, {R(2.5), 1, 1}, {-1, R(-2.5), 1}, {R(0.125), R(0.3125), -1}, {R(-0.3125), R(-0.125), -1}};
+template <class R>
+const FarPair<R> kFarPairs[] = {{1, R(2.5), -1},
+                                {R(2.5), 1, 1},
+                                {-1, R(-2.5), 1},
+                                {R(0.125), R(0.3125), -1},
+                                {R(-0.3125), R(-0.125), -1}};
 
 TYPED_TEST(Tolerance, LastToleranceIsRememberedAndCallsEqualWhatANewOneTellsApart) {
   using R = TypeParam;
@@ -220,7 +225,8 @@ TEST(Tolerance, PartOfAComplexIsNegligible) {
   EXPECT_EQ(near1_reim_mcomplex(0, 1.0, 0.0), 1);
   EXPECT_EQ(near1_reim_mcomplex(0, 0.0, -0.0), 1);
   EXPECT_EQ(near1_reim_mcomplex(0, 1.0, 0x1p-60), 1); // lost in the difference
-  // One unit below 1 is half a unit above 1/2: 2^-53 = 1 * 2^(0 - 53), not below it; two tolerated bits are enough.
+  // One unit below 1 is half a unit above 1/2: 2^-53 = 1 * 2^(0 - 53), not below it; two tolerated bits are
+  // enough.
   for (const double x : {1.0, -1.0})
     for (const double y : {0x1p-53, -0x1p-53}) {
       EXPECT_EQ(near1_reim_mcomplex(0, x, y), 0);
