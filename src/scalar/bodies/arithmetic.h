@@ -1,41 +1,12 @@
 // Sums, differences, products and quotients.
 //
-// Integers wrap; whether bits were lost is what Form::fit asks. Reals are the processor's own. Complex
-// products are the plain four multiplications; quotients are Smith's: R. L. Smith, "Algorithm 116:
-// Complex division", CACM 5 (1962).
+// Integers wrap; whether bits were lost is what Form::fit asks. Reals are the processor's own.
 #pragma once
 
+#include "../complexes/arithmetic.h"
 #include "../evaluate.h"
 
 namespace torvane {
-
-template <class R> constexpr Complex<R> operator-(Complex<R> z) { return {-z.re, -z.im}; }
-template <class R> constexpr Complex<R> operator+(Complex<R> x, Complex<R> y) {
-  return {x.re + y.re, x.im + y.im};
-}
-template <class R> constexpr Complex<R> operator-(Complex<R> x, Complex<R> y) {
-  return {x.re - y.re, x.im - y.im};
-}
-template <class R> constexpr Complex<R> operator*(Complex<R> x, Complex<R> y) {
-  return {x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re};
-}
-
-// x / y for a divisor that is not zero. A NaN in the divisor, or a modulus that vanishes or is lost on
-// the way, makes both parts NaN.
-template <class R> constexpr Complex<R> operator/(Complex<R> x, Complex<R> y) {
-  constexpr R nan = __builtin_nan("");
-  const R c = y.re, d = y.im;
-  if (c != c || d != d) return {nan, nan};
-  if (__builtin_fabs(d) < __builtin_fabs(c)) {
-    const R t = d / c, m = t * d + c;
-    if (m != m || m == 0) return {nan, nan};
-    return {(x.re + x.im * t) / m, (x.im - x.re * t) / m};
-  }
-  if (d == 0) return {nan, nan};
-  const R t = c / d, m = t * c + d;
-  if (m != m || m == 0) return {nan, nan};
-  return {(x.re * t + x.im) / m, (x.im * t - x.re) / m};
-}
 
 namespace binary {
 
@@ -78,25 +49,13 @@ struct times {
 struct divide {
   template <class Form, class T> static constexpr T apply(error &code, T x, T y) {
     if constexpr (isComplex<T>)
-      if (y.re == 0 && y.im == 0) {
-        code = error::complexZeroDivision;
-        return T{};
-      }
-    return x / y;
+      return complexes::divide(code, x, y);
+    else
+      return x / y;
   }
 };
 
 } // namespace binary
-
-// 1 / z. An infinite part gives a signed zero in both.
-template <class R> constexpr Complex<R> reciprocal(error &code, Complex<R> z) {
-  if (__builtin_isinf(z.re) || __builtin_isinf(z.im)) {
-    const R sign = __builtin_isinf(z.re) ? R(__builtin_copysign(1.0, z.re)) : R(1);
-    return {R(0) * sign, R(__builtin_copysign(0.0, -z.im))};
-  }
-  if (z.re == 0 && z.im == 0) code = error::complexZeroDivision;
-  return code == error::none ? Complex<R>{R(1), R(0)} / z : Complex<R>{};
-}
 
 namespace unary {
 
@@ -123,7 +82,7 @@ struct square {
 struct recip {
   template <class Form, class T> static T apply(error &code, T x) {
     if constexpr (isComplex<T>)
-      return reciprocal(code, x);
+      return complexes::reciprocal(code, x);
     else
       return T(1) / x;
   }

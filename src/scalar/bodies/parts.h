@@ -1,23 +1,11 @@
 // The parts of a number: modulus, argument, conjugate, real and imaginary part, sign; and the constants.
 #pragma once
 
+#include "../complexes/rest.h"
 #include "arithmetic.h"
 #include "roots.h"
 
 namespace torvane {
-
-// r * 2^e of the scaled modulus: infinite only at this last step.
-template <class R> R modulusOf(Complex<R> z) {
-  const ScaledModulus<R> modulus = scaledModulus(z);
-  return modulus.e == 0 ? modulus.r : modulus.r * (modulus.e > 0 ? R(4) : R(0.25));
-}
-
-template <class R> constexpr R magnitudeOf(R x) {
-  if constexpr (isSame<R, Real32>)
-    return __builtin_fabsf(x);
-  else
-    return __builtin_fabs(x);
-}
 
 template <class T> constexpr T oneOf() {
   if constexpr (isComplex<T>)
@@ -56,7 +44,7 @@ struct abssquare {
 struct arg {
   template <class Form, class T> static RealPartOf<T> apply(error &code, T x) {
     if constexpr (isComplex<T>) {
-      return static_cast<RealPartOf<T>>(__builtin_atan2(Real64(x.im), Real64(x.re)));
+      return complexes::library::atan2(x.im, x.re);
     } else {
       if (x < T(0)) code = error::domain;
       return T(0);
@@ -96,21 +84,10 @@ struct re {
   template <class Form> static constexpr Real16 pattern(error &, Real16 x) { return x; }
 };
 
-// The unit of a complex: scaled by the larger part first, so that nothing overflows.
-template <class R> Complex<R> unitOf(Complex<R> z) {
-  if (z.re == 0 && z.im == 0) return {R(0), R(0)};
-  if (z.im == 0) return {signBit(z.re) ? R(-1) : R(1), R(0)};
-  if (z.re == 0) return {R(0), signBit(z.im) ? R(-1) : R(1)};
-  const R x = magnitudeOf(z.re), y = magnitudeOf(z.im), scale = R(1) / (x < y ? y : x);
-  const Complex<R> scaled = {z.re * scale, z.im * scale};
-  const R length = static_cast<R>(__builtin_hypot(Real64(scaled.re), Real64(scaled.im)));
-  return {scaled.re / length, scaled.im / length};
-}
-
 struct sign {
-  template <class Form, class T> static auto apply(error &, T x) {
+  template <class Form, class T> static auto apply(error &code, T x) {
     if constexpr (isComplex<T>)
-      return unitOf(x);
+      return complexes::sign(code, x);
     else
       return mint{(x > T(0)) - (x < T(0))};
   }
