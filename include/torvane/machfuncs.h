@@ -138,6 +138,35 @@ TORVANE_API mint machfunc_c_rsqrt(void *result, const void *x, mint count, const
 TORVANE_API mint machfunc_i_round(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_d_round(void *result, const void *x, mint count, const mint *strides, mint flags);
 
+/* floor: the largest integer not above x. */
+TORVANE_API mint machfunc_i_floor(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_floor(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* ceiling: the smallest integer not below x. */
+TORVANE_API mint machfunc_i_ceiling(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+TORVANE_API mint machfunc_d_ceiling(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+
+/* intpart: x without its fraction. */
+TORVANE_API mint machfunc_i_intpart(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+TORVANE_API mint machfunc_d_intpart(void *result, const void *x, mint count, const mint *strides,
+                                    mint flags);
+
+/* fracpart: the fraction of x, with its sign. */
+TORVANE_API mint machfunc_i_fracpart(void *result, const void *x, mint count, const mint *strides,
+                                     mint flags);
+TORVANE_API mint machfunc_d_fracpart(void *result, const void *x, mint count, const mint *strides,
+                                     mint flags);
+TORVANE_API mint machfunc_c_fracpart(void *result, const void *x, mint count, const mint *strides,
+                                     mint flags);
+
+/* mod1: the fraction of x above its floor. */
+TORVANE_API mint machfunc_i_mod1(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_mod1(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_mod1(void *result, const void *x, mint count, const mint *strides, mint flags);
+
 /* exp: e to the power x. */
 TORVANE_API mint machfunc_d_exp(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_c_exp(void *result, const void *x, mint count, const mint *strides, mint flags);
@@ -514,6 +543,36 @@ TORVANE_API mint machfunc_ci_bitshiftright(void *result, const void *x, const vo
 
 /* root: reserved. */
 
+/* mod: x less y times the floor of x / y. */
+TORVANE_API mint machfunc_ii_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_id_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_ic_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_dc_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_mod(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+
+/* quotient: the floor of x / y. */
+TORVANE_API mint machfunc_ii_quotient(void *result, const void *x, const void *y, mint count,
+                                      const mint *strides, mint flags);
+TORVANE_API mint machfunc_id_quotient(void *result, const void *x, const void *y, mint count,
+                                      const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_quotient(void *result, const void *x, const void *y, mint count,
+                                      const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_quotient(void *result, const void *x, const void *y, mint count,
+                                      const mint *strides, mint flags);
+
 /* log: the logarithm of y to base x. */
 TORVANE_API mint machfunc_id_log(void *result, const void *x, const void *y, mint count,
                                  const mint *strides, mint flags);
@@ -549,6 +608,26 @@ TORVANE_API mint machfunc_cd_atan2(void *result, const void *x, const void *y, m
                                    const mint *strides, mint flags);
 TORVANE_API mint machfunc_cc_atan2(void *result, const void *x, const void *y, mint count,
                                    const mint *strides, mint flags);
+
+/* pow: x to the power y. */
+TORVANE_API mint machfunc_ii_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_id_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_ic_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_dc_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_pow(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
 
 /* axpy: a * x + y. */
 TORVANE_API mint machfunc_iii_axpy(void *result, const void *a, const void *x, const void *y, mint count,

@@ -857,6 +857,151 @@ TORVANE_API mint checked_unary_round_Real64(double x);
 TORVANE_API float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im);
 TORVANE_API double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im);
 
+/* floor: the largest integer not above x.
+ * Codes: integers no test - reals 1 - complexes code 17. */
+TORVANE_API int8_t unary_floor_Integer8(int8_t x);
+TORVANE_API uint8_t unary_floor_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_floor_Integer16(int16_t x);
+TORVANE_API uint16_t unary_floor_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_floor_Integer32(int32_t x);
+TORVANE_API uint32_t unary_floor_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_floor_Integer64(int64_t x);
+TORVANE_API uint64_t unary_floor_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_floor_Real16(uint16_t x);
+TORVANE_API mint unary_floor_Real32(float x);
+TORVANE_API mint unary_floor_Real64(double x);
+TORVANE_API float *unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_floor_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_floor_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_floor_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_floor_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_floor_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_floor_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_floor_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_floor_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_floor_Real16(uint16_t x);
+TORVANE_API mint checked_unary_floor_Real32(float x);
+TORVANE_API mint checked_unary_floor_Real64(double x);
+TORVANE_API float *checked_unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* ceiling: the smallest integer not below x.
+ * Codes: integers no test - reals 1 - complexes code 17. */
+TORVANE_API int8_t unary_ceiling_Integer8(int8_t x);
+TORVANE_API uint8_t unary_ceiling_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_ceiling_Integer16(int16_t x);
+TORVANE_API uint16_t unary_ceiling_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_ceiling_Integer32(int32_t x);
+TORVANE_API uint32_t unary_ceiling_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_ceiling_Integer64(int64_t x);
+TORVANE_API uint64_t unary_ceiling_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_ceiling_Real16(uint16_t x);
+TORVANE_API mint unary_ceiling_Real32(float x);
+TORVANE_API mint unary_ceiling_Real64(double x);
+TORVANE_API float *unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_ceiling_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_ceiling_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_ceiling_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_ceiling_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_ceiling_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_ceiling_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_ceiling_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_ceiling_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_ceiling_Real16(uint16_t x);
+TORVANE_API mint checked_unary_ceiling_Real32(float x);
+TORVANE_API mint checked_unary_ceiling_Real64(double x);
+TORVANE_API float *checked_unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* intpart: x without its fraction.
+ * Codes: integers no test - reals 1 - complexes code 17. */
+TORVANE_API int8_t unary_intpart_Integer8(int8_t x);
+TORVANE_API uint8_t unary_intpart_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_intpart_Integer16(int16_t x);
+TORVANE_API uint16_t unary_intpart_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_intpart_Integer32(int32_t x);
+TORVANE_API uint32_t unary_intpart_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_intpart_Integer64(int64_t x);
+TORVANE_API uint64_t unary_intpart_UnsignedInteger64(uint64_t x);
+TORVANE_API mint unary_intpart_Real16(uint16_t x);
+TORVANE_API mint unary_intpart_Real32(float x);
+TORVANE_API mint unary_intpart_Real64(double x);
+TORVANE_API float *unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_intpart_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_intpart_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_intpart_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_intpart_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_intpart_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_intpart_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_intpart_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_intpart_UnsignedInteger64(uint64_t x);
+TORVANE_API mint checked_unary_intpart_Real16(uint16_t x);
+TORVANE_API mint checked_unary_intpart_Real32(float x);
+TORVANE_API mint checked_unary_intpart_Real64(double x);
+TORVANE_API float *checked_unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* fracpart: the fraction of x, with its sign.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_fracpart_Integer8(int8_t x);
+TORVANE_API uint8_t unary_fracpart_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_fracpart_Integer16(int16_t x);
+TORVANE_API uint16_t unary_fracpart_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_fracpart_Integer32(int32_t x);
+TORVANE_API uint32_t unary_fracpart_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_fracpart_Integer64(int64_t x);
+TORVANE_API uint64_t unary_fracpart_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_fracpart_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_fracpart_Real32(float x);
+TORVANE_API double unary_fracpart_Real64(double x);
+TORVANE_API float *unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_fracpart_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_fracpart_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_fracpart_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_fracpart_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_fracpart_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_fracpart_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_fracpart_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_fracpart_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_fracpart_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_fracpart_Real32(float x);
+TORVANE_API double checked_unary_fracpart_Real64(double x);
+TORVANE_API float *checked_unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* mod1: the fraction of x above its floor.
+ * Codes: integers no test - reals no test - complexes no test. */
+TORVANE_API int8_t unary_mod1_Integer8(int8_t x);
+TORVANE_API uint8_t unary_mod1_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_mod1_Integer16(int16_t x);
+TORVANE_API uint16_t unary_mod1_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_mod1_Integer32(int32_t x);
+TORVANE_API uint32_t unary_mod1_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_mod1_Integer64(int64_t x);
+TORVANE_API uint64_t unary_mod1_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_mod1_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_mod1_Real32(float x);
+TORVANE_API double unary_mod1_Real64(double x);
+TORVANE_API float *unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_mod1_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_mod1_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_mod1_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_mod1_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_mod1_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_mod1_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_mod1_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_mod1_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_mod1_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_mod1_Real32(float x);
+TORVANE_API double checked_unary_mod1_Real64(double x);
+TORVANE_API float *checked_unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
 /* exp: e to the power x.
  * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
 TORVANE_API int8_t unary_exp_Integer8(int8_t x);
@@ -2761,6 +2906,73 @@ TORVANE_API float *checked_binary_root_ComplexReal32_ComplexReal32(float *re, fl
 TORVANE_API double *checked_binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                     double x_im, double y_re, double y_im);
 
+/* mod: x less y times the floor of x / y.
+ * Codes: integers 14 - reals 14 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_mod_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_mod_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_mod_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_mod_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_mod_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_mod_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_mod_Real32_Real32(float x, float y);
+TORVANE_API double binary_mod_Real64_Real64(double x, double y);
+TORVANE_API float *binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im);
+TORVANE_API double *binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_mod_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_mod_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_mod_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_mod_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_mod_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_mod_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_mod_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_mod_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_mod_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im);
+
+/* quotient: the floor of x / y.
+ * Codes: integers 14 - reals 1 - complexes code 17. */
+TORVANE_API int8_t binary_quotient_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_quotient_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_quotient_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_quotient_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_quotient_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_quotient_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_quotient_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_quotient_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API mint binary_quotient_Real16_Real16(uint16_t x, uint16_t y);
+TORVANE_API mint binary_quotient_Real32_Real32(float x, float y);
+TORVANE_API mint binary_quotient_Real64_Real64(double x, double y);
+TORVANE_API float *binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                               float x_im, float y_re, float y_im);
+TORVANE_API double *binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_quotient_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_quotient_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_quotient_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_quotient_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_quotient_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_quotient_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_quotient_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_quotient_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API mint checked_binary_quotient_Real16_Real16(uint16_t x, uint16_t y);
+TORVANE_API mint checked_binary_quotient_Real32_Real32(float x, float y);
+TORVANE_API mint checked_binary_quotient_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                       float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im,
+                                                                        double x_re, double x_im,
+                                                                        double y_re, double y_im);
+
 /* log: the logarithm of y to base x.
  * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
 TORVANE_API int8_t binary_log_Integer8_Integer8(int8_t x, int8_t y);
@@ -2826,6 +3038,441 @@ TORVANE_API float *checked_binary_atan2_ComplexReal32_ComplexReal32(float *re, f
                                                                     float x_im, float y_re, float y_im);
 TORVANE_API double *checked_binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                      double x_im, double y_re, double y_im);
+
+/* pow: x to the power y.
+ * Codes: integers 14; checked 1 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t binary_pow_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API int8_t binary_pow_Integer8_UnsignedInteger8(int8_t x, uint8_t y);
+TORVANE_API int8_t binary_pow_Integer8_Integer16(int8_t x, int16_t y);
+TORVANE_API int8_t binary_pow_Integer8_UnsignedInteger16(int8_t x, uint16_t y);
+TORVANE_API int8_t binary_pow_Integer8_Integer32(int8_t x, int32_t y);
+TORVANE_API int8_t binary_pow_Integer8_UnsignedInteger32(int8_t x, uint32_t y);
+TORVANE_API int8_t binary_pow_Integer8_Integer64(int8_t x, int64_t y);
+TORVANE_API int8_t binary_pow_Integer8_UnsignedInteger64(int8_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_Integer8_Real16(uint16_t *result, int8_t x, uint16_t y);
+TORVANE_API float binary_pow_Integer8_Real32(int8_t x, float y);
+TORVANE_API double binary_pow_Integer8_Real64(int8_t x, double y);
+TORVANE_API float *binary_pow_Integer8_ComplexReal32(float *re, float *im, int8_t x, float y_re,
+                                                     float y_im);
+TORVANE_API double *binary_pow_Integer8_ComplexReal64(double *re, double *im, int8_t x, double y_re,
+                                                      double y_im);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_Integer8(uint8_t x, int8_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_Integer16(uint8_t x, int16_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_UnsignedInteger16(uint8_t x, uint16_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_Integer32(uint8_t x, int32_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_UnsignedInteger32(uint8_t x, uint32_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_Integer64(uint8_t x, int64_t y);
+TORVANE_API uint8_t binary_pow_UnsignedInteger8_UnsignedInteger64(uint8_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_UnsignedInteger8_Real16(uint16_t *result, uint8_t x, uint16_t y);
+TORVANE_API float binary_pow_UnsignedInteger8_Real32(uint8_t x, float y);
+TORVANE_API double binary_pow_UnsignedInteger8_Real64(uint8_t x, double y);
+TORVANE_API float *binary_pow_UnsignedInteger8_ComplexReal32(float *re, float *im, uint8_t x, float y_re,
+                                                             float y_im);
+TORVANE_API double *binary_pow_UnsignedInteger8_ComplexReal64(double *re, double *im, uint8_t x,
+                                                              double y_re, double y_im);
+TORVANE_API int16_t binary_pow_Integer16_Integer8(int16_t x, int8_t y);
+TORVANE_API int16_t binary_pow_Integer16_UnsignedInteger8(int16_t x, uint8_t y);
+TORVANE_API int16_t binary_pow_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API int16_t binary_pow_Integer16_UnsignedInteger16(int16_t x, uint16_t y);
+TORVANE_API int16_t binary_pow_Integer16_Integer32(int16_t x, int32_t y);
+TORVANE_API int16_t binary_pow_Integer16_UnsignedInteger32(int16_t x, uint32_t y);
+TORVANE_API int16_t binary_pow_Integer16_Integer64(int16_t x, int64_t y);
+TORVANE_API int16_t binary_pow_Integer16_UnsignedInteger64(int16_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_Integer16_Real16(uint16_t *result, int16_t x, uint16_t y);
+TORVANE_API float binary_pow_Integer16_Real32(int16_t x, float y);
+TORVANE_API double binary_pow_Integer16_Real64(int16_t x, double y);
+TORVANE_API float *binary_pow_Integer16_ComplexReal32(float *re, float *im, int16_t x, float y_re,
+                                                      float y_im);
+TORVANE_API double *binary_pow_Integer16_ComplexReal64(double *re, double *im, int16_t x, double y_re,
+                                                       double y_im);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_Integer8(uint16_t x, int8_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_UnsignedInteger8(uint16_t x, uint8_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_Integer16(uint16_t x, int16_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_Integer32(uint16_t x, int32_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_UnsignedInteger32(uint16_t x, uint32_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_Integer64(uint16_t x, int64_t y);
+TORVANE_API uint16_t binary_pow_UnsignedInteger16_UnsignedInteger64(uint16_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_UnsignedInteger16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_pow_UnsignedInteger16_Real32(uint16_t x, float y);
+TORVANE_API double binary_pow_UnsignedInteger16_Real64(uint16_t x, double y);
+TORVANE_API float *binary_pow_UnsignedInteger16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
+                                                              float y_im);
+TORVANE_API double *binary_pow_UnsignedInteger16_ComplexReal64(double *re, double *im, uint16_t x,
+                                                               double y_re, double y_im);
+TORVANE_API int32_t binary_pow_Integer32_Integer8(int32_t x, int8_t y);
+TORVANE_API int32_t binary_pow_Integer32_UnsignedInteger8(int32_t x, uint8_t y);
+TORVANE_API int32_t binary_pow_Integer32_Integer16(int32_t x, int16_t y);
+TORVANE_API int32_t binary_pow_Integer32_UnsignedInteger16(int32_t x, uint16_t y);
+TORVANE_API int32_t binary_pow_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API int32_t binary_pow_Integer32_UnsignedInteger32(int32_t x, uint32_t y);
+TORVANE_API int32_t binary_pow_Integer32_Integer64(int32_t x, int64_t y);
+TORVANE_API int32_t binary_pow_Integer32_UnsignedInteger64(int32_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_Integer32_Real16(uint16_t *result, int32_t x, uint16_t y);
+TORVANE_API float binary_pow_Integer32_Real32(int32_t x, float y);
+TORVANE_API double binary_pow_Integer32_Real64(int32_t x, double y);
+TORVANE_API float *binary_pow_Integer32_ComplexReal32(float *re, float *im, int32_t x, float y_re,
+                                                      float y_im);
+TORVANE_API double *binary_pow_Integer32_ComplexReal64(double *re, double *im, int32_t x, double y_re,
+                                                       double y_im);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_Integer8(uint32_t x, int8_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_UnsignedInteger8(uint32_t x, uint8_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_Integer16(uint32_t x, int16_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_UnsignedInteger16(uint32_t x, uint16_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_Integer32(uint32_t x, int32_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_Integer64(uint32_t x, int64_t y);
+TORVANE_API uint32_t binary_pow_UnsignedInteger32_UnsignedInteger64(uint32_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_UnsignedInteger32_Real16(uint16_t *result, uint32_t x, uint16_t y);
+TORVANE_API float binary_pow_UnsignedInteger32_Real32(uint32_t x, float y);
+TORVANE_API double binary_pow_UnsignedInteger32_Real64(uint32_t x, double y);
+TORVANE_API float *binary_pow_UnsignedInteger32_ComplexReal32(float *re, float *im, uint32_t x, float y_re,
+                                                              float y_im);
+TORVANE_API double *binary_pow_UnsignedInteger32_ComplexReal64(double *re, double *im, uint32_t x,
+                                                               double y_re, double y_im);
+TORVANE_API int64_t binary_pow_Integer64_Integer8(int64_t x, int8_t y);
+TORVANE_API int64_t binary_pow_Integer64_UnsignedInteger8(int64_t x, uint8_t y);
+TORVANE_API int64_t binary_pow_Integer64_Integer16(int64_t x, int16_t y);
+TORVANE_API int64_t binary_pow_Integer64_UnsignedInteger16(int64_t x, uint16_t y);
+TORVANE_API int64_t binary_pow_Integer64_Integer32(int64_t x, int32_t y);
+TORVANE_API int64_t binary_pow_Integer64_UnsignedInteger32(int64_t x, uint32_t y);
+TORVANE_API int64_t binary_pow_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API int64_t binary_pow_Integer64_UnsignedInteger64(int64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_Integer64_Real16(uint16_t *result, int64_t x, uint16_t y);
+TORVANE_API float binary_pow_Integer64_Real32(int64_t x, float y);
+TORVANE_API double binary_pow_Integer64_Real64(int64_t x, double y);
+TORVANE_API float *binary_pow_Integer64_ComplexReal32(float *re, float *im, int64_t x, float y_re,
+                                                      float y_im);
+TORVANE_API double *binary_pow_Integer64_ComplexReal64(double *re, double *im, int64_t x, double y_re,
+                                                       double y_im);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_Integer8(uint64_t x, int8_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_UnsignedInteger8(uint64_t x, uint8_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_Integer16(uint64_t x, int16_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_UnsignedInteger16(uint64_t x, uint16_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_Integer32(uint64_t x, int32_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_UnsignedInteger32(uint64_t x, uint32_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_Integer64(uint64_t x, int64_t y);
+TORVANE_API uint64_t binary_pow_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_UnsignedInteger64_Real16(uint16_t *result, uint64_t x, uint16_t y);
+TORVANE_API float binary_pow_UnsignedInteger64_Real32(uint64_t x, float y);
+TORVANE_API double binary_pow_UnsignedInteger64_Real64(uint64_t x, double y);
+TORVANE_API float *binary_pow_UnsignedInteger64_ComplexReal32(float *re, float *im, uint64_t x, float y_re,
+                                                              float y_im);
+TORVANE_API double *binary_pow_UnsignedInteger64_ComplexReal64(double *re, double *im, uint64_t x,
+                                                               double y_re, double y_im);
+TORVANE_API uint16_t *binary_pow_Real16_Integer8(uint16_t *result, uint16_t x, int8_t y);
+TORVANE_API uint16_t *binary_pow_Real16_UnsignedInteger8(uint16_t *result, uint16_t x, uint8_t y);
+TORVANE_API uint16_t *binary_pow_Real16_Integer16(uint16_t *result, uint16_t x, int16_t y);
+TORVANE_API uint16_t *binary_pow_Real16_UnsignedInteger16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API uint16_t *binary_pow_Real16_Integer32(uint16_t *result, uint16_t x, int32_t y);
+TORVANE_API uint16_t *binary_pow_Real16_UnsignedInteger32(uint16_t *result, uint16_t x, uint32_t y);
+TORVANE_API uint16_t *binary_pow_Real16_Integer64(uint16_t *result, uint16_t x, int64_t y);
+TORVANE_API uint16_t *binary_pow_Real16_UnsignedInteger64(uint16_t *result, uint16_t x, uint64_t y);
+TORVANE_API uint16_t *binary_pow_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_pow_Real16_Real32(uint16_t x, float y);
+TORVANE_API double binary_pow_Real16_Real64(uint16_t x, double y);
+TORVANE_API float *binary_pow_Real16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
+                                                   float y_im);
+TORVANE_API double *binary_pow_Real16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
+                                                    double y_im);
+TORVANE_API float binary_pow_Real32_Integer8(float x, int8_t y);
+TORVANE_API float binary_pow_Real32_UnsignedInteger8(float x, uint8_t y);
+TORVANE_API float binary_pow_Real32_Integer16(float x, int16_t y);
+TORVANE_API float binary_pow_Real32_UnsignedInteger16(float x, uint16_t y);
+TORVANE_API float binary_pow_Real32_Integer32(float x, int32_t y);
+TORVANE_API float binary_pow_Real32_UnsignedInteger32(float x, uint32_t y);
+TORVANE_API float binary_pow_Real32_Integer64(float x, int64_t y);
+TORVANE_API float binary_pow_Real32_UnsignedInteger64(float x, uint64_t y);
+TORVANE_API float binary_pow_Real32_Real16(float x, uint16_t y);
+TORVANE_API float binary_pow_Real32_Real32(float x, float y);
+TORVANE_API double binary_pow_Real32_Real64(float x, double y);
+TORVANE_API float *binary_pow_Real32_ComplexReal32(float *re, float *im, float x, float y_re, float y_im);
+TORVANE_API double *binary_pow_Real32_ComplexReal64(double *re, double *im, float x, double y_re,
+                                                    double y_im);
+TORVANE_API double binary_pow_Real64_Integer8(double x, int8_t y);
+TORVANE_API double binary_pow_Real64_UnsignedInteger8(double x, uint8_t y);
+TORVANE_API double binary_pow_Real64_Integer16(double x, int16_t y);
+TORVANE_API double binary_pow_Real64_UnsignedInteger16(double x, uint16_t y);
+TORVANE_API double binary_pow_Real64_Integer32(double x, int32_t y);
+TORVANE_API double binary_pow_Real64_UnsignedInteger32(double x, uint32_t y);
+TORVANE_API double binary_pow_Real64_Integer64(double x, int64_t y);
+TORVANE_API double binary_pow_Real64_UnsignedInteger64(double x, uint64_t y);
+TORVANE_API double binary_pow_Real64_Real16(double x, uint16_t y);
+TORVANE_API double binary_pow_Real64_Real32(double x, float y);
+TORVANE_API double binary_pow_Real64_Real64(double x, double y);
+TORVANE_API double *binary_pow_Real64_ComplexReal32(double *re, double *im, double x, float y_re,
+                                                    float y_im);
+TORVANE_API double *binary_pow_Real64_ComplexReal64(double *re, double *im, double x, double y_re,
+                                                    double y_im);
+TORVANE_API float *binary_pow_ComplexReal32_Integer8(float *re, float *im, float x_re, float x_im,
+                                                     int8_t y);
+TORVANE_API float *binary_pow_ComplexReal32_UnsignedInteger8(float *re, float *im, float x_re, float x_im,
+                                                             uint8_t y);
+TORVANE_API float *binary_pow_ComplexReal32_Integer16(float *re, float *im, float x_re, float x_im,
+                                                      int16_t y);
+TORVANE_API float *binary_pow_ComplexReal32_UnsignedInteger16(float *re, float *im, float x_re, float x_im,
+                                                              uint16_t y);
+TORVANE_API float *binary_pow_ComplexReal32_Integer32(float *re, float *im, float x_re, float x_im,
+                                                      int32_t y);
+TORVANE_API float *binary_pow_ComplexReal32_UnsignedInteger32(float *re, float *im, float x_re, float x_im,
+                                                              uint32_t y);
+TORVANE_API float *binary_pow_ComplexReal32_Integer64(float *re, float *im, float x_re, float x_im,
+                                                      int64_t y);
+TORVANE_API float *binary_pow_ComplexReal32_UnsignedInteger64(float *re, float *im, float x_re, float x_im,
+                                                              uint64_t y);
+TORVANE_API float *binary_pow_ComplexReal32_Real16(float *re, float *im, float x_re, float x_im,
+                                                   uint16_t y);
+TORVANE_API float *binary_pow_ComplexReal32_Real32(float *re, float *im, float x_re, float x_im, float y);
+TORVANE_API double *binary_pow_ComplexReal32_Real64(double *re, double *im, float x_re, float x_im,
+                                                    double y);
+TORVANE_API float *binary_pow_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im);
+TORVANE_API double *binary_pow_ComplexReal32_ComplexReal64(double *re, double *im, float x_re, float x_im,
+                                                           double y_re, double y_im);
+TORVANE_API double *binary_pow_ComplexReal64_Integer8(double *re, double *im, double x_re, double x_im,
+                                                      int8_t y);
+TORVANE_API double *binary_pow_ComplexReal64_UnsignedInteger8(double *re, double *im, double x_re,
+                                                              double x_im, uint8_t y);
+TORVANE_API double *binary_pow_ComplexReal64_Integer16(double *re, double *im, double x_re, double x_im,
+                                                       int16_t y);
+TORVANE_API double *binary_pow_ComplexReal64_UnsignedInteger16(double *re, double *im, double x_re,
+                                                               double x_im, uint16_t y);
+TORVANE_API double *binary_pow_ComplexReal64_Integer32(double *re, double *im, double x_re, double x_im,
+                                                       int32_t y);
+TORVANE_API double *binary_pow_ComplexReal64_UnsignedInteger32(double *re, double *im, double x_re,
+                                                               double x_im, uint32_t y);
+TORVANE_API double *binary_pow_ComplexReal64_Integer64(double *re, double *im, double x_re, double x_im,
+                                                       int64_t y);
+TORVANE_API double *binary_pow_ComplexReal64_UnsignedInteger64(double *re, double *im, double x_re,
+                                                               double x_im, uint64_t y);
+TORVANE_API double *binary_pow_ComplexReal64_Real16(double *re, double *im, double x_re, double x_im,
+                                                    uint16_t y);
+TORVANE_API double *binary_pow_ComplexReal64_Real32(double *re, double *im, double x_re, double x_im,
+                                                    float y);
+TORVANE_API double *binary_pow_ComplexReal64_Real64(double *re, double *im, double x_re, double x_im,
+                                                    double y);
+TORVANE_API double *binary_pow_ComplexReal64_ComplexReal32(double *re, double *im, double x_re,
+                                                           double x_im, float y_re, float y_im);
+TORVANE_API double *binary_pow_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_pow_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_UnsignedInteger8(int8_t x, uint8_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_Integer16(int8_t x, int16_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_UnsignedInteger16(int8_t x, uint16_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_Integer32(int8_t x, int32_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_UnsignedInteger32(int8_t x, uint32_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_Integer64(int8_t x, int64_t y);
+TORVANE_API int8_t checked_binary_pow_Integer8_UnsignedInteger64(int8_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_Integer8_Real16(uint16_t *result, int8_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_Integer8_Real32(int8_t x, float y);
+TORVANE_API double checked_binary_pow_Integer8_Real64(int8_t x, double y);
+TORVANE_API float *checked_binary_pow_Integer8_ComplexReal32(float *re, float *im, int8_t x, float y_re,
+                                                             float y_im);
+TORVANE_API double *checked_binary_pow_Integer8_ComplexReal64(double *re, double *im, int8_t x,
+                                                              double y_re, double y_im);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_Integer8(uint8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_Integer16(uint8_t x, int16_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger16(uint8_t x, uint16_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_Integer32(uint8_t x, int32_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger32(uint8_t x, uint32_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_Integer64(uint8_t x, int64_t y);
+TORVANE_API uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger64(uint8_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_UnsignedInteger8_Real16(uint16_t *result, uint8_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_UnsignedInteger8_Real32(uint8_t x, float y);
+TORVANE_API double checked_binary_pow_UnsignedInteger8_Real64(uint8_t x, double y);
+TORVANE_API float *checked_binary_pow_UnsignedInteger8_ComplexReal32(float *re, float *im, uint8_t x,
+                                                                     float y_re, float y_im);
+TORVANE_API double *checked_binary_pow_UnsignedInteger8_ComplexReal64(double *re, double *im, uint8_t x,
+                                                                      double y_re, double y_im);
+TORVANE_API int16_t checked_binary_pow_Integer16_Integer8(int16_t x, int8_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_UnsignedInteger8(int16_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_UnsignedInteger16(int16_t x, uint16_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_Integer32(int16_t x, int32_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_UnsignedInteger32(int16_t x, uint32_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_Integer64(int16_t x, int64_t y);
+TORVANE_API int16_t checked_binary_pow_Integer16_UnsignedInteger64(int16_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_Integer16_Real16(uint16_t *result, int16_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_Integer16_Real32(int16_t x, float y);
+TORVANE_API double checked_binary_pow_Integer16_Real64(int16_t x, double y);
+TORVANE_API float *checked_binary_pow_Integer16_ComplexReal32(float *re, float *im, int16_t x, float y_re,
+                                                              float y_im);
+TORVANE_API double *checked_binary_pow_Integer16_ComplexReal64(double *re, double *im, int16_t x,
+                                                               double y_re, double y_im);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_Integer8(uint16_t x, int8_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger8(uint16_t x, uint8_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_Integer16(uint16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_Integer32(uint16_t x, int32_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger32(uint16_t x, uint32_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_Integer64(uint16_t x, int64_t y);
+TORVANE_API uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger64(uint16_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_UnsignedInteger16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_UnsignedInteger16_Real32(uint16_t x, float y);
+TORVANE_API double checked_binary_pow_UnsignedInteger16_Real64(uint16_t x, double y);
+TORVANE_API float *checked_binary_pow_UnsignedInteger16_ComplexReal32(float *re, float *im, uint16_t x,
+                                                                      float y_re, float y_im);
+TORVANE_API double *checked_binary_pow_UnsignedInteger16_ComplexReal64(double *re, double *im, uint16_t x,
+                                                                       double y_re, double y_im);
+TORVANE_API int32_t checked_binary_pow_Integer32_Integer8(int32_t x, int8_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_UnsignedInteger8(int32_t x, uint8_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_Integer16(int32_t x, int16_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_UnsignedInteger16(int32_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_UnsignedInteger32(int32_t x, uint32_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_Integer64(int32_t x, int64_t y);
+TORVANE_API int32_t checked_binary_pow_Integer32_UnsignedInteger64(int32_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_Integer32_Real16(uint16_t *result, int32_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_Integer32_Real32(int32_t x, float y);
+TORVANE_API double checked_binary_pow_Integer32_Real64(int32_t x, double y);
+TORVANE_API float *checked_binary_pow_Integer32_ComplexReal32(float *re, float *im, int32_t x, float y_re,
+                                                              float y_im);
+TORVANE_API double *checked_binary_pow_Integer32_ComplexReal64(double *re, double *im, int32_t x,
+                                                               double y_re, double y_im);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_Integer8(uint32_t x, int8_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger8(uint32_t x, uint8_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_Integer16(uint32_t x, int16_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger16(uint32_t x, uint16_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_Integer32(uint32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_Integer64(uint32_t x, int64_t y);
+TORVANE_API uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger64(uint32_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_UnsignedInteger32_Real16(uint16_t *result, uint32_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_UnsignedInteger32_Real32(uint32_t x, float y);
+TORVANE_API double checked_binary_pow_UnsignedInteger32_Real64(uint32_t x, double y);
+TORVANE_API float *checked_binary_pow_UnsignedInteger32_ComplexReal32(float *re, float *im, uint32_t x,
+                                                                      float y_re, float y_im);
+TORVANE_API double *checked_binary_pow_UnsignedInteger32_ComplexReal64(double *re, double *im, uint32_t x,
+                                                                       double y_re, double y_im);
+TORVANE_API int64_t checked_binary_pow_Integer64_Integer8(int64_t x, int8_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_UnsignedInteger8(int64_t x, uint8_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_Integer16(int64_t x, int16_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_UnsignedInteger16(int64_t x, uint16_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_Integer32(int64_t x, int32_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_UnsignedInteger32(int64_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API int64_t checked_binary_pow_Integer64_UnsignedInteger64(int64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_Integer64_Real16(uint16_t *result, int64_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_Integer64_Real32(int64_t x, float y);
+TORVANE_API double checked_binary_pow_Integer64_Real64(int64_t x, double y);
+TORVANE_API float *checked_binary_pow_Integer64_ComplexReal32(float *re, float *im, int64_t x, float y_re,
+                                                              float y_im);
+TORVANE_API double *checked_binary_pow_Integer64_ComplexReal64(double *re, double *im, int64_t x,
+                                                               double y_re, double y_im);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_Integer8(uint64_t x, int8_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger8(uint64_t x, uint8_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_Integer16(uint64_t x, int16_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger16(uint64_t x, uint16_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_Integer32(uint64_t x, int32_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger32(uint64_t x, uint32_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_Integer64(uint64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_UnsignedInteger64_Real16(uint16_t *result, uint64_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_UnsignedInteger64_Real32(uint64_t x, float y);
+TORVANE_API double checked_binary_pow_UnsignedInteger64_Real64(uint64_t x, double y);
+TORVANE_API float *checked_binary_pow_UnsignedInteger64_ComplexReal32(float *re, float *im, uint64_t x,
+                                                                      float y_re, float y_im);
+TORVANE_API double *checked_binary_pow_UnsignedInteger64_ComplexReal64(double *re, double *im, uint64_t x,
+                                                                       double y_re, double y_im);
+TORVANE_API uint16_t *checked_binary_pow_Real16_Integer8(uint16_t *result, uint16_t x, int8_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_UnsignedInteger8(uint16_t *result, uint16_t x, uint8_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_Integer16(uint16_t *result, uint16_t x, int16_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_UnsignedInteger16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_Integer32(uint16_t *result, uint16_t x, int32_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_UnsignedInteger32(uint16_t *result, uint16_t x, uint32_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_Integer64(uint16_t *result, uint16_t x, int64_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_UnsignedInteger64(uint16_t *result, uint16_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_pow_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_pow_Real16_Real32(uint16_t x, float y);
+TORVANE_API double checked_binary_pow_Real16_Real64(uint16_t x, double y);
+TORVANE_API float *checked_binary_pow_Real16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
+                                                           float y_im);
+TORVANE_API double *checked_binary_pow_Real16_ComplexReal64(double *re, double *im, uint16_t x,
+                                                            double y_re, double y_im);
+TORVANE_API float checked_binary_pow_Real32_Integer8(float x, int8_t y);
+TORVANE_API float checked_binary_pow_Real32_UnsignedInteger8(float x, uint8_t y);
+TORVANE_API float checked_binary_pow_Real32_Integer16(float x, int16_t y);
+TORVANE_API float checked_binary_pow_Real32_UnsignedInteger16(float x, uint16_t y);
+TORVANE_API float checked_binary_pow_Real32_Integer32(float x, int32_t y);
+TORVANE_API float checked_binary_pow_Real32_UnsignedInteger32(float x, uint32_t y);
+TORVANE_API float checked_binary_pow_Real32_Integer64(float x, int64_t y);
+TORVANE_API float checked_binary_pow_Real32_UnsignedInteger64(float x, uint64_t y);
+TORVANE_API float checked_binary_pow_Real32_Real16(float x, uint16_t y);
+TORVANE_API float checked_binary_pow_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_pow_Real32_Real64(float x, double y);
+TORVANE_API float *checked_binary_pow_Real32_ComplexReal32(float *re, float *im, float x, float y_re,
+                                                           float y_im);
+TORVANE_API double *checked_binary_pow_Real32_ComplexReal64(double *re, double *im, float x, double y_re,
+                                                            double y_im);
+TORVANE_API double checked_binary_pow_Real64_Integer8(double x, int8_t y);
+TORVANE_API double checked_binary_pow_Real64_UnsignedInteger8(double x, uint8_t y);
+TORVANE_API double checked_binary_pow_Real64_Integer16(double x, int16_t y);
+TORVANE_API double checked_binary_pow_Real64_UnsignedInteger16(double x, uint16_t y);
+TORVANE_API double checked_binary_pow_Real64_Integer32(double x, int32_t y);
+TORVANE_API double checked_binary_pow_Real64_UnsignedInteger32(double x, uint32_t y);
+TORVANE_API double checked_binary_pow_Real64_Integer64(double x, int64_t y);
+TORVANE_API double checked_binary_pow_Real64_UnsignedInteger64(double x, uint64_t y);
+TORVANE_API double checked_binary_pow_Real64_Real16(double x, uint16_t y);
+TORVANE_API double checked_binary_pow_Real64_Real32(double x, float y);
+TORVANE_API double checked_binary_pow_Real64_Real64(double x, double y);
+TORVANE_API double *checked_binary_pow_Real64_ComplexReal32(double *re, double *im, double x, float y_re,
+                                                            float y_im);
+TORVANE_API double *checked_binary_pow_Real64_ComplexReal64(double *re, double *im, double x, double y_re,
+                                                            double y_im);
+TORVANE_API float *checked_binary_pow_ComplexReal32_Integer8(float *re, float *im, float x_re, float x_im,
+                                                             int8_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_UnsignedInteger8(float *re, float *im, float x_re,
+                                                                     float x_im, uint8_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_Integer16(float *re, float *im, float x_re, float x_im,
+                                                              int16_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_UnsignedInteger16(float *re, float *im, float x_re,
+                                                                      float x_im, uint16_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_Integer32(float *re, float *im, float x_re, float x_im,
+                                                              int32_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_UnsignedInteger32(float *re, float *im, float x_re,
+                                                                      float x_im, uint32_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_Integer64(float *re, float *im, float x_re, float x_im,
+                                                              int64_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_UnsignedInteger64(float *re, float *im, float x_re,
+                                                                      float x_im, uint64_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_Real16(float *re, float *im, float x_re, float x_im,
+                                                           uint16_t y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_Real32(float *re, float *im, float x_re, float x_im,
+                                                           float y);
+TORVANE_API double *checked_binary_pow_ComplexReal32_Real64(double *re, double *im, float x_re, float x_im,
+                                                            double y);
+TORVANE_API float *checked_binary_pow_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_pow_ComplexReal32_ComplexReal64(double *re, double *im, float x_re,
+                                                                   float x_im, double y_re, double y_im);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Integer8(double *re, double *im, double x_re,
+                                                              double x_im, int8_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_UnsignedInteger8(double *re, double *im, double x_re,
+                                                                      double x_im, uint8_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Integer16(double *re, double *im, double x_re,
+                                                               double x_im, int16_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_UnsignedInteger16(double *re, double *im, double x_re,
+                                                                       double x_im, uint16_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Integer32(double *re, double *im, double x_re,
+                                                               double x_im, int32_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_UnsignedInteger32(double *re, double *im, double x_re,
+                                                                       double x_im, uint32_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Integer64(double *re, double *im, double x_re,
+                                                               double x_im, int64_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_UnsignedInteger64(double *re, double *im, double x_re,
+                                                                       double x_im, uint64_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Real16(double *re, double *im, double x_re,
+                                                            double x_im, uint16_t y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Real32(double *re, double *im, double x_re,
+                                                            double x_im, float y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_Real64(double *re, double *im, double x_re,
+                                                            double x_im, double y);
+TORVANE_API double *checked_binary_pow_ComplexReal64_ComplexReal32(double *re, double *im, double x_re,
+                                                                   double x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_pow_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im);
 
 /* axpy: a * x + y.
  * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
@@ -3073,6 +3720,73 @@ TORVANE_API double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexRea
                                                                                     double x_im,
                                                                                     double y_re,
                                                                                     double y_im);
+
+/* integer_safe_cast_<from>_<to>: x in the second type.
+ * Codes: 42 for a value outside that type, or equal to its most negative value. */
+TORVANE_API int8_t integer_safe_cast_Integer8_Integer8(int8_t x);
+TORVANE_API uint8_t integer_safe_cast_Integer8_UnsignedInteger8(int8_t x);
+TORVANE_API int16_t integer_safe_cast_Integer8_Integer16(int8_t x);
+TORVANE_API uint16_t integer_safe_cast_Integer8_UnsignedInteger16(int8_t x);
+TORVANE_API int32_t integer_safe_cast_Integer8_Integer32(int8_t x);
+TORVANE_API uint32_t integer_safe_cast_Integer8_UnsignedInteger32(int8_t x);
+TORVANE_API int64_t integer_safe_cast_Integer8_Integer64(int8_t x);
+TORVANE_API uint64_t integer_safe_cast_Integer8_UnsignedInteger64(int8_t x);
+TORVANE_API int8_t integer_safe_cast_UnsignedInteger8_Integer8(uint8_t x);
+TORVANE_API uint8_t integer_safe_cast_UnsignedInteger8_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t integer_safe_cast_UnsignedInteger8_Integer16(uint8_t x);
+TORVANE_API uint16_t integer_safe_cast_UnsignedInteger8_UnsignedInteger16(uint8_t x);
+TORVANE_API int32_t integer_safe_cast_UnsignedInteger8_Integer32(uint8_t x);
+TORVANE_API uint32_t integer_safe_cast_UnsignedInteger8_UnsignedInteger32(uint8_t x);
+TORVANE_API int64_t integer_safe_cast_UnsignedInteger8_Integer64(uint8_t x);
+TORVANE_API uint64_t integer_safe_cast_UnsignedInteger8_UnsignedInteger64(uint8_t x);
+TORVANE_API int8_t integer_safe_cast_Integer16_Integer8(int16_t x);
+TORVANE_API uint8_t integer_safe_cast_Integer16_UnsignedInteger8(int16_t x);
+TORVANE_API int16_t integer_safe_cast_Integer16_Integer16(int16_t x);
+TORVANE_API uint16_t integer_safe_cast_Integer16_UnsignedInteger16(int16_t x);
+TORVANE_API int32_t integer_safe_cast_Integer16_Integer32(int16_t x);
+TORVANE_API uint32_t integer_safe_cast_Integer16_UnsignedInteger32(int16_t x);
+TORVANE_API int64_t integer_safe_cast_Integer16_Integer64(int16_t x);
+TORVANE_API uint64_t integer_safe_cast_Integer16_UnsignedInteger64(int16_t x);
+TORVANE_API int8_t integer_safe_cast_UnsignedInteger16_Integer8(uint16_t x);
+TORVANE_API uint8_t integer_safe_cast_UnsignedInteger16_UnsignedInteger8(uint16_t x);
+TORVANE_API int16_t integer_safe_cast_UnsignedInteger16_Integer16(uint16_t x);
+TORVANE_API uint16_t integer_safe_cast_UnsignedInteger16_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t integer_safe_cast_UnsignedInteger16_Integer32(uint16_t x);
+TORVANE_API uint32_t integer_safe_cast_UnsignedInteger16_UnsignedInteger32(uint16_t x);
+TORVANE_API int64_t integer_safe_cast_UnsignedInteger16_Integer64(uint16_t x);
+TORVANE_API uint64_t integer_safe_cast_UnsignedInteger16_UnsignedInteger64(uint16_t x);
+TORVANE_API int8_t integer_safe_cast_Integer32_Integer8(int32_t x);
+TORVANE_API uint8_t integer_safe_cast_Integer32_UnsignedInteger8(int32_t x);
+TORVANE_API int16_t integer_safe_cast_Integer32_Integer16(int32_t x);
+TORVANE_API uint16_t integer_safe_cast_Integer32_UnsignedInteger16(int32_t x);
+TORVANE_API int32_t integer_safe_cast_Integer32_Integer32(int32_t x);
+TORVANE_API uint32_t integer_safe_cast_Integer32_UnsignedInteger32(int32_t x);
+TORVANE_API int64_t integer_safe_cast_Integer32_Integer64(int32_t x);
+TORVANE_API uint64_t integer_safe_cast_Integer32_UnsignedInteger64(int32_t x);
+TORVANE_API int8_t integer_safe_cast_UnsignedInteger32_Integer8(uint32_t x);
+TORVANE_API uint8_t integer_safe_cast_UnsignedInteger32_UnsignedInteger8(uint32_t x);
+TORVANE_API int16_t integer_safe_cast_UnsignedInteger32_Integer16(uint32_t x);
+TORVANE_API uint16_t integer_safe_cast_UnsignedInteger32_UnsignedInteger16(uint32_t x);
+TORVANE_API int32_t integer_safe_cast_UnsignedInteger32_Integer32(uint32_t x);
+TORVANE_API uint32_t integer_safe_cast_UnsignedInteger32_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t integer_safe_cast_UnsignedInteger32_Integer64(uint32_t x);
+TORVANE_API uint64_t integer_safe_cast_UnsignedInteger32_UnsignedInteger64(uint32_t x);
+TORVANE_API int8_t integer_safe_cast_Integer64_Integer8(int64_t x);
+TORVANE_API uint8_t integer_safe_cast_Integer64_UnsignedInteger8(int64_t x);
+TORVANE_API int16_t integer_safe_cast_Integer64_Integer16(int64_t x);
+TORVANE_API uint16_t integer_safe_cast_Integer64_UnsignedInteger16(int64_t x);
+TORVANE_API int32_t integer_safe_cast_Integer64_Integer32(int64_t x);
+TORVANE_API uint32_t integer_safe_cast_Integer64_UnsignedInteger32(int64_t x);
+TORVANE_API int64_t integer_safe_cast_Integer64_Integer64(int64_t x);
+TORVANE_API uint64_t integer_safe_cast_Integer64_UnsignedInteger64(int64_t x);
+TORVANE_API int8_t integer_safe_cast_UnsignedInteger64_Integer8(uint64_t x);
+TORVANE_API uint8_t integer_safe_cast_UnsignedInteger64_UnsignedInteger8(uint64_t x);
+TORVANE_API int16_t integer_safe_cast_UnsignedInteger64_Integer16(uint64_t x);
+TORVANE_API uint16_t integer_safe_cast_UnsignedInteger64_UnsignedInteger16(uint64_t x);
+TORVANE_API int32_t integer_safe_cast_UnsignedInteger64_Integer32(uint64_t x);
+TORVANE_API uint32_t integer_safe_cast_UnsignedInteger64_UnsignedInteger32(uint64_t x);
+TORVANE_API int64_t integer_safe_cast_UnsignedInteger64_Integer64(uint64_t x);
+TORVANE_API uint64_t integer_safe_cast_UnsignedInteger64_UnsignedInteger64(uint64_t x);
 
 TORVANE_END_DECLARATIONS
 

@@ -11,6 +11,7 @@
 #include "elementwise.h"
 #include "tolerance.h"
 #include "scalars.h"
+#include "integers.h"
 #include "machfuncs.h"
 
 #endif

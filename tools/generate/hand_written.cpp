@@ -3,6 +3,7 @@
 
 #include <torvane/elementwise.h>
 #include <torvane/failure.h>
+#include <torvane/integers.h>
 #include <torvane/memory.h>
 #include <torvane/operators.h>
 #include <torvane/startup.h>

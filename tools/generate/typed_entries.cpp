@@ -1,4 +1,5 @@
-// The typed entries: for every row, both forms for each of the thirteen types (or all pairs of them).
+// The typed entries: for every row, both forms for each of the thirteen types (or all pairs of them); and
+// the casts between the integer types.
 #include "operators.h"
 
 #include "scalar/operator_traits.h"
@@ -204,6 +205,30 @@ ExportGroup ternaryGroup(const TernaryRow &row) {
   return group;
 }
 
+// ---- casts --------------------------------------------------------------------------------------
+
+bool isIntegerType(const ScalarType &type) {
+  return type.typeClass == TypeClass::signedInteger || type.typeClass == TypeClass::unsignedInteger;
+}
+
+DerivedExport makeCast(const ScalarType &from, const ScalarType &to) {
+  DerivedExport cast;
+  cast.signature = {"casts", "integer_safe_cast_" + from.name + "_" + to.name, to.part, {{from.part, "x"}}};
+  cast.definition = "return evaluateCast<" + from.name + ", " + to.name + ">(x);";
+  return cast;
+}
+
+ExportGroup castGroup() {
+  ExportGroup group = {"casts",
+                       "/* integer_safe_cast_<from>_<to>: x in the second type.\n"
+                       " * Codes: 42 for a value outside that type, or equal to its most negative value. */",
+                       {}};
+  for (const ScalarType &from : kScalarTypes)
+    for (const ScalarType &to : kScalarTypes)
+      if (isIntegerType(from) && isIntegerType(to)) group.exports.push_back(makeCast(from, to));
+  return group;
+}
+
 } // namespace
 
 std::vector<ExportGroup> typedEntries() {
@@ -211,6 +236,7 @@ std::vector<ExportGroup> typedEntries() {
   for (const UnaryRow &row : table::kUnary) groups.push_back(unaryGroup(row));
   for (const BinaryRow &row : table::kBinary) groups.push_back(binaryGroup(row));
   for (const TernaryRow &row : table::kTernary) groups.push_back(ternaryGroup(row));
+  groups.push_back(castGroup());
   return groups;
 }
 
