@@ -127,6 +127,13 @@ TORVANE_API mint machfunc_i_bit_length(void *result, const void *x, mint count, 
 TORVANE_API mint machfunc_d_sqrt(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_c_sqrt(void *result, const void *x, mint count, const mint *strides, mint flags);
 
+/* cbrt: the real cube root. */
+TORVANE_API mint machfunc_d_cbrt(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* rsqrt: 1 / sqrt x. */
+TORVANE_API mint machfunc_d_rsqrt(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_rsqrt(void *result, const void *x, mint count, const mint *strides, mint flags);
+
 /* round: x rounded to the nearest integer, ties to even. */
 TORVANE_API mint machfunc_i_round(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_d_round(void *result, const void *x, mint count, const mint *strides, mint flags);
@@ -159,6 +166,192 @@ TORVANE_API mint machfunc_c_fracpart(void *result, const void *x, mint count, co
 TORVANE_API mint machfunc_i_mod1(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_d_mod1(void *result, const void *x, mint count, const mint *strides, mint flags);
 TORVANE_API mint machfunc_c_mod1(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* exp: e to the power x. */
+TORVANE_API mint machfunc_d_exp(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_exp(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* expm1: e to the power x, less 1. */
+TORVANE_API mint machfunc_d_expm1(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_expm1(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* log: the natural logarithm. */
+TORVANE_API mint machfunc_d_log(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_log(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* log1p: the natural logarithm of 1 + x. */
+TORVANE_API mint machfunc_d_log1p(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_log1p(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* log2: the base-2 logarithm; of an integer, exact. */
+TORVANE_API mint machfunc_i_log2(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_log2(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_log2(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* log10: the base-10 logarithm; of an integer, exact. */
+TORVANE_API mint machfunc_i_log10(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_log10(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_log10(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* sin: the sine. */
+TORVANE_API mint machfunc_d_sin(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_sin(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* cos: the cosine. */
+TORVANE_API mint machfunc_d_cos(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_cos(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* tan: the tangent. */
+TORVANE_API mint machfunc_d_tan(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_tan(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* csc: 1 / sin x. */
+TORVANE_API mint machfunc_d_csc(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_csc(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* sec: 1 / cos x. */
+TORVANE_API mint machfunc_d_sec(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_sec(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* cot: 1 / tan x. */
+TORVANE_API mint machfunc_d_cot(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_cot(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* sinh: the hyperbolic sine. */
+TORVANE_API mint machfunc_d_sinh(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_sinh(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* cosh: the hyperbolic cosine. */
+TORVANE_API mint machfunc_d_cosh(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_cosh(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* tanh: the hyperbolic tangent. */
+TORVANE_API mint machfunc_d_tanh(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_tanh(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* csch: 1 / sinh x. */
+TORVANE_API mint machfunc_d_csch(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_csch(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* sech: 1 / cosh x. */
+TORVANE_API mint machfunc_d_sech(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_sech(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* coth: 1 / tanh x. */
+TORVANE_API mint machfunc_d_coth(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_coth(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* asin: the inverse sine. */
+TORVANE_API mint machfunc_d_asin(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_asin(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* acos: the inverse cosine. */
+TORVANE_API mint machfunc_d_acos(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_acos(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* atan: the inverse tangent. */
+TORVANE_API mint machfunc_d_atan(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_atan(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* acsc: asin(1 / x). */
+TORVANE_API mint machfunc_d_acsc(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_acsc(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* asec: acos(1 / x). */
+TORVANE_API mint machfunc_d_asec(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_asec(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* acot: atan(1 / x); of a real 0, pi / 2. */
+TORVANE_API mint machfunc_d_acot(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_acot(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* asinh: the inverse hyperbolic sine. */
+TORVANE_API mint machfunc_d_asinh(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_asinh(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* acosh: the inverse hyperbolic cosine. */
+TORVANE_API mint machfunc_d_acosh(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_acosh(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* atanh: the inverse hyperbolic tangent. */
+TORVANE_API mint machfunc_d_atanh(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_atanh(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* acsch: asinh(1 / x). */
+TORVANE_API mint machfunc_d_acsch(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_acsch(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* asech: acosh(1 / x). */
+TORVANE_API mint machfunc_d_asech(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_asech(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* acoth: atanh(1 / x). */
+TORVANE_API mint machfunc_d_acoth(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_acoth(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* sinc: sin x / x, and 1 at 0. */
+TORVANE_API mint machfunc_d_sinc(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_sinc(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* fibonacci: the Fibonacci number of index x, continued to reals and complexes. */
+TORVANE_API mint machfunc_i_fibonacci(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+TORVANE_API mint machfunc_d_fibonacci(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+TORVANE_API mint machfunc_c_fibonacci(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+
+/* lucasl: the Lucas number of index x, continued to reals and complexes. */
+TORVANE_API mint machfunc_i_lucasl(void *result, const void *x, mint count, const mint *strides,
+                                   mint flags);
+TORVANE_API mint machfunc_d_lucasl(void *result, const void *x, mint count, const mint *strides,
+                                   mint flags);
+TORVANE_API mint machfunc_c_lucasl(void *result, const void *x, mint count, const mint *strides,
+                                   mint flags);
+
+/* gudermannian: 2 atan(tanh(x / 2)). */
+TORVANE_API mint machfunc_d_gudermannian(void *result, const void *x, mint count, const mint *strides,
+                                         mint flags);
+TORVANE_API mint machfunc_c_gudermannian(void *result, const void *x, mint count, const mint *strides,
+                                         mint flags);
+
+/* inversegudermannian: 2 atanh(tan(x / 2)). */
+TORVANE_API mint machfunc_d_inversegudermannian(void *result, const void *x, mint count,
+                                                const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_inversegudermannian(void *result, const void *x, mint count,
+                                                const mint *strides, mint flags);
+
+/* haversine: the square of sin(x / 2). */
+TORVANE_API mint machfunc_d_haversine(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+TORVANE_API mint machfunc_c_haversine(void *result, const void *x, mint count, const mint *strides,
+                                      mint flags);
+
+/* inversehaversine: 2 asin(sqrt x). */
+TORVANE_API mint machfunc_d_inversehaversine(void *result, const void *x, mint count, const mint *strides,
+                                             mint flags);
+TORVANE_API mint machfunc_c_inversehaversine(void *result, const void *x, mint count, const mint *strides,
+                                             mint flags);
+
+/* erfc: the complementary error function. */
+TORVANE_API mint machfunc_d_erfc(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* erf: the error function. */
+TORVANE_API mint machfunc_d_erf(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* gamma: the gamma function; of an integer, the factorial of x - 1. */
+TORVANE_API mint machfunc_i_gamma(void *result, const void *x, mint count, const mint *strides, mint flags);
+TORVANE_API mint machfunc_d_gamma(void *result, const void *x, mint count, const mint *strides, mint flags);
+
+/* loggamma: the logarithm of the gamma function. */
+TORVANE_API mint machfunc_d_loggamma(void *result, const void *x, mint count, const mint *strides,
+                                     mint flags);
+
+/* logistic: 1 / (1 + e to the power -x). */
+TORVANE_API mint machfunc_d_logistic(void *result, const void *x, mint count, const mint *strides,
+                                     mint flags);
+TORVANE_API mint machfunc_c_logistic(void *result, const void *x, mint count, const mint *strides,
+                                     mint flags);
 
 /* intexp with 10 as second operand. */
 TORVANE_API mint machfunc_i_intexp(void *result, const void *x, mint count, const mint *strides,
@@ -348,6 +541,8 @@ TORVANE_API mint machfunc_di_bitshiftright(void *result, const void *x, const vo
 TORVANE_API mint machfunc_ci_bitshiftright(void *result, const void *x, const void *y, mint count,
                                            const mint *strides, mint flags);
 
+/* root: reserved. */
+
 /* mod: x less y times the floor of x / y. */
 TORVANE_API mint machfunc_ii_mod(void *result, const void *x, const void *y, mint count,
                                  const mint *strides, mint flags);
@@ -377,6 +572,42 @@ TORVANE_API mint machfunc_di_quotient(void *result, const void *x, const void *y
                                       const mint *strides, mint flags);
 TORVANE_API mint machfunc_dd_quotient(void *result, const void *x, const void *y, mint count,
                                       const mint *strides, mint flags);
+
+/* log: the logarithm of y to base x. */
+TORVANE_API mint machfunc_id_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_ic_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_dc_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_log(void *result, const void *x, const void *y, mint count,
+                                 const mint *strides, mint flags);
+
+/* atan2: the two-argument arctangent: for reals atan2 of C, arguments in the same order. */
+TORVANE_API mint machfunc_id_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_ic_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_di_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_dd_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_dc_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_ci_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_cd_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
+TORVANE_API mint machfunc_cc_atan2(void *result, const void *x, const void *y, mint count,
+                                   const mint *strides, mint flags);
 
 /* pow: x to the power y. */
 TORVANE_API mint machfunc_ii_pow(void *result, const void *x, const void *y, mint count,

@@ -770,6 +770,64 @@ TORVANE_API double checked_unary_sqrt_Real64(double x);
 TORVANE_API float *checked_unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im);
 TORVANE_API double *checked_unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im);
 
+/* cbrt: the real cube root.
+ * Codes: integers code 17 - reals no test - complexes code 17. */
+TORVANE_API int8_t unary_cbrt_Integer8(int8_t x);
+TORVANE_API uint8_t unary_cbrt_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_cbrt_Integer16(int16_t x);
+TORVANE_API uint16_t unary_cbrt_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_cbrt_Integer32(int32_t x);
+TORVANE_API uint32_t unary_cbrt_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_cbrt_Integer64(int64_t x);
+TORVANE_API uint64_t unary_cbrt_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_cbrt_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_cbrt_Real32(float x);
+TORVANE_API double unary_cbrt_Real64(double x);
+TORVANE_API float *unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_cbrt_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_cbrt_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_cbrt_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_cbrt_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_cbrt_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_cbrt_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_cbrt_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_cbrt_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_cbrt_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_cbrt_Real32(float x);
+TORVANE_API double checked_unary_cbrt_Real64(double x);
+TORVANE_API float *checked_unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* rsqrt: 1 / sqrt x.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_rsqrt_Integer8(int8_t x);
+TORVANE_API uint8_t unary_rsqrt_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_rsqrt_Integer16(int16_t x);
+TORVANE_API uint16_t unary_rsqrt_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_rsqrt_Integer32(int32_t x);
+TORVANE_API uint32_t unary_rsqrt_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_rsqrt_Integer64(int64_t x);
+TORVANE_API uint64_t unary_rsqrt_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_rsqrt_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_rsqrt_Real32(float x);
+TORVANE_API double unary_rsqrt_Real64(double x);
+TORVANE_API float *unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_rsqrt_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_rsqrt_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_rsqrt_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_rsqrt_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_rsqrt_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_rsqrt_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_rsqrt_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_rsqrt_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_rsqrt_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_rsqrt_Real32(float x);
+TORVANE_API double checked_unary_rsqrt_Real64(double x);
+TORVANE_API float *checked_unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
 /* round: x rounded to the nearest integer, ties to even.
  * Codes: integers no test - reals 1 - complexes code 17. */
 TORVANE_API int8_t unary_round_Integer8(int8_t x);
@@ -943,6 +1001,1230 @@ TORVANE_API float checked_unary_mod1_Real32(float x);
 TORVANE_API double checked_unary_mod1_Real64(double x);
 TORVANE_API float *checked_unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im);
 TORVANE_API double *checked_unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* exp: e to the power x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_exp_Integer8(int8_t x);
+TORVANE_API uint8_t unary_exp_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_exp_Integer16(int16_t x);
+TORVANE_API uint16_t unary_exp_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_exp_Integer32(int32_t x);
+TORVANE_API uint32_t unary_exp_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_exp_Integer64(int64_t x);
+TORVANE_API uint64_t unary_exp_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_exp_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_exp_Real32(float x);
+TORVANE_API double unary_exp_Real64(double x);
+TORVANE_API float *unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_exp_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_exp_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_exp_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_exp_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_exp_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_exp_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_exp_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_exp_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_exp_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_exp_Real32(float x);
+TORVANE_API double checked_unary_exp_Real64(double x);
+TORVANE_API float *checked_unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* expm1: e to the power x, less 1.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_expm1_Integer8(int8_t x);
+TORVANE_API uint8_t unary_expm1_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_expm1_Integer16(int16_t x);
+TORVANE_API uint16_t unary_expm1_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_expm1_Integer32(int32_t x);
+TORVANE_API uint32_t unary_expm1_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_expm1_Integer64(int64_t x);
+TORVANE_API uint64_t unary_expm1_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_expm1_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_expm1_Real32(float x);
+TORVANE_API double unary_expm1_Real64(double x);
+TORVANE_API float *unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_expm1_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_expm1_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_expm1_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_expm1_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_expm1_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_expm1_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_expm1_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_expm1_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_expm1_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_expm1_Real32(float x);
+TORVANE_API double checked_unary_expm1_Real64(double x);
+TORVANE_API float *checked_unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* log: the natural logarithm.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_log_Integer8(int8_t x);
+TORVANE_API uint8_t unary_log_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_log_Integer16(int16_t x);
+TORVANE_API uint16_t unary_log_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_log_Integer32(int32_t x);
+TORVANE_API uint32_t unary_log_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_log_Integer64(int64_t x);
+TORVANE_API uint64_t unary_log_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_log_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_log_Real32(float x);
+TORVANE_API double unary_log_Real64(double x);
+TORVANE_API float *unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_log_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_log_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_log_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_log_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_log_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_log_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_log_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_log_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_log_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_log_Real32(float x);
+TORVANE_API double checked_unary_log_Real64(double x);
+TORVANE_API float *checked_unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* log1p: the natural logarithm of 1 + x.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_log1p_Integer8(int8_t x);
+TORVANE_API uint8_t unary_log1p_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_log1p_Integer16(int16_t x);
+TORVANE_API uint16_t unary_log1p_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_log1p_Integer32(int32_t x);
+TORVANE_API uint32_t unary_log1p_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_log1p_Integer64(int64_t x);
+TORVANE_API uint64_t unary_log1p_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_log1p_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_log1p_Real32(float x);
+TORVANE_API double unary_log1p_Real64(double x);
+TORVANE_API float *unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_log1p_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_log1p_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_log1p_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_log1p_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_log1p_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_log1p_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_log1p_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_log1p_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_log1p_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_log1p_Real32(float x);
+TORVANE_API double checked_unary_log1p_Real64(double x);
+TORVANE_API float *checked_unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* log2: the base-2 logarithm; of an integer, exact.
+ * Codes: integers 3, 14 - reals 14 - complexes 14; checked 6, 9. */
+TORVANE_API int8_t unary_log2_Integer8(int8_t x);
+TORVANE_API uint8_t unary_log2_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_log2_Integer16(int16_t x);
+TORVANE_API uint16_t unary_log2_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_log2_Integer32(int32_t x);
+TORVANE_API uint32_t unary_log2_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_log2_Integer64(int64_t x);
+TORVANE_API uint64_t unary_log2_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_log2_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_log2_Real32(float x);
+TORVANE_API double unary_log2_Real64(double x);
+TORVANE_API float *unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_log2_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_log2_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_log2_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_log2_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_log2_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_log2_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_log2_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_log2_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_log2_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_log2_Real32(float x);
+TORVANE_API double checked_unary_log2_Real64(double x);
+TORVANE_API float *checked_unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* log10: the base-10 logarithm; of an integer, exact.
+ * Codes: integers 3, 14 - reals 14 - complexes 14; checked 6, 9. */
+TORVANE_API int8_t unary_log10_Integer8(int8_t x);
+TORVANE_API uint8_t unary_log10_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_log10_Integer16(int16_t x);
+TORVANE_API uint16_t unary_log10_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_log10_Integer32(int32_t x);
+TORVANE_API uint32_t unary_log10_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_log10_Integer64(int64_t x);
+TORVANE_API uint64_t unary_log10_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_log10_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_log10_Real32(float x);
+TORVANE_API double unary_log10_Real64(double x);
+TORVANE_API float *unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_log10_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_log10_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_log10_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_log10_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_log10_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_log10_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_log10_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_log10_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_log10_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_log10_Real32(float x);
+TORVANE_API double checked_unary_log10_Real64(double x);
+TORVANE_API float *checked_unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* sin: the sine.
+ * Codes: integers code 17 - reals no test - complexes checked 6, 9. */
+TORVANE_API int8_t unary_sin_Integer8(int8_t x);
+TORVANE_API uint8_t unary_sin_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_sin_Integer16(int16_t x);
+TORVANE_API uint16_t unary_sin_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_sin_Integer32(int32_t x);
+TORVANE_API uint32_t unary_sin_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_sin_Integer64(int64_t x);
+TORVANE_API uint64_t unary_sin_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_sin_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_sin_Real32(float x);
+TORVANE_API double unary_sin_Real64(double x);
+TORVANE_API float *unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_sin_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_sin_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_sin_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_sin_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_sin_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_sin_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_sin_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_sin_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_sin_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_sin_Real32(float x);
+TORVANE_API double checked_unary_sin_Real64(double x);
+TORVANE_API float *checked_unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* cos: the cosine.
+ * Codes: integers code 17 - reals no test - complexes checked 6, 9. */
+TORVANE_API int8_t unary_cos_Integer8(int8_t x);
+TORVANE_API uint8_t unary_cos_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_cos_Integer16(int16_t x);
+TORVANE_API uint16_t unary_cos_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_cos_Integer32(int32_t x);
+TORVANE_API uint32_t unary_cos_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_cos_Integer64(int64_t x);
+TORVANE_API uint64_t unary_cos_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_cos_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_cos_Real32(float x);
+TORVANE_API double unary_cos_Real64(double x);
+TORVANE_API float *unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_cos_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_cos_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_cos_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_cos_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_cos_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_cos_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_cos_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_cos_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_cos_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_cos_Real32(float x);
+TORVANE_API double checked_unary_cos_Real64(double x);
+TORVANE_API float *checked_unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* tan: the tangent.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_tan_Integer8(int8_t x);
+TORVANE_API uint8_t unary_tan_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_tan_Integer16(int16_t x);
+TORVANE_API uint16_t unary_tan_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_tan_Integer32(int32_t x);
+TORVANE_API uint32_t unary_tan_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_tan_Integer64(int64_t x);
+TORVANE_API uint64_t unary_tan_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_tan_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_tan_Real32(float x);
+TORVANE_API double unary_tan_Real64(double x);
+TORVANE_API float *unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_tan_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_tan_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_tan_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_tan_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_tan_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_tan_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_tan_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_tan_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_tan_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_tan_Real32(float x);
+TORVANE_API double checked_unary_tan_Real64(double x);
+TORVANE_API float *checked_unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* csc: 1 / sin x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_csc_Integer8(int8_t x);
+TORVANE_API uint8_t unary_csc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_csc_Integer16(int16_t x);
+TORVANE_API uint16_t unary_csc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_csc_Integer32(int32_t x);
+TORVANE_API uint32_t unary_csc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_csc_Integer64(int64_t x);
+TORVANE_API uint64_t unary_csc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_csc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_csc_Real32(float x);
+TORVANE_API double unary_csc_Real64(double x);
+TORVANE_API float *unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_csc_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_csc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_csc_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_csc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_csc_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_csc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_csc_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_csc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_csc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_csc_Real32(float x);
+TORVANE_API double checked_unary_csc_Real64(double x);
+TORVANE_API float *checked_unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* sec: 1 / cos x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_sec_Integer8(int8_t x);
+TORVANE_API uint8_t unary_sec_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_sec_Integer16(int16_t x);
+TORVANE_API uint16_t unary_sec_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_sec_Integer32(int32_t x);
+TORVANE_API uint32_t unary_sec_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_sec_Integer64(int64_t x);
+TORVANE_API uint64_t unary_sec_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_sec_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_sec_Real32(float x);
+TORVANE_API double unary_sec_Real64(double x);
+TORVANE_API float *unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_sec_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_sec_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_sec_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_sec_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_sec_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_sec_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_sec_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_sec_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_sec_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_sec_Real32(float x);
+TORVANE_API double checked_unary_sec_Real64(double x);
+TORVANE_API float *checked_unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* cot: 1 / tan x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_cot_Integer8(int8_t x);
+TORVANE_API uint8_t unary_cot_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_cot_Integer16(int16_t x);
+TORVANE_API uint16_t unary_cot_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_cot_Integer32(int32_t x);
+TORVANE_API uint32_t unary_cot_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_cot_Integer64(int64_t x);
+TORVANE_API uint64_t unary_cot_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_cot_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_cot_Real32(float x);
+TORVANE_API double unary_cot_Real64(double x);
+TORVANE_API float *unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_cot_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_cot_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_cot_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_cot_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_cot_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_cot_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_cot_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_cot_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_cot_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_cot_Real32(float x);
+TORVANE_API double checked_unary_cot_Real64(double x);
+TORVANE_API float *checked_unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* sinh: the hyperbolic sine.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_sinh_Integer8(int8_t x);
+TORVANE_API uint8_t unary_sinh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_sinh_Integer16(int16_t x);
+TORVANE_API uint16_t unary_sinh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_sinh_Integer32(int32_t x);
+TORVANE_API uint32_t unary_sinh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_sinh_Integer64(int64_t x);
+TORVANE_API uint64_t unary_sinh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_sinh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_sinh_Real32(float x);
+TORVANE_API double unary_sinh_Real64(double x);
+TORVANE_API float *unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_sinh_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_sinh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_sinh_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_sinh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_sinh_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_sinh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_sinh_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_sinh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_sinh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_sinh_Real32(float x);
+TORVANE_API double checked_unary_sinh_Real64(double x);
+TORVANE_API float *checked_unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* cosh: the hyperbolic cosine.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_cosh_Integer8(int8_t x);
+TORVANE_API uint8_t unary_cosh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_cosh_Integer16(int16_t x);
+TORVANE_API uint16_t unary_cosh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_cosh_Integer32(int32_t x);
+TORVANE_API uint32_t unary_cosh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_cosh_Integer64(int64_t x);
+TORVANE_API uint64_t unary_cosh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_cosh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_cosh_Real32(float x);
+TORVANE_API double unary_cosh_Real64(double x);
+TORVANE_API float *unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_cosh_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_cosh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_cosh_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_cosh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_cosh_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_cosh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_cosh_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_cosh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_cosh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_cosh_Real32(float x);
+TORVANE_API double checked_unary_cosh_Real64(double x);
+TORVANE_API float *checked_unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* tanh: the hyperbolic tangent.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_tanh_Integer8(int8_t x);
+TORVANE_API uint8_t unary_tanh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_tanh_Integer16(int16_t x);
+TORVANE_API uint16_t unary_tanh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_tanh_Integer32(int32_t x);
+TORVANE_API uint32_t unary_tanh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_tanh_Integer64(int64_t x);
+TORVANE_API uint64_t unary_tanh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_tanh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_tanh_Real32(float x);
+TORVANE_API double unary_tanh_Real64(double x);
+TORVANE_API float *unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_tanh_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_tanh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_tanh_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_tanh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_tanh_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_tanh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_tanh_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_tanh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_tanh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_tanh_Real32(float x);
+TORVANE_API double checked_unary_tanh_Real64(double x);
+TORVANE_API float *checked_unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* csch: 1 / sinh x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_csch_Integer8(int8_t x);
+TORVANE_API uint8_t unary_csch_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_csch_Integer16(int16_t x);
+TORVANE_API uint16_t unary_csch_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_csch_Integer32(int32_t x);
+TORVANE_API uint32_t unary_csch_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_csch_Integer64(int64_t x);
+TORVANE_API uint64_t unary_csch_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_csch_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_csch_Real32(float x);
+TORVANE_API double unary_csch_Real64(double x);
+TORVANE_API float *unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_csch_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_csch_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_csch_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_csch_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_csch_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_csch_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_csch_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_csch_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_csch_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_csch_Real32(float x);
+TORVANE_API double checked_unary_csch_Real64(double x);
+TORVANE_API float *checked_unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* sech: 1 / cosh x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_sech_Integer8(int8_t x);
+TORVANE_API uint8_t unary_sech_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_sech_Integer16(int16_t x);
+TORVANE_API uint16_t unary_sech_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_sech_Integer32(int32_t x);
+TORVANE_API uint32_t unary_sech_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_sech_Integer64(int64_t x);
+TORVANE_API uint64_t unary_sech_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_sech_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_sech_Real32(float x);
+TORVANE_API double unary_sech_Real64(double x);
+TORVANE_API float *unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_sech_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_sech_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_sech_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_sech_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_sech_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_sech_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_sech_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_sech_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_sech_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_sech_Real32(float x);
+TORVANE_API double checked_unary_sech_Real64(double x);
+TORVANE_API float *checked_unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* coth: 1 / tanh x.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_coth_Integer8(int8_t x);
+TORVANE_API uint8_t unary_coth_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_coth_Integer16(int16_t x);
+TORVANE_API uint16_t unary_coth_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_coth_Integer32(int32_t x);
+TORVANE_API uint32_t unary_coth_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_coth_Integer64(int64_t x);
+TORVANE_API uint64_t unary_coth_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_coth_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_coth_Real32(float x);
+TORVANE_API double unary_coth_Real64(double x);
+TORVANE_API float *unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_coth_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_coth_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_coth_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_coth_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_coth_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_coth_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_coth_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_coth_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_coth_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_coth_Real32(float x);
+TORVANE_API double checked_unary_coth_Real64(double x);
+TORVANE_API float *checked_unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* asin: the inverse sine.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_asin_Integer8(int8_t x);
+TORVANE_API uint8_t unary_asin_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_asin_Integer16(int16_t x);
+TORVANE_API uint16_t unary_asin_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_asin_Integer32(int32_t x);
+TORVANE_API uint32_t unary_asin_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_asin_Integer64(int64_t x);
+TORVANE_API uint64_t unary_asin_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_asin_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_asin_Real32(float x);
+TORVANE_API double unary_asin_Real64(double x);
+TORVANE_API float *unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_asin_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_asin_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_asin_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_asin_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_asin_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_asin_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_asin_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_asin_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_asin_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_asin_Real32(float x);
+TORVANE_API double checked_unary_asin_Real64(double x);
+TORVANE_API float *checked_unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* acos: the inverse cosine.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_acos_Integer8(int8_t x);
+TORVANE_API uint8_t unary_acos_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_acos_Integer16(int16_t x);
+TORVANE_API uint16_t unary_acos_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_acos_Integer32(int32_t x);
+TORVANE_API uint32_t unary_acos_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_acos_Integer64(int64_t x);
+TORVANE_API uint64_t unary_acos_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_acos_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_acos_Real32(float x);
+TORVANE_API double unary_acos_Real64(double x);
+TORVANE_API float *unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_acos_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_acos_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_acos_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_acos_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_acos_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_acos_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_acos_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_acos_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_acos_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_acos_Real32(float x);
+TORVANE_API double checked_unary_acos_Real64(double x);
+TORVANE_API float *checked_unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* atan: the inverse tangent.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_atan_Integer8(int8_t x);
+TORVANE_API uint8_t unary_atan_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_atan_Integer16(int16_t x);
+TORVANE_API uint16_t unary_atan_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_atan_Integer32(int32_t x);
+TORVANE_API uint32_t unary_atan_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_atan_Integer64(int64_t x);
+TORVANE_API uint64_t unary_atan_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_atan_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_atan_Real32(float x);
+TORVANE_API double unary_atan_Real64(double x);
+TORVANE_API float *unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_atan_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_atan_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_atan_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_atan_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_atan_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_atan_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_atan_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_atan_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_atan_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_atan_Real32(float x);
+TORVANE_API double checked_unary_atan_Real64(double x);
+TORVANE_API float *checked_unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* acsc: asin(1 / x).
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_acsc_Integer8(int8_t x);
+TORVANE_API uint8_t unary_acsc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_acsc_Integer16(int16_t x);
+TORVANE_API uint16_t unary_acsc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_acsc_Integer32(int32_t x);
+TORVANE_API uint32_t unary_acsc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_acsc_Integer64(int64_t x);
+TORVANE_API uint64_t unary_acsc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_acsc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_acsc_Real32(float x);
+TORVANE_API double unary_acsc_Real64(double x);
+TORVANE_API float *unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_acsc_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_acsc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_acsc_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_acsc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_acsc_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_acsc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_acsc_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_acsc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_acsc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_acsc_Real32(float x);
+TORVANE_API double checked_unary_acsc_Real64(double x);
+TORVANE_API float *checked_unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* asec: acos(1 / x).
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_asec_Integer8(int8_t x);
+TORVANE_API uint8_t unary_asec_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_asec_Integer16(int16_t x);
+TORVANE_API uint16_t unary_asec_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_asec_Integer32(int32_t x);
+TORVANE_API uint32_t unary_asec_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_asec_Integer64(int64_t x);
+TORVANE_API uint64_t unary_asec_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_asec_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_asec_Real32(float x);
+TORVANE_API double unary_asec_Real64(double x);
+TORVANE_API float *unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_asec_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_asec_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_asec_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_asec_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_asec_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_asec_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_asec_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_asec_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_asec_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_asec_Real32(float x);
+TORVANE_API double checked_unary_asec_Real64(double x);
+TORVANE_API float *checked_unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* acot: atan(1 / x); of a real 0, pi / 2.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_acot_Integer8(int8_t x);
+TORVANE_API uint8_t unary_acot_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_acot_Integer16(int16_t x);
+TORVANE_API uint16_t unary_acot_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_acot_Integer32(int32_t x);
+TORVANE_API uint32_t unary_acot_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_acot_Integer64(int64_t x);
+TORVANE_API uint64_t unary_acot_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_acot_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_acot_Real32(float x);
+TORVANE_API double unary_acot_Real64(double x);
+TORVANE_API float *unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_acot_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_acot_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_acot_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_acot_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_acot_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_acot_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_acot_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_acot_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_acot_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_acot_Real32(float x);
+TORVANE_API double checked_unary_acot_Real64(double x);
+TORVANE_API float *checked_unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* asinh: the inverse hyperbolic sine.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_asinh_Integer8(int8_t x);
+TORVANE_API uint8_t unary_asinh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_asinh_Integer16(int16_t x);
+TORVANE_API uint16_t unary_asinh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_asinh_Integer32(int32_t x);
+TORVANE_API uint32_t unary_asinh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_asinh_Integer64(int64_t x);
+TORVANE_API uint64_t unary_asinh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_asinh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_asinh_Real32(float x);
+TORVANE_API double unary_asinh_Real64(double x);
+TORVANE_API float *unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_asinh_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_asinh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_asinh_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_asinh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_asinh_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_asinh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_asinh_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_asinh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_asinh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_asinh_Real32(float x);
+TORVANE_API double checked_unary_asinh_Real64(double x);
+TORVANE_API float *checked_unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* acosh: the inverse hyperbolic cosine.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_acosh_Integer8(int8_t x);
+TORVANE_API uint8_t unary_acosh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_acosh_Integer16(int16_t x);
+TORVANE_API uint16_t unary_acosh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_acosh_Integer32(int32_t x);
+TORVANE_API uint32_t unary_acosh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_acosh_Integer64(int64_t x);
+TORVANE_API uint64_t unary_acosh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_acosh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_acosh_Real32(float x);
+TORVANE_API double unary_acosh_Real64(double x);
+TORVANE_API float *unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_acosh_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_acosh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_acosh_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_acosh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_acosh_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_acosh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_acosh_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_acosh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_acosh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_acosh_Real32(float x);
+TORVANE_API double checked_unary_acosh_Real64(double x);
+TORVANE_API float *checked_unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* atanh: the inverse hyperbolic tangent.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_atanh_Integer8(int8_t x);
+TORVANE_API uint8_t unary_atanh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_atanh_Integer16(int16_t x);
+TORVANE_API uint16_t unary_atanh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_atanh_Integer32(int32_t x);
+TORVANE_API uint32_t unary_atanh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_atanh_Integer64(int64_t x);
+TORVANE_API uint64_t unary_atanh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_atanh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_atanh_Real32(float x);
+TORVANE_API double unary_atanh_Real64(double x);
+TORVANE_API float *unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_atanh_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_atanh_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_atanh_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_atanh_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_atanh_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_atanh_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_atanh_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_atanh_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_atanh_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_atanh_Real32(float x);
+TORVANE_API double checked_unary_atanh_Real64(double x);
+TORVANE_API float *checked_unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* acsch: asinh(1 / x).
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_acsch_Integer8(int8_t x);
+TORVANE_API uint8_t unary_acsch_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_acsch_Integer16(int16_t x);
+TORVANE_API uint16_t unary_acsch_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_acsch_Integer32(int32_t x);
+TORVANE_API uint32_t unary_acsch_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_acsch_Integer64(int64_t x);
+TORVANE_API uint64_t unary_acsch_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_acsch_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_acsch_Real32(float x);
+TORVANE_API double unary_acsch_Real64(double x);
+TORVANE_API float *unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_acsch_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_acsch_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_acsch_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_acsch_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_acsch_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_acsch_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_acsch_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_acsch_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_acsch_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_acsch_Real32(float x);
+TORVANE_API double checked_unary_acsch_Real64(double x);
+TORVANE_API float *checked_unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* asech: acosh(1 / x).
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_asech_Integer8(int8_t x);
+TORVANE_API uint8_t unary_asech_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_asech_Integer16(int16_t x);
+TORVANE_API uint16_t unary_asech_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_asech_Integer32(int32_t x);
+TORVANE_API uint32_t unary_asech_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_asech_Integer64(int64_t x);
+TORVANE_API uint64_t unary_asech_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_asech_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_asech_Real32(float x);
+TORVANE_API double unary_asech_Real64(double x);
+TORVANE_API float *unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_asech_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_asech_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_asech_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_asech_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_asech_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_asech_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_asech_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_asech_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_asech_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_asech_Real32(float x);
+TORVANE_API double checked_unary_asech_Real64(double x);
+TORVANE_API float *checked_unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* acoth: atanh(1 / x).
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_acoth_Integer8(int8_t x);
+TORVANE_API uint8_t unary_acoth_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_acoth_Integer16(int16_t x);
+TORVANE_API uint16_t unary_acoth_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_acoth_Integer32(int32_t x);
+TORVANE_API uint32_t unary_acoth_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_acoth_Integer64(int64_t x);
+TORVANE_API uint64_t unary_acoth_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_acoth_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_acoth_Real32(float x);
+TORVANE_API double unary_acoth_Real64(double x);
+TORVANE_API float *unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_acoth_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_acoth_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_acoth_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_acoth_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_acoth_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_acoth_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_acoth_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_acoth_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_acoth_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_acoth_Real32(float x);
+TORVANE_API double checked_unary_acoth_Real64(double x);
+TORVANE_API float *checked_unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* sinc: sin x / x, and 1 at 0.
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_sinc_Integer8(int8_t x);
+TORVANE_API uint8_t unary_sinc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_sinc_Integer16(int16_t x);
+TORVANE_API uint16_t unary_sinc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_sinc_Integer32(int32_t x);
+TORVANE_API uint32_t unary_sinc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_sinc_Integer64(int64_t x);
+TORVANE_API uint64_t unary_sinc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_sinc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_sinc_Real32(float x);
+TORVANE_API double unary_sinc_Real64(double x);
+TORVANE_API float *unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_sinc_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_sinc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_sinc_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_sinc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_sinc_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_sinc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_sinc_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_sinc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_sinc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_sinc_Real32(float x);
+TORVANE_API double checked_unary_sinc_Real64(double x);
+TORVANE_API float *checked_unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* fibonacci: the Fibonacci number of index x, continued to reals and complexes.
+ * Codes: integers 1 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_fibonacci_Integer8(int8_t x);
+TORVANE_API uint8_t unary_fibonacci_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_fibonacci_Integer16(int16_t x);
+TORVANE_API uint16_t unary_fibonacci_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_fibonacci_Integer32(int32_t x);
+TORVANE_API uint32_t unary_fibonacci_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_fibonacci_Integer64(int64_t x);
+TORVANE_API uint64_t unary_fibonacci_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_fibonacci_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_fibonacci_Real32(float x);
+TORVANE_API double unary_fibonacci_Real64(double x);
+TORVANE_API float *unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_fibonacci_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_fibonacci_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_fibonacci_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_fibonacci_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_fibonacci_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_fibonacci_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_fibonacci_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_fibonacci_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_fibonacci_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_fibonacci_Real32(float x);
+TORVANE_API double checked_unary_fibonacci_Real64(double x);
+TORVANE_API float *checked_unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* lucasl: the Lucas number of index x, continued to reals and complexes.
+ * Codes: integers 1 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_lucasl_Integer8(int8_t x);
+TORVANE_API uint8_t unary_lucasl_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_lucasl_Integer16(int16_t x);
+TORVANE_API uint16_t unary_lucasl_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_lucasl_Integer32(int32_t x);
+TORVANE_API uint32_t unary_lucasl_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_lucasl_Integer64(int64_t x);
+TORVANE_API uint64_t unary_lucasl_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_lucasl_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_lucasl_Real32(float x);
+TORVANE_API double unary_lucasl_Real64(double x);
+TORVANE_API float *unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_lucasl_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_lucasl_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_lucasl_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_lucasl_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_lucasl_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_lucasl_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_lucasl_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_lucasl_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_lucasl_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_lucasl_Real32(float x);
+TORVANE_API double checked_unary_lucasl_Real64(double x);
+TORVANE_API float *checked_unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* gudermannian: 2 atan(tanh(x / 2)).
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_gudermannian_Integer8(int8_t x);
+TORVANE_API uint8_t unary_gudermannian_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_gudermannian_Integer16(int16_t x);
+TORVANE_API uint16_t unary_gudermannian_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_gudermannian_Integer32(int32_t x);
+TORVANE_API uint32_t unary_gudermannian_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_gudermannian_Integer64(int64_t x);
+TORVANE_API uint64_t unary_gudermannian_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_gudermannian_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_gudermannian_Real32(float x);
+TORVANE_API double unary_gudermannian_Real64(double x);
+TORVANE_API float *unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_gudermannian_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_gudermannian_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_gudermannian_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_gudermannian_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_gudermannian_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_gudermannian_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_gudermannian_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_gudermannian_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_gudermannian_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_gudermannian_Real32(float x);
+TORVANE_API double checked_unary_gudermannian_Real64(double x);
+TORVANE_API float *checked_unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_gudermannian_ComplexReal64(double *re, double *im, double x_re,
+                                                             double x_im);
+
+/* inversegudermannian: 2 atanh(tan(x / 2)).
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_inversegudermannian_Integer8(int8_t x);
+TORVANE_API uint8_t unary_inversegudermannian_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_inversegudermannian_Integer16(int16_t x);
+TORVANE_API uint16_t unary_inversegudermannian_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_inversegudermannian_Integer32(int32_t x);
+TORVANE_API uint32_t unary_inversegudermannian_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_inversegudermannian_Integer64(int64_t x);
+TORVANE_API uint64_t unary_inversegudermannian_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_inversegudermannian_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_inversegudermannian_Real32(float x);
+TORVANE_API double unary_inversegudermannian_Real64(double x);
+TORVANE_API float *unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re,
+                                                            double x_im);
+TORVANE_API int8_t checked_unary_inversegudermannian_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_inversegudermannian_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_inversegudermannian_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_inversegudermannian_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_inversegudermannian_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_inversegudermannian_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_inversegudermannian_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_inversegudermannian_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_inversegudermannian_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_inversegudermannian_Real32(float x);
+TORVANE_API double checked_unary_inversegudermannian_Real64(double x);
+TORVANE_API float *checked_unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re,
+                                                                   float x_im);
+TORVANE_API double *checked_unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re,
+                                                                    double x_im);
+
+/* haversine: the square of sin(x / 2).
+ * Codes: integers code 17 - reals checked 6, 9 - complexes checked 6, 9. */
+TORVANE_API int8_t unary_haversine_Integer8(int8_t x);
+TORVANE_API uint8_t unary_haversine_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_haversine_Integer16(int16_t x);
+TORVANE_API uint16_t unary_haversine_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_haversine_Integer32(int32_t x);
+TORVANE_API uint32_t unary_haversine_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_haversine_Integer64(int64_t x);
+TORVANE_API uint64_t unary_haversine_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_haversine_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_haversine_Real32(float x);
+TORVANE_API double unary_haversine_Real64(double x);
+TORVANE_API float *unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_haversine_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_haversine_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_haversine_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_haversine_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_haversine_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_haversine_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_haversine_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_haversine_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_haversine_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_haversine_Real32(float x);
+TORVANE_API double checked_unary_haversine_Real64(double x);
+TORVANE_API float *checked_unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* inversehaversine: 2 asin(sqrt x).
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t unary_inversehaversine_Integer8(int8_t x);
+TORVANE_API uint8_t unary_inversehaversine_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_inversehaversine_Integer16(int16_t x);
+TORVANE_API uint16_t unary_inversehaversine_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_inversehaversine_Integer32(int32_t x);
+TORVANE_API uint32_t unary_inversehaversine_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_inversehaversine_Integer64(int64_t x);
+TORVANE_API uint64_t unary_inversehaversine_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_inversehaversine_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_inversehaversine_Real32(float x);
+TORVANE_API double unary_inversehaversine_Real64(double x);
+TORVANE_API float *unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_inversehaversine_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_inversehaversine_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_inversehaversine_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_inversehaversine_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_inversehaversine_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_inversehaversine_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_inversehaversine_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_inversehaversine_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_inversehaversine_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_inversehaversine_Real32(float x);
+TORVANE_API double checked_unary_inversehaversine_Real64(double x);
+TORVANE_API float *checked_unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re,
+                                                                float x_im);
+TORVANE_API double *checked_unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re,
+                                                                 double x_im);
+
+/* erfc: the complementary error function.
+ * Codes: integers code 17 - reals no test - complexes code 17. */
+TORVANE_API int8_t unary_erfc_Integer8(int8_t x);
+TORVANE_API uint8_t unary_erfc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_erfc_Integer16(int16_t x);
+TORVANE_API uint16_t unary_erfc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_erfc_Integer32(int32_t x);
+TORVANE_API uint32_t unary_erfc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_erfc_Integer64(int64_t x);
+TORVANE_API uint64_t unary_erfc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_erfc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_erfc_Real32(float x);
+TORVANE_API double unary_erfc_Real64(double x);
+TORVANE_API float *unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_erfc_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_erfc_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_erfc_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_erfc_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_erfc_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_erfc_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_erfc_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_erfc_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_erfc_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_erfc_Real32(float x);
+TORVANE_API double checked_unary_erfc_Real64(double x);
+TORVANE_API float *checked_unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* erf: the error function.
+ * Codes: integers code 17 - reals no test - complexes code 17. */
+TORVANE_API int8_t unary_erf_Integer8(int8_t x);
+TORVANE_API uint8_t unary_erf_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_erf_Integer16(int16_t x);
+TORVANE_API uint16_t unary_erf_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_erf_Integer32(int32_t x);
+TORVANE_API uint32_t unary_erf_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_erf_Integer64(int64_t x);
+TORVANE_API uint64_t unary_erf_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_erf_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_erf_Real32(float x);
+TORVANE_API double unary_erf_Real64(double x);
+TORVANE_API float *unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_erf_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_erf_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_erf_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_erf_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_erf_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_erf_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_erf_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_erf_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_erf_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_erf_Real32(float x);
+TORVANE_API double checked_unary_erf_Real64(double x);
+TORVANE_API float *checked_unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* gamma: the gamma function; of an integer, the factorial of x - 1.
+ * Codes: integers 1 - reals checked 6, 9 - complexes code 17. */
+TORVANE_API int8_t unary_gamma_Integer8(int8_t x);
+TORVANE_API uint8_t unary_gamma_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_gamma_Integer16(int16_t x);
+TORVANE_API uint16_t unary_gamma_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_gamma_Integer32(int32_t x);
+TORVANE_API uint32_t unary_gamma_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_gamma_Integer64(int64_t x);
+TORVANE_API uint64_t unary_gamma_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_gamma_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_gamma_Real32(float x);
+TORVANE_API double unary_gamma_Real64(double x);
+TORVANE_API float *unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_gamma_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_gamma_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_gamma_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_gamma_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_gamma_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_gamma_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_gamma_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_gamma_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_gamma_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_gamma_Real32(float x);
+TORVANE_API double checked_unary_gamma_Real64(double x);
+TORVANE_API float *checked_unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* loggamma: the logarithm of the gamma function.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes code 17. */
+TORVANE_API int8_t unary_loggamma_Integer8(int8_t x);
+TORVANE_API uint8_t unary_loggamma_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_loggamma_Integer16(int16_t x);
+TORVANE_API uint16_t unary_loggamma_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_loggamma_Integer32(int32_t x);
+TORVANE_API uint32_t unary_loggamma_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_loggamma_Integer64(int64_t x);
+TORVANE_API uint64_t unary_loggamma_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_loggamma_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_loggamma_Real32(float x);
+TORVANE_API double unary_loggamma_Real64(double x);
+TORVANE_API float *unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_loggamma_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_loggamma_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_loggamma_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_loggamma_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_loggamma_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_loggamma_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_loggamma_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_loggamma_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_loggamma_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_loggamma_Real32(float x);
+TORVANE_API double checked_unary_loggamma_Real64(double x);
+TORVANE_API float *checked_unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im);
+
+/* logistic: 1 / (1 + e to the power -x).
+ * Codes: integers code 17 - reals checked 6, 9 - complexes 16; checked 6, 9. */
+TORVANE_API int8_t unary_logistic_Integer8(int8_t x);
+TORVANE_API uint8_t unary_logistic_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t unary_logistic_Integer16(int16_t x);
+TORVANE_API uint16_t unary_logistic_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t unary_logistic_Integer32(int32_t x);
+TORVANE_API uint32_t unary_logistic_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t unary_logistic_Integer64(int64_t x);
+TORVANE_API uint64_t unary_logistic_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *unary_logistic_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float unary_logistic_Real32(float x);
+TORVANE_API double unary_logistic_Real64(double x);
+TORVANE_API float *unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im);
+TORVANE_API int8_t checked_unary_logistic_Integer8(int8_t x);
+TORVANE_API uint8_t checked_unary_logistic_UnsignedInteger8(uint8_t x);
+TORVANE_API int16_t checked_unary_logistic_Integer16(int16_t x);
+TORVANE_API uint16_t checked_unary_logistic_UnsignedInteger16(uint16_t x);
+TORVANE_API int32_t checked_unary_logistic_Integer32(int32_t x);
+TORVANE_API uint32_t checked_unary_logistic_UnsignedInteger32(uint32_t x);
+TORVANE_API int64_t checked_unary_logistic_Integer64(int64_t x);
+TORVANE_API uint64_t checked_unary_logistic_UnsignedInteger64(uint64_t x);
+TORVANE_API uint16_t *checked_unary_logistic_Real16(uint16_t *result, uint16_t x);
+TORVANE_API float checked_unary_logistic_Real32(float x);
+TORVANE_API double checked_unary_logistic_Real64(double x);
+TORVANE_API float *checked_unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im);
+TORVANE_API double *checked_unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im);
 
 /* plus: x + y.
  * Codes: integers checked 1 - reals checked 6, 9 - complexes checked 6, 9. */
@@ -1591,6 +2873,39 @@ TORVANE_API double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(do
                                                                               double x_re, double x_im,
                                                                               double y_re, double y_im);
 
+/* root: reserved.
+ * Codes: integers code 17 - reals code 17 - complexes code 17. */
+TORVANE_API int8_t binary_root_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_root_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_root_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_root_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_root_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_root_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_root_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_root_Real32_Real32(float x, float y);
+TORVANE_API double binary_root_Real64_Real64(double x, double y);
+TORVANE_API float *binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                           float y_re, float y_im);
+TORVANE_API double *binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                            double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_root_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_root_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_root_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_root_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_root_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_root_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_root_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_root_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_root_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                   float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                    double x_im, double y_re, double y_im);
+
 /* mod: x less y times the floor of x / y.
  * Codes: integers 14 - reals 14 - complexes 1, 14, 16; checked 6, 9. */
 TORVANE_API int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y);
@@ -1657,6 +2972,72 @@ TORVANE_API float *checked_binary_quotient_ComplexReal32_ComplexReal32(float *re
 TORVANE_API double *checked_binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                         double x_re, double x_im,
                                                                         double y_re, double y_im);
+
+/* log: the logarithm of y to base x.
+ * Codes: integers code 17 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t binary_log_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_log_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_log_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_log_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_log_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_log_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_log_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_log_Real32_Real32(float x, float y);
+TORVANE_API double binary_log_Real64_Real64(double x, double y);
+TORVANE_API float *binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                          float y_re, float y_im);
+TORVANE_API double *binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                           double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_log_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_log_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_log_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_log_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_log_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_log_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_log_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_log_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_log_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                  float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                   double x_im, double y_re, double y_im);
+
+/* atan2: the two-argument arctangent: for reals atan2 of C, arguments in the same order.
+ * Codes: integers code 17 - reals 14 - complexes 14, 16; checked 6, 9. */
+TORVANE_API int8_t binary_atan2_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t binary_atan2_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t binary_atan2_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t binary_atan2_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t binary_atan2_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t binary_atan2_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t binary_atan2_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float binary_atan2_Real32_Real32(float x, float y);
+TORVANE_API double binary_atan2_Real64_Real64(double x, double y);
+TORVANE_API float *binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                            float y_re, float y_im);
+TORVANE_API double *binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                             double x_im, double y_re, double y_im);
+TORVANE_API int8_t checked_binary_atan2_Integer8_Integer8(int8_t x, int8_t y);
+TORVANE_API uint8_t checked_binary_atan2_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y);
+TORVANE_API int16_t checked_binary_atan2_Integer16_Integer16(int16_t x, int16_t y);
+TORVANE_API uint16_t checked_binary_atan2_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y);
+TORVANE_API int32_t checked_binary_atan2_Integer32_Integer32(int32_t x, int32_t y);
+TORVANE_API uint32_t checked_binary_atan2_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y);
+TORVANE_API int64_t checked_binary_atan2_Integer64_Integer64(int64_t x, int64_t y);
+TORVANE_API uint64_t checked_binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y);
+TORVANE_API uint16_t *checked_binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y);
+TORVANE_API float checked_binary_atan2_Real32_Real32(float x, float y);
+TORVANE_API double checked_binary_atan2_Real64_Real64(double x, double y);
+TORVANE_API float *checked_binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                                    float x_im, float y_re, float y_im);
+TORVANE_API double *checked_binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                     double x_im, double y_re, double y_im);
 
 /* pow: x to the power y.
  * Codes: integers 14; checked 1 - reals 14; checked 6, 9 - complexes 14, 16; checked 6, 9. */

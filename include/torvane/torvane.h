@@ -9,6 +9,7 @@
 #include "tensor.h"
 #include "operators.h"
 #include "elementwise.h"
+#include "tolerance.h"
 #include "scalars.h"
 #include "integers.h"
 #include "machfuncs.h"

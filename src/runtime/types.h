@@ -29,6 +29,7 @@ enum Status : mint {
   kValueFailed = 4,
   kNoMemory = 5,
   kNoSuchService = 6,
+  kWrongArguments = 12,
   kNegativeRank = 401,
   kNegativeExtent = 402,
   kSizeFailed = 403,

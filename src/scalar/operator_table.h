@@ -110,7 +110,7 @@ struct ClassChecks {
 };
 
 struct Accuracy {
-  double real, complex; // error bounds in ulp; complex ones normwise
+  double real, complex; // error bounds in ulp; complex ones normwise; of what, tells docs/accuracy.md
 };
 
 struct UnaryRow {
