@@ -55,11 +55,11 @@ template <class T> void expectLimits(T (*checked)(T, uint8_t)) {
     const T largest = static_cast<T>(kLargestBases<T>.entry[y]);
     for (const int sign : {1, -1}) {
       if (sign < 0 && !isSigned<T>) continue;
-      const T step = static_cast<T>(sign), x = static_cast<T>(step * largest),
-              next = static_cast<T>(x + step);
+      const T step = static_cast<T>(sign), x = static_cast<T>(step * largest);
       EXPECT_EQ(raisedBy([&] { checked(x, uint8_t(y)); }), 0) << +x << "^" << y;
       EXPECT_TRUE(model::hasPower(x, uint64_t(y))) << +x << "^" << y;
       if (largest == std::numeric_limits<T>::max()) continue;
+      const T next = static_cast<T>(x + step);
       EXPECT_EQ(raisedBy([&] { checked(next, uint8_t(y)); }), 1) << +next << "^" << y;
     }
   }
