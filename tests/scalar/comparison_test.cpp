@@ -37,8 +37,10 @@ void expectForms(bool isTested, R expected, Entry plain, Entry checked, T... x) 
 
 #define BOTH(op, T) unary_##op##_##T, checked_unary_##op##_##T
 #define BOTH2(op, T) binary_##op##_##T##_##T, checked_binary_##op##_##T##_##T
-#define FORMS(op, T) {unary_##op##_##T, checked_unary_##op##_##T}
-#define FORMS2(op, T) {binary_##op##_##T##_##T, checked_binary_##op##_##T##_##T}
+#define FORMS(op, T)                                                                                         \
+  { unary_##op##_##T, checked_unary_##op##_##T }
+#define FORMS2(op, T)                                                                                        \
+  { binary_##op##_##T##_##T, checked_binary_##op##_##T##_##T }
 
 // ---- one operand --------------------------------------------------------------------------------
 
@@ -59,8 +61,8 @@ template <class R> void expectWords(std::initializer_list<WordEntry<R>> entries,
 #define REAL_WORDS(T, R)                                                                                     \
   {                                                                                                          \
     {[](R v) { return v > 0; }, FORMS(pos, T)}, {[](R v) { return v < 0; }, FORMS(neg, T)},                  \
-    {[](R v) { return v <= 0; }, FORMS(npos, T)}, {[](R v) { return v >= 0; }, FORMS(nneg, T)},              \
-    {[](R v) { return !(v == 0); }, FORMS(unitize, T)},                                                      \
+        {[](R v) { return v <= 0; }, FORMS(npos, T)}, {[](R v) { return v >= 0; }, FORMS(nneg, T)},          \
+        {[](R v) { return !(v == 0); }, FORMS(unitize, T)},                                                  \
   }
 
 #define REAL_PARTS(T, R)                                                                                     \
@@ -152,7 +154,8 @@ TEST(PartsOfReal16, AreThoseOfThePattern) {
     const auto x = static_cast<uint16_t>(bits);
     const double value = halfValue(x);
     for (const auto minus : {BOTH(minus, Real16)}) ASSERT_EQ(patternOf(minus, x), x ^ 0x8000);
-    for (const auto same : {BOTH(conj, Real16), BOTH(copy, Real16), BOTH(re, Real16)}) ASSERT_EQ(patternOf(same, x), x);
+    for (const auto same : {BOTH(conj, Real16), BOTH(copy, Real16), BOTH(re, Real16)})
+      ASSERT_EQ(patternOf(same, x), x);
     for (const auto none : {BOTH(im, Real16), BOTH(zero, Real16)}) ASSERT_EQ(patternOf(none, x), 0);
     for (const auto one : {BOTH(one, Real16)}) ASSERT_EQ(patternOf(one, x), 0x3C00);
     ASSERT_EQ(patternOf(unary_abs_Real16, x), x & 0x7FFF);
@@ -175,7 +178,8 @@ TEST(PartsOfReal16, CompareByTheOrderOfPatterns) {
     for (const auto nneg : {BOTH(nneg, Real16)}) ASSERT_EQ(nneg(x), value >= 0) << bits;
     for (const auto unit : {BOTH(unitize, Real16)}) ASSERT_EQ(unit(x), !(value == 0)) << bits;
     // The sign of a NaN is 1, whatever its sign bit.
-    for (const auto sign : {BOTH(sign, Real16)}) ASSERT_EQ(sign(x), value == 0 ? 0 : value < 0 ? -1 : 1) << bits;
+    for (const auto sign : {BOTH(sign, Real16)})
+      ASSERT_EQ(sign(x), value == 0 ? 0 : value < 0 ? -1 : 1) << bits;
     for (const auto ramp : {BOTH(ramp, Real16)}) {
       const uint16_t result = patternOf(ramp, x);
       ASSERT_TRUE(halfValue(result) == (value > 0 ? value : 0)) << bits;
@@ -185,7 +189,8 @@ TEST(PartsOfReal16, CompareByTheOrderOfPatterns) {
 
 TEST(PairsOfReal16, MaxAndMinYieldTheOtherOperandOfANaN) {
   for (uint32_t bits = 0; bits < 65536; bits += 7)
-    for (const uint32_t other : {0u, 0x8000u, 0x3C00u, 0xBC00u, 0x7BFFu, 0x7C00u, 0xFC00u, 0x7E00u, 0xFE01u, 1u, 0x8001u, bits}) {
+    for (const uint32_t other :
+         {0u, 0x8000u, 0x3C00u, 0xBC00u, 0x7BFFu, 0x7C00u, 0xFC00u, 0x7E00u, 0xFE01u, 1u, 0x8001u, bits}) {
       const auto x = static_cast<uint16_t>(bits), y = static_cast<uint16_t>(other);
       const bool takesY = isHalfNaN(x), takesX = !takesY && (isHalfNaN(y) || halfValue(x) == halfValue(y));
       for (const auto max : {BOTH2(max, Real16)}) {
@@ -230,7 +235,8 @@ TEST(PartsOfComplexes, AreTestedInOrder) {
         part[second] = bad[!isNaNFirst];
         part[first] = bad[isNaNFirst];
         EXPECT_EQ(raisedBy([&] {
-                    checked_binary_fpexception_ComplexReal64_ComplexReal64(part[0], part[1], part[2], part[3]);
+                    checked_binary_fpexception_ComplexReal64_ComplexReal64(part[0], part[1], part[2],
+                                                                           part[3]);
                   }),
                   isNaNFirst ? 9 : 6);
         EXPECT_EQ(binary_fpexception_ComplexReal64_ComplexReal64(part[0], part[1], part[2], part[3]), 0);

@@ -59,19 +59,22 @@ template <class X, class Y> void expectPower(X x, Y y) {
   compute<binary::pow, Checked>(checked, x, y);
   ASSERT_EQ(static_cast<mint>(plain), domain) << a << "^" << b;
   ASSERT_EQ(static_cast<mint>(checked), domain != 0 ? domain : finite) << a << "^" << b;
-  if (domain == 0) ASSERT_TRUE(sameReal(valueOf(value), power)) << a << "^" << b << " gave " << valueOf(value);
+  if (domain == 0)
+    ASSERT_TRUE(sameReal(valueOf(value), power)) << a << "^" << b << " gave " << valueOf(value);
 }
 
 template <class T> std::vector<T> sampleOf() {
   std::vector<T> values;
   if constexpr (isHalf<T>) {
-    for (const uint32_t bits : {0u, 0x8000u, 1u, 0x3C00u, 0xBC00u, 0x4000u, 0xC200u, 0x3800u, 0xB800u, 0x3E00u, 0x7BFFu, 0x7C00u, 0xFC00u, 0x7E00u, 0x5640u})
+    for (const uint32_t bits : {0u, 0x8000u, 1u, 0x3C00u, 0xBC00u, 0x4000u, 0xC200u, 0x3800u, 0xB800u,
+                                0x3E00u, 0x7BFFu, 0x7C00u, 0xFC00u, 0x7E00u, 0x5640u})
       values.push_back({static_cast<uint16_t>(bits)});
   } else if constexpr (isReal<T>) {
     values = specialReals<T>();
     for (const double x : {0.1, -0.1, 7.25, -7.0, 100.0, 1e-3}) values.push_back(static_cast<T>(x));
   } else {
-    for (const int x : {-128, -100, -3, -2, -1, 0, 1, 2, 3, 10, 100, 127, 200}) values.push_back(static_cast<T>(x));
+    for (const int x : {-128, -100, -3, -2, -1, 0, 1, 2, 3, 10, 100, 127, 200})
+      values.push_back(static_cast<T>(x));
     values.push_back(kReserved<T>);
   }
   return values;
@@ -82,8 +85,8 @@ template <class X, class Y> void expectPowers() {
 }
 template <class X, class... Y> void expectRowOf() { (expectPowers<X, Y>(), ...); }
 template <class R> void expectRealBase() {
-  expectRowOf<R, Integer8, UnsignedInteger8, Integer16, UnsignedInteger16, Integer32, UnsignedInteger32, Integer64,
-              UnsignedInteger64, Real16, Real32, Real64>();
+  expectRowOf<R, Integer8, UnsignedInteger8, Integer16, UnsignedInteger16, Integer32, UnsignedInteger32,
+              Integer64, UnsignedInteger64, Real16, Real32, Real64>();
 }
 
 TEST(RealPower, IsTheLibrarysNarrowedForEveryPairOfTypes) {
@@ -136,7 +139,8 @@ template <class E> void expectGaussianPowers() {
           re = next;
         }
         error code = error::none;
-        const auto z = compute<binary::pow, Plain>(code, ComplexReal64{double(a), double(b)}, static_cast<E>(n));
+        const auto z =
+            compute<binary::pow, Plain>(code, ComplexReal64{double(a), double(b)}, static_cast<E>(n));
         const bool isRefused = a == 0 && b == 0 && n == 0;
         ASSERT_EQ(static_cast<mint>(code), isRefused ? 14 : 0);
         if (!isRefused) ASSERT_TRUE(z.re == double(re) && z.im == double(im)) << a << " " << b << " ^" << n;
@@ -188,14 +192,16 @@ template <class R> void expectAccuracy(R (*pow)(R, R)) {
   double worst = 0;
   R worstX = 0, worstY = 0;
   for (size_t k = 1; k < values.size(); ++k) {
-    const R a = std::fabs(values[k]), b = std::fmod(values[k - 1], R(1)) * R(std::fabs(std::log(double(a))) < 1 ? 50 : 1);
+    const R a = std::fabs(values[k]),
+            b = std::fmod(values[k - 1], R(1)) * R(std::fabs(std::log(double(a))) < 1 ? 50 : 1);
     mpfr_set_d(x, a, MPFR_RNDN);
     mpfr_set_d(y, b, MPFR_RNDN);
     mpfr_pow(exact, x, y, MPFR_RNDN);
     const R result = pow(a, b);
     if (!std::isnormal(result)) continue;
     mpfr_sub_d(error, exact, result, MPFR_RNDN);
-    const double ulps = std::fabs(mpfr_get_d(error, MPFR_RNDN)) / std::ldexp(1.0, std::ilogb(result) + 1 - digits);
+    const double ulps =
+        std::fabs(mpfr_get_d(error, MPFR_RNDN)) / std::ldexp(1.0, std::ilogb(result) + 1 - digits);
     if (ulps > worst) worst = ulps, worstX = a, worstY = b;
   }
   mpfr_clears(x, y, exact, error, static_cast<mpfr_ptr>(nullptr));
