@@ -18,13 +18,17 @@ namespace {
 template <class From, class To> int expectCasts(To (*cast)(From), const char *name) {
   int refusals = 0;
   std::vector<From> values = unaryOperands<From>();
-  for (const int64_t edge : {int64_t{std::numeric_limits<To>::min()}, static_cast<int64_t>(std::numeric_limits<To>::max())})
-    for (const int64_t d : {-1, 0, 1}) values.push_back(static_cast<From>(static_cast<uint64_t>(edge) + static_cast<uint64_t>(d)));
+  for (const int64_t edge :
+       {int64_t{std::numeric_limits<To>::min()}, static_cast<int64_t>(std::numeric_limits<To>::max())})
+    for (const int64_t d : {-1, 0, 1})
+      values.push_back(static_cast<From>(static_cast<uint64_t>(edge) + static_cast<uint64_t>(d)));
   for (const From x : values) {
     To result = 0;
     const bool refused = Exact::of(x).template isRefused<To>();
     EXPECT_EQ(raisedBy([&] { result = cast(x); }), refused ? 42 : 0) << name << " " << +x;
-    if (!refused) EXPECT_TRUE(Exact::of(result).template wrapped<uint64_t>() == Exact::of(x).template wrapped<uint64_t>()) << name << " " << +x;
+    if (!refused)
+      EXPECT_TRUE(Exact::of(result).template wrapped<uint64_t>() == Exact::of(x).template wrapped<uint64_t>())
+          << name << " " << +x;
     refusals += refused;
   }
   return refusals;
@@ -93,7 +97,8 @@ TEST(WideInteger, DivisionIsExactNextToMultiples) {
   std::mt19937_64 random(3);
   for (int k = 0; k < 300000; ++k) {
     const uint64_t b = (random() >> (random() % 64)) | 1, q = random() % (UINT64_MAX / b) + 1;
-    for (const uint64_t a : {q * b - 1, q * b, q * b + (b - 1)}) ASSERT_NO_FATAL_FAILURE(expectQuotient(a, b));
+    for (const uint64_t a : {q * b - 1, q * b, q * b + (b - 1)})
+      ASSERT_NO_FATAL_FAILURE(expectQuotient(a, b));
     ASSERT_EQ(__udivdi3(q * b - 1, b), q - 1);
     ASSERT_EQ(__udivdi3(q * b, b), q);
   }

@@ -46,30 +46,41 @@ template <class Result, class... T> void expectOutcome(const Case<T...> &one, T.
 
 template <class T> struct Operators;
 
-#define UNARY(T, op, rule) {#op, model::rule<T>, call<unary_##op##_##T, T>, call<checked_unary_##op##_##T, T>}
+#define UNARY(T, op, rule)                                                                                   \
+  { #op, model::rule < T>, call < unary_##op##_##T, T>, call < checked_unary_##op##_##T, T> }
 #define BINARY(T, op)                                                                                        \
-  {#op, model::op<T>, call<binary_##op##_##T##_##T, T, T>, call<checked_binary_##op##_##T##_##T, T, T>}
+  {                                                                                                          \
+#op, model::op < T>, call < binary_##op##_##T##_##T, T, T>, call < checked_binary_##op##_##T##_##T, T,   \
+        T>                                                                                                   \
+  }
 
 #define OPERATORS(T)                                                                                         \
   template <> struct Operators<T> {                                                                          \
     static constexpr Case<T> ofT[] = {                                                                       \
-        UNARY(T, abs, abs),         UNARY(T, square, square),   UNARY(T, abssquare, abssquare),              \
-        UNARY(T, minus, minus),     UNARY(T, arg, arg),         UNARY(T, bit_not, bit_not),                  \
-        UNARY(T, ramp, ramp),       UNARY(T, round, itself),    UNARY(T, floor, itself),                     \
-        UNARY(T, ceiling, itself),  UNARY(T, intpart, itself),  UNARY(T, conj, itself),                      \
-        UNARY(T, copy, itself),     UNARY(T, re, itself),       UNARY(T, im, zero),                          \
-        UNARY(T, fracpart, zero),   UNARY(T, mod1, zero),       UNARY(T, zero, zero),                        \
+        UNARY(T, abs, abs),        UNARY(T, square, square),  UNARY(T, abssquare, abssquare),                \
+        UNARY(T, minus, minus),    UNARY(T, arg, arg),        UNARY(T, bit_not, bit_not),                    \
+        UNARY(T, ramp, ramp),      UNARY(T, round, itself),   UNARY(T, floor, itself),                       \
+        UNARY(T, ceiling, itself), UNARY(T, intpart, itself), UNARY(T, conj, itself),                        \
+        UNARY(T, copy, itself),    UNARY(T, re, itself),      UNARY(T, im, zero),                            \
+        UNARY(T, fracpart, zero),  UNARY(T, mod1, zero),      UNARY(T, zero, zero),                          \
         UNARY(T, one, one),                                                                                  \
     };                                                                                                       \
     static constexpr Case<T> ofWord[] = {                                                                    \
-        UNARY(T, bit_count, bit_count), UNARY(T, bit_length, bit_length), UNARY(T, evenq, evenq),            \
-        UNARY(T, oddq, oddq),           UNARY(T, pos, pos),               UNARY(T, neg, neg),                \
-        UNARY(T, npos, npos),           UNARY(T, nneg, nneg),             UNARY(T, unitize, unitizeUnary),   \
-        UNARY(T, sign, sign),           UNARY(T, fpexception, zero),                                         \
+        UNARY(T, bit_count, bit_count),                                                                      \
+        UNARY(T, bit_length, bit_length),                                                                    \
+        UNARY(T, evenq, evenq),                                                                              \
+        UNARY(T, oddq, oddq),                                                                                \
+        UNARY(T, pos, pos),                                                                                  \
+        UNARY(T, neg, neg),                                                                                  \
+        UNARY(T, npos, npos),                                                                                \
+        UNARY(T, nneg, nneg),                                                                                \
+        UNARY(T, unitize, unitizeUnary),                                                                     \
+        UNARY(T, sign, sign),                                                                                \
+        UNARY(T, fpexception, zero),                                                                         \
     };                                                                                                       \
     static constexpr Case<T, T> pairsOfT[] = {                                                               \
-        BINARY(T, plus),   BINARY(T, subtract), BINARY(T, times),   BINARY(T, abserr), BINARY(T, bit_and),   \
-        BINARY(T, bit_or), BINARY(T, bit_xor),  BINARY(T, max),     BINARY(T, min),    BINARY(T, maxabs),    \
+        BINARY(T, plus),   BINARY(T, subtract), BINARY(T, times), BINARY(T, abserr), BINARY(T, bit_and),     \
+        BINARY(T, bit_or), BINARY(T, bit_xor),  BINARY(T, max),   BINARY(T, min),    BINARY(T, maxabs),      \
         BINARY(T, intexp), BINARY(T, intlen),   BINARY(T, pow),                                              \
     };                                                                                                       \
     static constexpr Case<T, T> divisions[] = {BINARY(T, mod), BINARY(T, quotient)};                         \
@@ -101,7 +112,8 @@ TYPED_TEST(IntegerOperators, OfTwoOperandsAreTheirModels) {
   const std::vector<T> values = pairOperands<T>();
   for (const T x : values)
     for (const T y : values) {
-      for (const Case<T, T> &one : Operators<T>::pairsOfT) ASSERT_NO_FATAL_FAILURE(expectOutcome<T>(one, x, y));
+      for (const Case<T, T> &one : Operators<T>::pairsOfT)
+        ASSERT_NO_FATAL_FAILURE(expectOutcome<T>(one, x, y));
       ASSERT_NO_FATAL_FAILURE(expectOutcome<mint>(Operators<T>::tolerance, x, y));
     }
 }
@@ -113,7 +125,8 @@ TYPED_TEST(IntegerOperators, RemaindersAndQuotientsAreFloored) {
   for (const T x : values)
     for (const T y : values)
       for (const Case<T, T> &one : Operators<T>::divisions)
-        if (!model::isLowest(x) || y != static_cast<T>(-1)) ASSERT_NO_FATAL_FAILURE(expectOutcome<T>(one, x, y));
+        if (!model::isLowest(x) || y != static_cast<T>(-1))
+          ASSERT_NO_FATAL_FAILURE(expectOutcome<T>(one, x, y));
 }
 
 // Counts within and just beyond the width, besides the values themselves.
@@ -124,9 +137,11 @@ TYPED_TEST(IntegerOperators, ShiftsMoveTheMagnitudeOfSignedTypesOnly) {
   for (const T x : pairOperands<T>())
     for (const T y : counts)
       for (const Case<T, T> &one : Operators<T>::shifts) {
-        if (isSigned<T>) ASSERT_NO_FATAL_FAILURE(expectOutcome<T>(one, x, y));
+        if (isSigned<T>)
+          ASSERT_NO_FATAL_FAILURE(expectOutcome<T>(one, x, y));
         else
-          for (auto entry : {one.plain, one.checked}) ASSERT_EQ(raisedBy([&] { entry(x, y); }), 17) << one.name;
+          for (auto entry : {one.plain, one.checked})
+            ASSERT_EQ(raisedBy([&] { entry(x, y); }), 17) << one.name;
       }
 }
 

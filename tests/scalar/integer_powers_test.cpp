@@ -17,9 +17,7 @@ namespace {
 
 // ---- powers -------------------------------------------------------------------------------------
 
-template <class T, class E> struct PowerEntries {
-  T (*plain)(T, E), (*checked)(T, E);
-};
+template <class T, class E> struct PowerEntries { T (*plain)(T, E), (*checked)(T, E); };
 
 template <class T, class E> void expectPower(const PowerEntries<T, E> &entries, T x, E y) {
   const Outcome expected = model::pow(x, y);
@@ -57,10 +55,11 @@ template <class T> void expectLimits(T (*checked)(T, uint8_t)) {
     const T largest = static_cast<T>(kLargestBases<T>.entry[y]);
     for (const int sign : {1, -1}) {
       if (sign < 0 && !isSigned<T>) continue;
-      const T x = static_cast<T>(sign * largest), next = static_cast<T>(x + sign);
+      const T step = static_cast<T>(sign), x = static_cast<T>(step * largest);
       EXPECT_EQ(raisedBy([&] { checked(x, uint8_t(y)); }), 0) << +x << "^" << y;
       EXPECT_TRUE(model::hasPower(x, uint64_t(y))) << +x << "^" << y;
       if (largest == std::numeric_limits<T>::max()) continue;
+      const T next = static_cast<T>(x + step);
       EXPECT_EQ(raisedBy([&] { checked(next, uint8_t(y)); }), 1) << +next << "^" << y;
     }
   }
@@ -87,8 +86,9 @@ TEST(IntegerPower, KeepsItsStatedEdges) {
 
 // The lengths of shortest addition chains, A003313.
 TEST(PowerChain, IsOfTheShortestLengthForEveryExponent) {
-  const int shortest[] = {0, 1, 2, 2, 3, 3, 4, 3, 4, 4, 5, 4, 5, 5, 5, 4, 5, 5, 6, 5, 6, 6, 6, 5, 6, 6, 6, 6, 7, 6, 7, 5,
-                          6, 6, 7, 6, 7, 7, 7, 6, 7, 7, 7, 7, 7, 7, 8, 6, 7, 7, 7, 7, 8, 7, 8, 7, 8, 8, 8, 7, 8, 8, 8, 6};
+  const int shortest[] = {0, 1, 2, 2, 3, 3, 4, 3, 4, 4, 5, 4, 5, 5, 5, 4, 5, 5, 6, 5, 6, 6,
+                          6, 5, 6, 6, 6, 6, 7, 6, 7, 5, 6, 6, 7, 6, 7, 7, 7, 6, 7, 7, 7, 7,
+                          7, 7, 8, 6, 7, 7, 7, 7, 8, 7, 8, 7, 8, 8, 8, 7, 8, 8, 8, 6};
   for (int n = 1; n <= int{kLongestChain}; ++n) {
     int length = 0;
     for (int k = n; k != 1; k = kPowerTree.parent[k]) ++length;
@@ -148,7 +148,8 @@ TYPED_TEST_SUITE(IntegerFunctions, AllIntegers);
 TYPED_TEST(IntegerFunctions, LogarithmsAreExactOrRefused) {
   using T = TypeParam;
   std::vector<T> values = unaryOperands<T>();
-  for (uint64_t power = 1, k = 0; k < 20 && power <= uint64_t(std::numeric_limits<T>::max()); ++k, power *= 10)
+  for (uint64_t power = 1, k = 0; k < 20 && power <= uint64_t(std::numeric_limits<T>::max());
+       ++k, power *= 10)
     for (const int d : {-1, 0, 1}) values.push_back(static_cast<T>(power + uint64_t(int64_t{d})));
   for (const T x : values) {
     T value = 0;

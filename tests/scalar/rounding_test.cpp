@@ -236,7 +236,8 @@ template <class R, class Mod> void expectGaussian(Mod mod) {
           const int norm = c * c + d * d, re = a * c + b * d, im = b * c - a * d;
           if (norm == 0 || (b == 0 && d == 0)) continue;
           const bool exact = (norm & (norm - 1)) == 0;
-          if (!exact && (2 * re % norm == 0 || 2 * im % norm == 0) && (re % norm != 0 || im % norm != 0)) continue;
+          if (!exact && (2 * re % norm == 0 || 2 * im % norm == 0) && (re % norm != 0 || im % norm != 0))
+            continue;
           const int qr = nearestQuotient(re, norm), qi = nearestQuotient(im, norm);
           R r = 0, i = 0;
           ASSERT_EQ(raisedBy([&] { mod(&r, &i, R(a), R(b), R(c), R(d)); }), 0);

@@ -8,12 +8,14 @@
 #include <vector>
 
 #define TORVANE_FOR_EACH_INTEGER(X)                                                                          \
-  X(Integer8) X(UnsignedInteger8) X(Integer16) X(UnsignedInteger16)                                          \
-  X(Integer32) X(UnsignedInteger32) X(Integer64) X(UnsignedInteger64)
+  X(Integer8)                                                                                                \
+  X(UnsignedInteger8) X(Integer16) X(UnsignedInteger16) X(Integer32) X(UnsignedInteger32) X(Integer64)       \
+      X(UnsignedInteger64)
 // The same with a first argument, for pairs of types.
 #define TORVANE_FOR_EACH_INTEGER_WITH(X, T)                                                                  \
-  X(T, Integer8) X(T, UnsignedInteger8) X(T, Integer16) X(T, UnsignedInteger16)                              \
-  X(T, Integer32) X(T, UnsignedInteger32) X(T, Integer64) X(T, UnsignedInteger64)
+  X(T, Integer8)                                                                                             \
+  X(T, UnsignedInteger8) X(T, Integer16) X(T, UnsignedInteger16) X(T, Integer32) X(T, UnsignedInteger32)     \
+      X(T, Integer64) X(T, UnsignedInteger64)
 
 namespace torvane::test {
 
@@ -36,7 +38,8 @@ template <class T> std::vector<T> boundaryValues(int step, int randomCount) {
       for (const uint64_t sign : {uint64_t{0}, ~uint64_t{0}})
         values.push_back(static_cast<T>((((uint64_t{1} << k) + d) ^ sign) - sign));
   for (const T edge : {std::numeric_limits<T>::min(), std::numeric_limits<T>::max()})
-    values.insert(values.end(), {edge, static_cast<T>(edge / 2), static_cast<T>(edge / 3), static_cast<T>(edge / 10)});
+    values.insert(values.end(),
+                  {edge, static_cast<T>(edge / 2), static_cast<T>(edge / 3), static_cast<T>(edge / 10)});
   std::mt19937_64 random(20261121 + sizeof(T));
   for (int k = 0; k < randomCount; ++k) values.push_back(static_cast<T>(random() >> (random() % 64)));
   return values;

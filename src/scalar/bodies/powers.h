@@ -12,8 +12,8 @@ namespace torvane {
 
 // A negative base has a real power for an integer exponent only; infinite exponents count as integers.
 template <class R> R realPower(error &code, Real64 x, Real64 y) {
-  if (x < 0 && y != __builtin_floor(y)) {
-    if (y == y) code = error::domain;
+  if (x < 0 && __builtin_floor(y) < y) {
+    code = error::domain;
     return R(0);
   }
   return R(__builtin_pow(x, y));
