@@ -136,18 +136,17 @@ struct RulesByNumber {
   NumberedUnary unary[kUnaryNumbers];
   NumberedPair pairs[kBinaryNumbers];
 
+  // Operators without a number carry 0. Before the constructor: Clang evaluates no template that comes later.
+  template <class Row> constexpr void enter(const Row &row) {
+    if (row.number != 0) unary[row.number] = {true, {row.group, row.range}};
+  }
+
   constexpr RulesByNumber() {
     for (const auto &row : table::kUnary) enter(row);
     for (const auto &row : table::kAliases) enter(row);
     for (const auto &row : table::kBound) enter(row);
     for (const BinaryRow &row : table::kBinary)
       if (row.number != 0) pairs[row.number - kFirstBinary] = {true, row.rule};
-  }
-
-private:
-  // Operators without a number carry 0.
-  template <class Row> constexpr void enter(const Row &row) {
-    if (row.number != 0) unary[row.number] = {true, {row.group, row.range}};
   }
 };
 constexpr RulesByNumber kRules;

@@ -45,7 +45,7 @@ std::map<std::string, std::vector<std::string>> pageRows() {
     std::istringstream parts(line.substr(2));
     for (std::string word, cell; parts >> word;) {
       if (word != "|") {
-        cell += (cell.empty() ? "" : " ") + word;
+        cell.append(cell.empty() ? "" : " ").append(word);
       } else {
         cells.push_back(cell);
         cell.clear();

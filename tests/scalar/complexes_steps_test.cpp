@@ -354,6 +354,8 @@ TEST(ComplexLogarithms, TakeTheUpperSideOfTheNegativeAxis) {
   for (const double zero : kZeros) {
     expectEqual(complexes::log, {-1, zero}, {0, kPi});
     expectEqual(complexes::log2, {-2, zero}, {1, 4.532360141827194});
+    expectEqual(complexes::log2, {-0x1p29, zero}, {29, 4.532360141827194}); // log x / log 2 is 1 ulp off
+    expectEqual(complexes::log10, {-1000, zero}, {3, 1.3643763538418414});
     expectEqual(complexes::log10, {-100, zero}, {2, 1.3643763538418414});
     expectEqual(complexes::log1p, {-3, zero}, {0.6931471805599453, kPi});
     expectEqual(complexes::log, {-kInfinity, zero}, {kInfinity, kPi});
@@ -454,7 +456,19 @@ TEST(ComplexInverses, BothSignsOfAZeroPartFallOnOneSideOfTheCut) {
     expectNear(complexes::asinh, {zero, -2}, {-acosh2, -kPi / 2});
     expectNear(complexes::asinh, {zero, 0.5}, {0, std::asin(0.5)});
     expectNear(complexes::atan, {zero, 0.5}, {0, acoth2});
+    for (const double y : {1e3, 1e5, 1e7}) { // no cancellation on either half of the imaginary axis
+      expectNear(complexes::asinh, {zero, y}, {std::acosh(y), kPi / 2});
+      expectNear(complexes::asinh, {zero, -y}, {-std::acosh(y), -kPi / 2});
+    }
   }
+}
+
+TEST(ComplexInverses, RealResultsAreExactlyReal) {
+  for (double x = -1; x < 1; x += 0x1p-7) EXPECT_EQ(at(complexes::acosh, x, 0).value.re, 0) << x;
+  for (const double zero : kZeros)
+    for (const double x : {-3.0, -0.25, 0.25, 3.0})
+      EXPECT_TRUE(sameReal(at(complexes::asinh, x, zero).value.im, 0.0))
+          << x; // + 0, whatever the sign of zero
 }
 
 TEST(ComplexInverses, HugeArgumentsAreTheirLogarithmPlusLnTwo) {
