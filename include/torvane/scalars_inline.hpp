@@ -11,11 +11,18 @@
 #include "detail/scalar/bodies/bits.h"
 #include "detail/scalar/bodies/roots.h"
 #include "detail/scalar/bodies/rounding.h"
+#include "detail/scalar/bodies/exponential.h"
+#include "detail/scalar/bodies/circular.h"
+#include "detail/scalar/bodies/inverse.h"
+#include "detail/scalar/bodies/special.h"
 #include "detail/scalar/bodies/arithmetic.h"
 #include "detail/scalar/bodies/parts.h"
 #include "detail/scalar/bodies/comparison.h"
 #include "detail/scalar/bodies/bits.h"
+#include "detail/scalar/bodies/roots.h"
 #include "detail/scalar/bodies/rounding.h"
+#include "detail/scalar/bodies/exponential.h"
+#include "detail/scalar/bodies/inverse.h"
 #include "detail/scalar/bodies/powers.h"
 #include "detail/scalar/bodies/arithmetic.h"
 #include "detail/scalar/bodies/casts.h"
@@ -2050,6 +2057,162 @@ inline float *checked_unary_sqrt_ComplexReal32(float *re, float *im, float x_re,
 inline double *checked_unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
   return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal64{x_re, x_im}));
 }
+inline int8_t unary_cbrt_Integer8(int8_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline uint8_t unary_cbrt_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline int16_t unary_cbrt_Integer16(int16_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline uint16_t unary_cbrt_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline int32_t unary_cbrt_Integer32(int32_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline uint32_t unary_cbrt_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline int64_t unary_cbrt_Integer64(int64_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline uint64_t unary_cbrt_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline uint16_t *unary_cbrt_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cbrt, Plain>(Real16{x}));
+}
+inline float unary_cbrt_Real32(float x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline double unary_cbrt_Real64(double x) {
+  return evaluate<unary::cbrt, Plain>(x);
+}
+inline float *unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cbrt, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cbrt, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_cbrt_Integer8(int8_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline uint8_t checked_unary_cbrt_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline int16_t checked_unary_cbrt_Integer16(int16_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline uint16_t checked_unary_cbrt_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline int32_t checked_unary_cbrt_Integer32(int32_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline uint32_t checked_unary_cbrt_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline int64_t checked_unary_cbrt_Integer64(int64_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline uint64_t checked_unary_cbrt_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline uint16_t *checked_unary_cbrt_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cbrt, Checked>(Real16{x}));
+}
+inline float checked_unary_cbrt_Real32(float x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline double checked_unary_cbrt_Real64(double x) {
+  return evaluate<unary::cbrt, Checked>(x);
+}
+inline float *checked_unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cbrt, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cbrt, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_rsqrt_Integer8(int8_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline uint8_t unary_rsqrt_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline int16_t unary_rsqrt_Integer16(int16_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline uint16_t unary_rsqrt_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline int32_t unary_rsqrt_Integer32(int32_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline uint32_t unary_rsqrt_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline int64_t unary_rsqrt_Integer64(int64_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline uint64_t unary_rsqrt_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline uint16_t *unary_rsqrt_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::rsqrt, Plain>(Real16{x}));
+}
+inline float unary_rsqrt_Real32(float x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline double unary_rsqrt_Real64(double x) {
+  return evaluate<unary::rsqrt, Plain>(x);
+}
+inline float *unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::rsqrt, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::rsqrt, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_rsqrt_Integer8(int8_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline uint8_t checked_unary_rsqrt_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline int16_t checked_unary_rsqrt_Integer16(int16_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline uint16_t checked_unary_rsqrt_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline int32_t checked_unary_rsqrt_Integer32(int32_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline uint32_t checked_unary_rsqrt_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline int64_t checked_unary_rsqrt_Integer64(int64_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline uint64_t checked_unary_rsqrt_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline uint16_t *checked_unary_rsqrt_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::rsqrt, Checked>(Real16{x}));
+}
+inline float checked_unary_rsqrt_Real32(float x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline double checked_unary_rsqrt_Real64(double x) {
+  return evaluate<unary::rsqrt, Checked>(x);
+}
+inline float *checked_unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::rsqrt, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::rsqrt, Checked>(ComplexReal64{x_re, x_im}));
+}
 inline int8_t unary_round_Integer8(int8_t x) {
   return evaluate<unary::round, Plain>(x);
 }
@@ -2517,6 +2680,3284 @@ inline float *checked_unary_mod1_ComplexReal32(float *re, float *im, float x_re,
 }
 inline double *checked_unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
   return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_exp_Integer8(int8_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline uint8_t unary_exp_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline int16_t unary_exp_Integer16(int16_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline uint16_t unary_exp_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline int32_t unary_exp_Integer32(int32_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline uint32_t unary_exp_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline int64_t unary_exp_Integer64(int64_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline uint64_t unary_exp_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline uint16_t *unary_exp_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::exp, Plain>(Real16{x}));
+}
+inline float unary_exp_Real32(float x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline double unary_exp_Real64(double x) {
+  return evaluate<unary::exp, Plain>(x);
+}
+inline float *unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::exp, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::exp, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_exp_Integer8(int8_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline uint8_t checked_unary_exp_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline int16_t checked_unary_exp_Integer16(int16_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline uint16_t checked_unary_exp_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline int32_t checked_unary_exp_Integer32(int32_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline uint32_t checked_unary_exp_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline int64_t checked_unary_exp_Integer64(int64_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline uint64_t checked_unary_exp_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline uint16_t *checked_unary_exp_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::exp, Checked>(Real16{x}));
+}
+inline float checked_unary_exp_Real32(float x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline double checked_unary_exp_Real64(double x) {
+  return evaluate<unary::exp, Checked>(x);
+}
+inline float *checked_unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::exp, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::exp, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_expm1_Integer8(int8_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline uint8_t unary_expm1_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline int16_t unary_expm1_Integer16(int16_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline uint16_t unary_expm1_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline int32_t unary_expm1_Integer32(int32_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline uint32_t unary_expm1_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline int64_t unary_expm1_Integer64(int64_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline uint64_t unary_expm1_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline uint16_t *unary_expm1_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::expm1, Plain>(Real16{x}));
+}
+inline float unary_expm1_Real32(float x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline double unary_expm1_Real64(double x) {
+  return evaluate<unary::expm1, Plain>(x);
+}
+inline float *unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::expm1, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::expm1, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_expm1_Integer8(int8_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline uint8_t checked_unary_expm1_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline int16_t checked_unary_expm1_Integer16(int16_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline uint16_t checked_unary_expm1_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline int32_t checked_unary_expm1_Integer32(int32_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline uint32_t checked_unary_expm1_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline int64_t checked_unary_expm1_Integer64(int64_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline uint64_t checked_unary_expm1_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline uint16_t *checked_unary_expm1_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::expm1, Checked>(Real16{x}));
+}
+inline float checked_unary_expm1_Real32(float x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline double checked_unary_expm1_Real64(double x) {
+  return evaluate<unary::expm1, Checked>(x);
+}
+inline float *checked_unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::expm1, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::expm1, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_log_Integer8(int8_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline uint8_t unary_log_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline int16_t unary_log_Integer16(int16_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline uint16_t unary_log_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline int32_t unary_log_Integer32(int32_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline uint32_t unary_log_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline int64_t unary_log_Integer64(int64_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline uint64_t unary_log_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline uint16_t *unary_log_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log, Plain>(Real16{x}));
+}
+inline float unary_log_Real32(float x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline double unary_log_Real64(double x) {
+  return evaluate<unary::log, Plain>(x);
+}
+inline float *unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_log_Integer8(int8_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline uint8_t checked_unary_log_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline int16_t checked_unary_log_Integer16(int16_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline uint16_t checked_unary_log_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline int32_t checked_unary_log_Integer32(int32_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline uint32_t checked_unary_log_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline int64_t checked_unary_log_Integer64(int64_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline uint64_t checked_unary_log_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline uint16_t *checked_unary_log_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log, Checked>(Real16{x}));
+}
+inline float checked_unary_log_Real32(float x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline double checked_unary_log_Real64(double x) {
+  return evaluate<unary::log, Checked>(x);
+}
+inline float *checked_unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_log1p_Integer8(int8_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline uint8_t unary_log1p_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline int16_t unary_log1p_Integer16(int16_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline uint16_t unary_log1p_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline int32_t unary_log1p_Integer32(int32_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline uint32_t unary_log1p_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline int64_t unary_log1p_Integer64(int64_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline uint64_t unary_log1p_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline uint16_t *unary_log1p_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log1p, Plain>(Real16{x}));
+}
+inline float unary_log1p_Real32(float x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline double unary_log1p_Real64(double x) {
+  return evaluate<unary::log1p, Plain>(x);
+}
+inline float *unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log1p, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log1p, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_log1p_Integer8(int8_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline uint8_t checked_unary_log1p_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline int16_t checked_unary_log1p_Integer16(int16_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline uint16_t checked_unary_log1p_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline int32_t checked_unary_log1p_Integer32(int32_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline uint32_t checked_unary_log1p_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline int64_t checked_unary_log1p_Integer64(int64_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline uint64_t checked_unary_log1p_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline uint16_t *checked_unary_log1p_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log1p, Checked>(Real16{x}));
+}
+inline float checked_unary_log1p_Real32(float x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline double checked_unary_log1p_Real64(double x) {
+  return evaluate<unary::log1p, Checked>(x);
+}
+inline float *checked_unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log1p, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log1p, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_log2_Integer8(int8_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline uint8_t unary_log2_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline int16_t unary_log2_Integer16(int16_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline uint16_t unary_log2_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline int32_t unary_log2_Integer32(int32_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline uint32_t unary_log2_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline int64_t unary_log2_Integer64(int64_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline uint64_t unary_log2_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline uint16_t *unary_log2_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log2, Plain>(Real16{x}));
+}
+inline float unary_log2_Real32(float x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline double unary_log2_Real64(double x) {
+  return evaluate<unary::log2, Plain>(x);
+}
+inline float *unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log2, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log2, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_log2_Integer8(int8_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline uint8_t checked_unary_log2_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline int16_t checked_unary_log2_Integer16(int16_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline uint16_t checked_unary_log2_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline int32_t checked_unary_log2_Integer32(int32_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline uint32_t checked_unary_log2_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline int64_t checked_unary_log2_Integer64(int64_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline uint64_t checked_unary_log2_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline uint16_t *checked_unary_log2_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log2, Checked>(Real16{x}));
+}
+inline float checked_unary_log2_Real32(float x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline double checked_unary_log2_Real64(double x) {
+  return evaluate<unary::log2, Checked>(x);
+}
+inline float *checked_unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log2, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log2, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_log10_Integer8(int8_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline uint8_t unary_log10_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline int16_t unary_log10_Integer16(int16_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline uint16_t unary_log10_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline int32_t unary_log10_Integer32(int32_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline uint32_t unary_log10_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline int64_t unary_log10_Integer64(int64_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline uint64_t unary_log10_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline uint16_t *unary_log10_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log10, Plain>(Real16{x}));
+}
+inline float unary_log10_Real32(float x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline double unary_log10_Real64(double x) {
+  return evaluate<unary::log10, Plain>(x);
+}
+inline float *unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log10, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log10, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_log10_Integer8(int8_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline uint8_t checked_unary_log10_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline int16_t checked_unary_log10_Integer16(int16_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline uint16_t checked_unary_log10_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline int32_t checked_unary_log10_Integer32(int32_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline uint32_t checked_unary_log10_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline int64_t checked_unary_log10_Integer64(int64_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline uint64_t checked_unary_log10_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline uint16_t *checked_unary_log10_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::log10, Checked>(Real16{x}));
+}
+inline float checked_unary_log10_Real32(float x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline double checked_unary_log10_Real64(double x) {
+  return evaluate<unary::log10, Checked>(x);
+}
+inline float *checked_unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::log10, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::log10, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_sin_Integer8(int8_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline uint8_t unary_sin_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline int16_t unary_sin_Integer16(int16_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline uint16_t unary_sin_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline int32_t unary_sin_Integer32(int32_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline uint32_t unary_sin_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline int64_t unary_sin_Integer64(int64_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline uint64_t unary_sin_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline uint16_t *unary_sin_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sin, Plain>(Real16{x}));
+}
+inline float unary_sin_Real32(float x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline double unary_sin_Real64(double x) {
+  return evaluate<unary::sin, Plain>(x);
+}
+inline float *unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sin, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sin, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_sin_Integer8(int8_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline uint8_t checked_unary_sin_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline int16_t checked_unary_sin_Integer16(int16_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline uint16_t checked_unary_sin_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline int32_t checked_unary_sin_Integer32(int32_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline uint32_t checked_unary_sin_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline int64_t checked_unary_sin_Integer64(int64_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline uint64_t checked_unary_sin_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline uint16_t *checked_unary_sin_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sin, Checked>(Real16{x}));
+}
+inline float checked_unary_sin_Real32(float x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline double checked_unary_sin_Real64(double x) {
+  return evaluate<unary::sin, Checked>(x);
+}
+inline float *checked_unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sin, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sin, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_cos_Integer8(int8_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline uint8_t unary_cos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline int16_t unary_cos_Integer16(int16_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline uint16_t unary_cos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline int32_t unary_cos_Integer32(int32_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline uint32_t unary_cos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline int64_t unary_cos_Integer64(int64_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline uint64_t unary_cos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline uint16_t *unary_cos_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cos, Plain>(Real16{x}));
+}
+inline float unary_cos_Real32(float x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline double unary_cos_Real64(double x) {
+  return evaluate<unary::cos, Plain>(x);
+}
+inline float *unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cos, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cos, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_cos_Integer8(int8_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline uint8_t checked_unary_cos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline int16_t checked_unary_cos_Integer16(int16_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline uint16_t checked_unary_cos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline int32_t checked_unary_cos_Integer32(int32_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline uint32_t checked_unary_cos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline int64_t checked_unary_cos_Integer64(int64_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline uint64_t checked_unary_cos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline uint16_t *checked_unary_cos_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cos, Checked>(Real16{x}));
+}
+inline float checked_unary_cos_Real32(float x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline double checked_unary_cos_Real64(double x) {
+  return evaluate<unary::cos, Checked>(x);
+}
+inline float *checked_unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cos, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cos, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_tan_Integer8(int8_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline uint8_t unary_tan_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline int16_t unary_tan_Integer16(int16_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline uint16_t unary_tan_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline int32_t unary_tan_Integer32(int32_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline uint32_t unary_tan_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline int64_t unary_tan_Integer64(int64_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline uint64_t unary_tan_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline uint16_t *unary_tan_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::tan, Plain>(Real16{x}));
+}
+inline float unary_tan_Real32(float x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline double unary_tan_Real64(double x) {
+  return evaluate<unary::tan, Plain>(x);
+}
+inline float *unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::tan, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::tan, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_tan_Integer8(int8_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline uint8_t checked_unary_tan_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline int16_t checked_unary_tan_Integer16(int16_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline uint16_t checked_unary_tan_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline int32_t checked_unary_tan_Integer32(int32_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline uint32_t checked_unary_tan_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline int64_t checked_unary_tan_Integer64(int64_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline uint64_t checked_unary_tan_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline uint16_t *checked_unary_tan_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::tan, Checked>(Real16{x}));
+}
+inline float checked_unary_tan_Real32(float x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline double checked_unary_tan_Real64(double x) {
+  return evaluate<unary::tan, Checked>(x);
+}
+inline float *checked_unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::tan, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::tan, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_csc_Integer8(int8_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline uint8_t unary_csc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline int16_t unary_csc_Integer16(int16_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline uint16_t unary_csc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline int32_t unary_csc_Integer32(int32_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline uint32_t unary_csc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline int64_t unary_csc_Integer64(int64_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline uint64_t unary_csc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline uint16_t *unary_csc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::csc, Plain>(Real16{x}));
+}
+inline float unary_csc_Real32(float x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline double unary_csc_Real64(double x) {
+  return evaluate<unary::csc, Plain>(x);
+}
+inline float *unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::csc, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::csc, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_csc_Integer8(int8_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline uint8_t checked_unary_csc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline int16_t checked_unary_csc_Integer16(int16_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline uint16_t checked_unary_csc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline int32_t checked_unary_csc_Integer32(int32_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline uint32_t checked_unary_csc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline int64_t checked_unary_csc_Integer64(int64_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline uint64_t checked_unary_csc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline uint16_t *checked_unary_csc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::csc, Checked>(Real16{x}));
+}
+inline float checked_unary_csc_Real32(float x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline double checked_unary_csc_Real64(double x) {
+  return evaluate<unary::csc, Checked>(x);
+}
+inline float *checked_unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::csc, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::csc, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_sec_Integer8(int8_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline uint8_t unary_sec_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline int16_t unary_sec_Integer16(int16_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline uint16_t unary_sec_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline int32_t unary_sec_Integer32(int32_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline uint32_t unary_sec_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline int64_t unary_sec_Integer64(int64_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline uint64_t unary_sec_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline uint16_t *unary_sec_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sec, Plain>(Real16{x}));
+}
+inline float unary_sec_Real32(float x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline double unary_sec_Real64(double x) {
+  return evaluate<unary::sec, Plain>(x);
+}
+inline float *unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sec, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sec, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_sec_Integer8(int8_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline uint8_t checked_unary_sec_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline int16_t checked_unary_sec_Integer16(int16_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline uint16_t checked_unary_sec_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline int32_t checked_unary_sec_Integer32(int32_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline uint32_t checked_unary_sec_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline int64_t checked_unary_sec_Integer64(int64_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline uint64_t checked_unary_sec_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline uint16_t *checked_unary_sec_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sec, Checked>(Real16{x}));
+}
+inline float checked_unary_sec_Real32(float x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline double checked_unary_sec_Real64(double x) {
+  return evaluate<unary::sec, Checked>(x);
+}
+inline float *checked_unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sec, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sec, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_cot_Integer8(int8_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline uint8_t unary_cot_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline int16_t unary_cot_Integer16(int16_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline uint16_t unary_cot_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline int32_t unary_cot_Integer32(int32_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline uint32_t unary_cot_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline int64_t unary_cot_Integer64(int64_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline uint64_t unary_cot_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline uint16_t *unary_cot_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cot, Plain>(Real16{x}));
+}
+inline float unary_cot_Real32(float x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline double unary_cot_Real64(double x) {
+  return evaluate<unary::cot, Plain>(x);
+}
+inline float *unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cot, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cot, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_cot_Integer8(int8_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline uint8_t checked_unary_cot_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline int16_t checked_unary_cot_Integer16(int16_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline uint16_t checked_unary_cot_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline int32_t checked_unary_cot_Integer32(int32_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline uint32_t checked_unary_cot_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline int64_t checked_unary_cot_Integer64(int64_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline uint64_t checked_unary_cot_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline uint16_t *checked_unary_cot_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cot, Checked>(Real16{x}));
+}
+inline float checked_unary_cot_Real32(float x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline double checked_unary_cot_Real64(double x) {
+  return evaluate<unary::cot, Checked>(x);
+}
+inline float *checked_unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cot, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cot, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_sinh_Integer8(int8_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline uint8_t unary_sinh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline int16_t unary_sinh_Integer16(int16_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline uint16_t unary_sinh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline int32_t unary_sinh_Integer32(int32_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline uint32_t unary_sinh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline int64_t unary_sinh_Integer64(int64_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline uint64_t unary_sinh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline uint16_t *unary_sinh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sinh, Plain>(Real16{x}));
+}
+inline float unary_sinh_Real32(float x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline double unary_sinh_Real64(double x) {
+  return evaluate<unary::sinh, Plain>(x);
+}
+inline float *unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sinh, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sinh, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_sinh_Integer8(int8_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline uint8_t checked_unary_sinh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline int16_t checked_unary_sinh_Integer16(int16_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline uint16_t checked_unary_sinh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline int32_t checked_unary_sinh_Integer32(int32_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline uint32_t checked_unary_sinh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline int64_t checked_unary_sinh_Integer64(int64_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline uint64_t checked_unary_sinh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline uint16_t *checked_unary_sinh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sinh, Checked>(Real16{x}));
+}
+inline float checked_unary_sinh_Real32(float x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline double checked_unary_sinh_Real64(double x) {
+  return evaluate<unary::sinh, Checked>(x);
+}
+inline float *checked_unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sinh, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sinh, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_cosh_Integer8(int8_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline uint8_t unary_cosh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline int16_t unary_cosh_Integer16(int16_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline uint16_t unary_cosh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline int32_t unary_cosh_Integer32(int32_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline uint32_t unary_cosh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline int64_t unary_cosh_Integer64(int64_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline uint64_t unary_cosh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline uint16_t *unary_cosh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cosh, Plain>(Real16{x}));
+}
+inline float unary_cosh_Real32(float x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline double unary_cosh_Real64(double x) {
+  return evaluate<unary::cosh, Plain>(x);
+}
+inline float *unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cosh, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cosh, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_cosh_Integer8(int8_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline uint8_t checked_unary_cosh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline int16_t checked_unary_cosh_Integer16(int16_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline uint16_t checked_unary_cosh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline int32_t checked_unary_cosh_Integer32(int32_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline uint32_t checked_unary_cosh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline int64_t checked_unary_cosh_Integer64(int64_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline uint64_t checked_unary_cosh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline uint16_t *checked_unary_cosh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::cosh, Checked>(Real16{x}));
+}
+inline float checked_unary_cosh_Real32(float x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline double checked_unary_cosh_Real64(double x) {
+  return evaluate<unary::cosh, Checked>(x);
+}
+inline float *checked_unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::cosh, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::cosh, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_tanh_Integer8(int8_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline uint8_t unary_tanh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline int16_t unary_tanh_Integer16(int16_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline uint16_t unary_tanh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline int32_t unary_tanh_Integer32(int32_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline uint32_t unary_tanh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline int64_t unary_tanh_Integer64(int64_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline uint64_t unary_tanh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline uint16_t *unary_tanh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::tanh, Plain>(Real16{x}));
+}
+inline float unary_tanh_Real32(float x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline double unary_tanh_Real64(double x) {
+  return evaluate<unary::tanh, Plain>(x);
+}
+inline float *unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::tanh, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::tanh, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_tanh_Integer8(int8_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline uint8_t checked_unary_tanh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline int16_t checked_unary_tanh_Integer16(int16_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline uint16_t checked_unary_tanh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline int32_t checked_unary_tanh_Integer32(int32_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline uint32_t checked_unary_tanh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline int64_t checked_unary_tanh_Integer64(int64_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline uint64_t checked_unary_tanh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline uint16_t *checked_unary_tanh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::tanh, Checked>(Real16{x}));
+}
+inline float checked_unary_tanh_Real32(float x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline double checked_unary_tanh_Real64(double x) {
+  return evaluate<unary::tanh, Checked>(x);
+}
+inline float *checked_unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::tanh, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::tanh, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_csch_Integer8(int8_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline uint8_t unary_csch_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline int16_t unary_csch_Integer16(int16_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline uint16_t unary_csch_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline int32_t unary_csch_Integer32(int32_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline uint32_t unary_csch_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline int64_t unary_csch_Integer64(int64_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline uint64_t unary_csch_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline uint16_t *unary_csch_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::csch, Plain>(Real16{x}));
+}
+inline float unary_csch_Real32(float x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline double unary_csch_Real64(double x) {
+  return evaluate<unary::csch, Plain>(x);
+}
+inline float *unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::csch, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::csch, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_csch_Integer8(int8_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline uint8_t checked_unary_csch_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline int16_t checked_unary_csch_Integer16(int16_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline uint16_t checked_unary_csch_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline int32_t checked_unary_csch_Integer32(int32_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline uint32_t checked_unary_csch_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline int64_t checked_unary_csch_Integer64(int64_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline uint64_t checked_unary_csch_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline uint16_t *checked_unary_csch_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::csch, Checked>(Real16{x}));
+}
+inline float checked_unary_csch_Real32(float x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline double checked_unary_csch_Real64(double x) {
+  return evaluate<unary::csch, Checked>(x);
+}
+inline float *checked_unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::csch, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::csch, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_sech_Integer8(int8_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline uint8_t unary_sech_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline int16_t unary_sech_Integer16(int16_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline uint16_t unary_sech_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline int32_t unary_sech_Integer32(int32_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline uint32_t unary_sech_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline int64_t unary_sech_Integer64(int64_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline uint64_t unary_sech_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline uint16_t *unary_sech_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sech, Plain>(Real16{x}));
+}
+inline float unary_sech_Real32(float x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline double unary_sech_Real64(double x) {
+  return evaluate<unary::sech, Plain>(x);
+}
+inline float *unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sech, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sech, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_sech_Integer8(int8_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline uint8_t checked_unary_sech_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline int16_t checked_unary_sech_Integer16(int16_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline uint16_t checked_unary_sech_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline int32_t checked_unary_sech_Integer32(int32_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline uint32_t checked_unary_sech_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline int64_t checked_unary_sech_Integer64(int64_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline uint64_t checked_unary_sech_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline uint16_t *checked_unary_sech_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sech, Checked>(Real16{x}));
+}
+inline float checked_unary_sech_Real32(float x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline double checked_unary_sech_Real64(double x) {
+  return evaluate<unary::sech, Checked>(x);
+}
+inline float *checked_unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sech, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sech, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_coth_Integer8(int8_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline uint8_t unary_coth_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline int16_t unary_coth_Integer16(int16_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline uint16_t unary_coth_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline int32_t unary_coth_Integer32(int32_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline uint32_t unary_coth_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline int64_t unary_coth_Integer64(int64_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline uint64_t unary_coth_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline uint16_t *unary_coth_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::coth, Plain>(Real16{x}));
+}
+inline float unary_coth_Real32(float x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline double unary_coth_Real64(double x) {
+  return evaluate<unary::coth, Plain>(x);
+}
+inline float *unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::coth, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::coth, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_coth_Integer8(int8_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline uint8_t checked_unary_coth_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline int16_t checked_unary_coth_Integer16(int16_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline uint16_t checked_unary_coth_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline int32_t checked_unary_coth_Integer32(int32_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline uint32_t checked_unary_coth_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline int64_t checked_unary_coth_Integer64(int64_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline uint64_t checked_unary_coth_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline uint16_t *checked_unary_coth_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::coth, Checked>(Real16{x}));
+}
+inline float checked_unary_coth_Real32(float x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline double checked_unary_coth_Real64(double x) {
+  return evaluate<unary::coth, Checked>(x);
+}
+inline float *checked_unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::coth, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::coth, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_asin_Integer8(int8_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline uint8_t unary_asin_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline int16_t unary_asin_Integer16(int16_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline uint16_t unary_asin_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline int32_t unary_asin_Integer32(int32_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline uint32_t unary_asin_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline int64_t unary_asin_Integer64(int64_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline uint64_t unary_asin_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline uint16_t *unary_asin_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asin, Plain>(Real16{x}));
+}
+inline float unary_asin_Real32(float x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline double unary_asin_Real64(double x) {
+  return evaluate<unary::asin, Plain>(x);
+}
+inline float *unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asin, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asin, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_asin_Integer8(int8_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline uint8_t checked_unary_asin_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline int16_t checked_unary_asin_Integer16(int16_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline uint16_t checked_unary_asin_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline int32_t checked_unary_asin_Integer32(int32_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline uint32_t checked_unary_asin_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline int64_t checked_unary_asin_Integer64(int64_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline uint64_t checked_unary_asin_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline uint16_t *checked_unary_asin_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asin, Checked>(Real16{x}));
+}
+inline float checked_unary_asin_Real32(float x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline double checked_unary_asin_Real64(double x) {
+  return evaluate<unary::asin, Checked>(x);
+}
+inline float *checked_unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asin, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asin, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_acos_Integer8(int8_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline uint8_t unary_acos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline int16_t unary_acos_Integer16(int16_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline uint16_t unary_acos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline int32_t unary_acos_Integer32(int32_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline uint32_t unary_acos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline int64_t unary_acos_Integer64(int64_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline uint64_t unary_acos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline uint16_t *unary_acos_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acos, Plain>(Real16{x}));
+}
+inline float unary_acos_Real32(float x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline double unary_acos_Real64(double x) {
+  return evaluate<unary::acos, Plain>(x);
+}
+inline float *unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acos, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acos, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_acos_Integer8(int8_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline uint8_t checked_unary_acos_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline int16_t checked_unary_acos_Integer16(int16_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline uint16_t checked_unary_acos_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline int32_t checked_unary_acos_Integer32(int32_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline uint32_t checked_unary_acos_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline int64_t checked_unary_acos_Integer64(int64_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline uint64_t checked_unary_acos_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline uint16_t *checked_unary_acos_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acos, Checked>(Real16{x}));
+}
+inline float checked_unary_acos_Real32(float x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline double checked_unary_acos_Real64(double x) {
+  return evaluate<unary::acos, Checked>(x);
+}
+inline float *checked_unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acos, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acos, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_atan_Integer8(int8_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline uint8_t unary_atan_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline int16_t unary_atan_Integer16(int16_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline uint16_t unary_atan_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline int32_t unary_atan_Integer32(int32_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline uint32_t unary_atan_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline int64_t unary_atan_Integer64(int64_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline uint64_t unary_atan_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline uint16_t *unary_atan_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::atan, Plain>(Real16{x}));
+}
+inline float unary_atan_Real32(float x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline double unary_atan_Real64(double x) {
+  return evaluate<unary::atan, Plain>(x);
+}
+inline float *unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::atan, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::atan, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_atan_Integer8(int8_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline uint8_t checked_unary_atan_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline int16_t checked_unary_atan_Integer16(int16_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline uint16_t checked_unary_atan_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline int32_t checked_unary_atan_Integer32(int32_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline uint32_t checked_unary_atan_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline int64_t checked_unary_atan_Integer64(int64_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline uint64_t checked_unary_atan_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline uint16_t *checked_unary_atan_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::atan, Checked>(Real16{x}));
+}
+inline float checked_unary_atan_Real32(float x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline double checked_unary_atan_Real64(double x) {
+  return evaluate<unary::atan, Checked>(x);
+}
+inline float *checked_unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::atan, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::atan, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_acsc_Integer8(int8_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline uint8_t unary_acsc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline int16_t unary_acsc_Integer16(int16_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline uint16_t unary_acsc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline int32_t unary_acsc_Integer32(int32_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline uint32_t unary_acsc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline int64_t unary_acsc_Integer64(int64_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline uint64_t unary_acsc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline uint16_t *unary_acsc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acsc, Plain>(Real16{x}));
+}
+inline float unary_acsc_Real32(float x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline double unary_acsc_Real64(double x) {
+  return evaluate<unary::acsc, Plain>(x);
+}
+inline float *unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acsc, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acsc, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_acsc_Integer8(int8_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline uint8_t checked_unary_acsc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline int16_t checked_unary_acsc_Integer16(int16_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline uint16_t checked_unary_acsc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline int32_t checked_unary_acsc_Integer32(int32_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline uint32_t checked_unary_acsc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline int64_t checked_unary_acsc_Integer64(int64_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline uint64_t checked_unary_acsc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline uint16_t *checked_unary_acsc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acsc, Checked>(Real16{x}));
+}
+inline float checked_unary_acsc_Real32(float x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline double checked_unary_acsc_Real64(double x) {
+  return evaluate<unary::acsc, Checked>(x);
+}
+inline float *checked_unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acsc, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acsc, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_asec_Integer8(int8_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline uint8_t unary_asec_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline int16_t unary_asec_Integer16(int16_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline uint16_t unary_asec_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline int32_t unary_asec_Integer32(int32_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline uint32_t unary_asec_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline int64_t unary_asec_Integer64(int64_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline uint64_t unary_asec_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline uint16_t *unary_asec_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asec, Plain>(Real16{x}));
+}
+inline float unary_asec_Real32(float x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline double unary_asec_Real64(double x) {
+  return evaluate<unary::asec, Plain>(x);
+}
+inline float *unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asec, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asec, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_asec_Integer8(int8_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline uint8_t checked_unary_asec_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline int16_t checked_unary_asec_Integer16(int16_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline uint16_t checked_unary_asec_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline int32_t checked_unary_asec_Integer32(int32_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline uint32_t checked_unary_asec_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline int64_t checked_unary_asec_Integer64(int64_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline uint64_t checked_unary_asec_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline uint16_t *checked_unary_asec_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asec, Checked>(Real16{x}));
+}
+inline float checked_unary_asec_Real32(float x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline double checked_unary_asec_Real64(double x) {
+  return evaluate<unary::asec, Checked>(x);
+}
+inline float *checked_unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asec, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asec, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_acot_Integer8(int8_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline uint8_t unary_acot_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline int16_t unary_acot_Integer16(int16_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline uint16_t unary_acot_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline int32_t unary_acot_Integer32(int32_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline uint32_t unary_acot_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline int64_t unary_acot_Integer64(int64_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline uint64_t unary_acot_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline uint16_t *unary_acot_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acot, Plain>(Real16{x}));
+}
+inline float unary_acot_Real32(float x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline double unary_acot_Real64(double x) {
+  return evaluate<unary::acot, Plain>(x);
+}
+inline float *unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acot, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acot, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_acot_Integer8(int8_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline uint8_t checked_unary_acot_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline int16_t checked_unary_acot_Integer16(int16_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline uint16_t checked_unary_acot_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline int32_t checked_unary_acot_Integer32(int32_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline uint32_t checked_unary_acot_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline int64_t checked_unary_acot_Integer64(int64_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline uint64_t checked_unary_acot_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline uint16_t *checked_unary_acot_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acot, Checked>(Real16{x}));
+}
+inline float checked_unary_acot_Real32(float x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline double checked_unary_acot_Real64(double x) {
+  return evaluate<unary::acot, Checked>(x);
+}
+inline float *checked_unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acot, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acot, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_asinh_Integer8(int8_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline uint8_t unary_asinh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline int16_t unary_asinh_Integer16(int16_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline uint16_t unary_asinh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline int32_t unary_asinh_Integer32(int32_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline uint32_t unary_asinh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline int64_t unary_asinh_Integer64(int64_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline uint64_t unary_asinh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline uint16_t *unary_asinh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asinh, Plain>(Real16{x}));
+}
+inline float unary_asinh_Real32(float x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline double unary_asinh_Real64(double x) {
+  return evaluate<unary::asinh, Plain>(x);
+}
+inline float *unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asinh, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asinh, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_asinh_Integer8(int8_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline uint8_t checked_unary_asinh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline int16_t checked_unary_asinh_Integer16(int16_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline uint16_t checked_unary_asinh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline int32_t checked_unary_asinh_Integer32(int32_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline uint32_t checked_unary_asinh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline int64_t checked_unary_asinh_Integer64(int64_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline uint64_t checked_unary_asinh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline uint16_t *checked_unary_asinh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asinh, Checked>(Real16{x}));
+}
+inline float checked_unary_asinh_Real32(float x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline double checked_unary_asinh_Real64(double x) {
+  return evaluate<unary::asinh, Checked>(x);
+}
+inline float *checked_unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asinh, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asinh, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_acosh_Integer8(int8_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline uint8_t unary_acosh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline int16_t unary_acosh_Integer16(int16_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline uint16_t unary_acosh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline int32_t unary_acosh_Integer32(int32_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline uint32_t unary_acosh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline int64_t unary_acosh_Integer64(int64_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline uint64_t unary_acosh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline uint16_t *unary_acosh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acosh, Plain>(Real16{x}));
+}
+inline float unary_acosh_Real32(float x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline double unary_acosh_Real64(double x) {
+  return evaluate<unary::acosh, Plain>(x);
+}
+inline float *unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acosh, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acosh, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_acosh_Integer8(int8_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline uint8_t checked_unary_acosh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline int16_t checked_unary_acosh_Integer16(int16_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline uint16_t checked_unary_acosh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline int32_t checked_unary_acosh_Integer32(int32_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline uint32_t checked_unary_acosh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline int64_t checked_unary_acosh_Integer64(int64_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline uint64_t checked_unary_acosh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline uint16_t *checked_unary_acosh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acosh, Checked>(Real16{x}));
+}
+inline float checked_unary_acosh_Real32(float x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline double checked_unary_acosh_Real64(double x) {
+  return evaluate<unary::acosh, Checked>(x);
+}
+inline float *checked_unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acosh, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acosh, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_atanh_Integer8(int8_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline uint8_t unary_atanh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline int16_t unary_atanh_Integer16(int16_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline uint16_t unary_atanh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline int32_t unary_atanh_Integer32(int32_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline uint32_t unary_atanh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline int64_t unary_atanh_Integer64(int64_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline uint64_t unary_atanh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline uint16_t *unary_atanh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::atanh, Plain>(Real16{x}));
+}
+inline float unary_atanh_Real32(float x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline double unary_atanh_Real64(double x) {
+  return evaluate<unary::atanh, Plain>(x);
+}
+inline float *unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::atanh, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::atanh, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_atanh_Integer8(int8_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline uint8_t checked_unary_atanh_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline int16_t checked_unary_atanh_Integer16(int16_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline uint16_t checked_unary_atanh_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline int32_t checked_unary_atanh_Integer32(int32_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline uint32_t checked_unary_atanh_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline int64_t checked_unary_atanh_Integer64(int64_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline uint64_t checked_unary_atanh_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline uint16_t *checked_unary_atanh_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::atanh, Checked>(Real16{x}));
+}
+inline float checked_unary_atanh_Real32(float x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline double checked_unary_atanh_Real64(double x) {
+  return evaluate<unary::atanh, Checked>(x);
+}
+inline float *checked_unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::atanh, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::atanh, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_acsch_Integer8(int8_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline uint8_t unary_acsch_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline int16_t unary_acsch_Integer16(int16_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline uint16_t unary_acsch_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline int32_t unary_acsch_Integer32(int32_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline uint32_t unary_acsch_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline int64_t unary_acsch_Integer64(int64_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline uint64_t unary_acsch_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline uint16_t *unary_acsch_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acsch, Plain>(Real16{x}));
+}
+inline float unary_acsch_Real32(float x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline double unary_acsch_Real64(double x) {
+  return evaluate<unary::acsch, Plain>(x);
+}
+inline float *unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acsch, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acsch, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_acsch_Integer8(int8_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline uint8_t checked_unary_acsch_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline int16_t checked_unary_acsch_Integer16(int16_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline uint16_t checked_unary_acsch_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline int32_t checked_unary_acsch_Integer32(int32_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline uint32_t checked_unary_acsch_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline int64_t checked_unary_acsch_Integer64(int64_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline uint64_t checked_unary_acsch_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline uint16_t *checked_unary_acsch_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acsch, Checked>(Real16{x}));
+}
+inline float checked_unary_acsch_Real32(float x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline double checked_unary_acsch_Real64(double x) {
+  return evaluate<unary::acsch, Checked>(x);
+}
+inline float *checked_unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acsch, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acsch, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_asech_Integer8(int8_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline uint8_t unary_asech_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline int16_t unary_asech_Integer16(int16_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline uint16_t unary_asech_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline int32_t unary_asech_Integer32(int32_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline uint32_t unary_asech_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline int64_t unary_asech_Integer64(int64_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline uint64_t unary_asech_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline uint16_t *unary_asech_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asech, Plain>(Real16{x}));
+}
+inline float unary_asech_Real32(float x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline double unary_asech_Real64(double x) {
+  return evaluate<unary::asech, Plain>(x);
+}
+inline float *unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asech, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asech, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_asech_Integer8(int8_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline uint8_t checked_unary_asech_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline int16_t checked_unary_asech_Integer16(int16_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline uint16_t checked_unary_asech_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline int32_t checked_unary_asech_Integer32(int32_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline uint32_t checked_unary_asech_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline int64_t checked_unary_asech_Integer64(int64_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline uint64_t checked_unary_asech_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline uint16_t *checked_unary_asech_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::asech, Checked>(Real16{x}));
+}
+inline float checked_unary_asech_Real32(float x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline double checked_unary_asech_Real64(double x) {
+  return evaluate<unary::asech, Checked>(x);
+}
+inline float *checked_unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::asech, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::asech, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_acoth_Integer8(int8_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline uint8_t unary_acoth_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline int16_t unary_acoth_Integer16(int16_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline uint16_t unary_acoth_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline int32_t unary_acoth_Integer32(int32_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline uint32_t unary_acoth_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline int64_t unary_acoth_Integer64(int64_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline uint64_t unary_acoth_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline uint16_t *unary_acoth_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acoth, Plain>(Real16{x}));
+}
+inline float unary_acoth_Real32(float x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline double unary_acoth_Real64(double x) {
+  return evaluate<unary::acoth, Plain>(x);
+}
+inline float *unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acoth, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acoth, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_acoth_Integer8(int8_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline uint8_t checked_unary_acoth_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline int16_t checked_unary_acoth_Integer16(int16_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline uint16_t checked_unary_acoth_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline int32_t checked_unary_acoth_Integer32(int32_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline uint32_t checked_unary_acoth_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline int64_t checked_unary_acoth_Integer64(int64_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline uint64_t checked_unary_acoth_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline uint16_t *checked_unary_acoth_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::acoth, Checked>(Real16{x}));
+}
+inline float checked_unary_acoth_Real32(float x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline double checked_unary_acoth_Real64(double x) {
+  return evaluate<unary::acoth, Checked>(x);
+}
+inline float *checked_unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::acoth, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::acoth, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_sinc_Integer8(int8_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline uint8_t unary_sinc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline int16_t unary_sinc_Integer16(int16_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline uint16_t unary_sinc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline int32_t unary_sinc_Integer32(int32_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline uint32_t unary_sinc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline int64_t unary_sinc_Integer64(int64_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline uint64_t unary_sinc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline uint16_t *unary_sinc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sinc, Plain>(Real16{x}));
+}
+inline float unary_sinc_Real32(float x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline double unary_sinc_Real64(double x) {
+  return evaluate<unary::sinc, Plain>(x);
+}
+inline float *unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sinc, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sinc, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_sinc_Integer8(int8_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline uint8_t checked_unary_sinc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline int16_t checked_unary_sinc_Integer16(int16_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline uint16_t checked_unary_sinc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline int32_t checked_unary_sinc_Integer32(int32_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline uint32_t checked_unary_sinc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline int64_t checked_unary_sinc_Integer64(int64_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline uint64_t checked_unary_sinc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline uint16_t *checked_unary_sinc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::sinc, Checked>(Real16{x}));
+}
+inline float checked_unary_sinc_Real32(float x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline double checked_unary_sinc_Real64(double x) {
+  return evaluate<unary::sinc, Checked>(x);
+}
+inline float *checked_unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::sinc, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::sinc, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_fibonacci_Integer8(int8_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline uint8_t unary_fibonacci_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline int16_t unary_fibonacci_Integer16(int16_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline uint16_t unary_fibonacci_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline int32_t unary_fibonacci_Integer32(int32_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline uint32_t unary_fibonacci_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline int64_t unary_fibonacci_Integer64(int64_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline uint64_t unary_fibonacci_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline uint16_t *unary_fibonacci_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::fibonacci, Plain>(Real16{x}));
+}
+inline float unary_fibonacci_Real32(float x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline double unary_fibonacci_Real64(double x) {
+  return evaluate<unary::fibonacci, Plain>(x);
+}
+inline float *unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::fibonacci, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::fibonacci, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_fibonacci_Integer8(int8_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline uint8_t checked_unary_fibonacci_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline int16_t checked_unary_fibonacci_Integer16(int16_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline uint16_t checked_unary_fibonacci_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline int32_t checked_unary_fibonacci_Integer32(int32_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline uint32_t checked_unary_fibonacci_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline int64_t checked_unary_fibonacci_Integer64(int64_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline uint64_t checked_unary_fibonacci_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline uint16_t *checked_unary_fibonacci_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::fibonacci, Checked>(Real16{x}));
+}
+inline float checked_unary_fibonacci_Real32(float x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline double checked_unary_fibonacci_Real64(double x) {
+  return evaluate<unary::fibonacci, Checked>(x);
+}
+inline float *checked_unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::fibonacci, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::fibonacci, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_lucasl_Integer8(int8_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline uint8_t unary_lucasl_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline int16_t unary_lucasl_Integer16(int16_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline uint16_t unary_lucasl_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline int32_t unary_lucasl_Integer32(int32_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline uint32_t unary_lucasl_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline int64_t unary_lucasl_Integer64(int64_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline uint64_t unary_lucasl_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline uint16_t *unary_lucasl_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::lucasl, Plain>(Real16{x}));
+}
+inline float unary_lucasl_Real32(float x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline double unary_lucasl_Real64(double x) {
+  return evaluate<unary::lucasl, Plain>(x);
+}
+inline float *unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::lucasl, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::lucasl, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_lucasl_Integer8(int8_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline uint8_t checked_unary_lucasl_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline int16_t checked_unary_lucasl_Integer16(int16_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline uint16_t checked_unary_lucasl_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline int32_t checked_unary_lucasl_Integer32(int32_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline uint32_t checked_unary_lucasl_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline int64_t checked_unary_lucasl_Integer64(int64_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline uint64_t checked_unary_lucasl_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline uint16_t *checked_unary_lucasl_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::lucasl, Checked>(Real16{x}));
+}
+inline float checked_unary_lucasl_Real32(float x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline double checked_unary_lucasl_Real64(double x) {
+  return evaluate<unary::lucasl, Checked>(x);
+}
+inline float *checked_unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::lucasl, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::lucasl, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_gudermannian_Integer8(int8_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline uint8_t unary_gudermannian_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline int16_t unary_gudermannian_Integer16(int16_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline uint16_t unary_gudermannian_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline int32_t unary_gudermannian_Integer32(int32_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline uint32_t unary_gudermannian_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline int64_t unary_gudermannian_Integer64(int64_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline uint64_t unary_gudermannian_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline uint16_t *unary_gudermannian_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::gudermannian, Plain>(Real16{x}));
+}
+inline float unary_gudermannian_Real32(float x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline double unary_gudermannian_Real64(double x) {
+  return evaluate<unary::gudermannian, Plain>(x);
+}
+inline float *unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::gudermannian, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::gudermannian, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_gudermannian_Integer8(int8_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline uint8_t checked_unary_gudermannian_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline int16_t checked_unary_gudermannian_Integer16(int16_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline uint16_t checked_unary_gudermannian_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline int32_t checked_unary_gudermannian_Integer32(int32_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline uint32_t checked_unary_gudermannian_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline int64_t checked_unary_gudermannian_Integer64(int64_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline uint64_t checked_unary_gudermannian_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline uint16_t *checked_unary_gudermannian_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::gudermannian, Checked>(Real16{x}));
+}
+inline float checked_unary_gudermannian_Real32(float x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline double checked_unary_gudermannian_Real64(double x) {
+  return evaluate<unary::gudermannian, Checked>(x);
+}
+inline float *checked_unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::gudermannian, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::gudermannian, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_inversegudermannian_Integer8(int8_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline uint8_t unary_inversegudermannian_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline int16_t unary_inversegudermannian_Integer16(int16_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline uint16_t unary_inversegudermannian_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline int32_t unary_inversegudermannian_Integer32(int32_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline uint32_t unary_inversegudermannian_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline int64_t unary_inversegudermannian_Integer64(int64_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline uint64_t unary_inversegudermannian_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline uint16_t *unary_inversegudermannian_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::inversegudermannian, Plain>(Real16{x}));
+}
+inline float unary_inversegudermannian_Real32(float x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline double unary_inversegudermannian_Real64(double x) {
+  return evaluate<unary::inversegudermannian, Plain>(x);
+}
+inline float *unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::inversegudermannian, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::inversegudermannian, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_inversegudermannian_Integer8(int8_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline uint8_t checked_unary_inversegudermannian_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline int16_t checked_unary_inversegudermannian_Integer16(int16_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline uint16_t checked_unary_inversegudermannian_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline int32_t checked_unary_inversegudermannian_Integer32(int32_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline uint32_t checked_unary_inversegudermannian_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline int64_t checked_unary_inversegudermannian_Integer64(int64_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline uint64_t checked_unary_inversegudermannian_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline uint16_t *checked_unary_inversegudermannian_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::inversegudermannian, Checked>(Real16{x}));
+}
+inline float checked_unary_inversegudermannian_Real32(float x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline double checked_unary_inversegudermannian_Real64(double x) {
+  return evaluate<unary::inversegudermannian, Checked>(x);
+}
+inline float *checked_unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::inversegudermannian, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re,
+                                                               double x_im) {
+  return store(re, im, evaluate<unary::inversegudermannian, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_haversine_Integer8(int8_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline uint8_t unary_haversine_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline int16_t unary_haversine_Integer16(int16_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline uint16_t unary_haversine_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline int32_t unary_haversine_Integer32(int32_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline uint32_t unary_haversine_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline int64_t unary_haversine_Integer64(int64_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline uint64_t unary_haversine_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline uint16_t *unary_haversine_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::haversine, Plain>(Real16{x}));
+}
+inline float unary_haversine_Real32(float x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline double unary_haversine_Real64(double x) {
+  return evaluate<unary::haversine, Plain>(x);
+}
+inline float *unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::haversine, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::haversine, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_haversine_Integer8(int8_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline uint8_t checked_unary_haversine_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline int16_t checked_unary_haversine_Integer16(int16_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline uint16_t checked_unary_haversine_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline int32_t checked_unary_haversine_Integer32(int32_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline uint32_t checked_unary_haversine_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline int64_t checked_unary_haversine_Integer64(int64_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline uint64_t checked_unary_haversine_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline uint16_t *checked_unary_haversine_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::haversine, Checked>(Real16{x}));
+}
+inline float checked_unary_haversine_Real32(float x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline double checked_unary_haversine_Real64(double x) {
+  return evaluate<unary::haversine, Checked>(x);
+}
+inline float *checked_unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::haversine, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::haversine, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_inversehaversine_Integer8(int8_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline uint8_t unary_inversehaversine_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline int16_t unary_inversehaversine_Integer16(int16_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline uint16_t unary_inversehaversine_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline int32_t unary_inversehaversine_Integer32(int32_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline uint32_t unary_inversehaversine_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline int64_t unary_inversehaversine_Integer64(int64_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline uint64_t unary_inversehaversine_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline uint16_t *unary_inversehaversine_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::inversehaversine, Plain>(Real16{x}));
+}
+inline float unary_inversehaversine_Real32(float x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline double unary_inversehaversine_Real64(double x) {
+  return evaluate<unary::inversehaversine, Plain>(x);
+}
+inline float *unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::inversehaversine, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::inversehaversine, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_inversehaversine_Integer8(int8_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline uint8_t checked_unary_inversehaversine_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline int16_t checked_unary_inversehaversine_Integer16(int16_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline uint16_t checked_unary_inversehaversine_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline int32_t checked_unary_inversehaversine_Integer32(int32_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline uint32_t checked_unary_inversehaversine_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline int64_t checked_unary_inversehaversine_Integer64(int64_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline uint64_t checked_unary_inversehaversine_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline uint16_t *checked_unary_inversehaversine_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::inversehaversine, Checked>(Real16{x}));
+}
+inline float checked_unary_inversehaversine_Real32(float x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline double checked_unary_inversehaversine_Real64(double x) {
+  return evaluate<unary::inversehaversine, Checked>(x);
+}
+inline float *checked_unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::inversehaversine, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re,
+                                                            double x_im) {
+  return store(re, im, evaluate<unary::inversehaversine, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_erfc_Integer8(int8_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline uint8_t unary_erfc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline int16_t unary_erfc_Integer16(int16_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline uint16_t unary_erfc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline int32_t unary_erfc_Integer32(int32_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline uint32_t unary_erfc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline int64_t unary_erfc_Integer64(int64_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline uint64_t unary_erfc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline uint16_t *unary_erfc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::erfc, Plain>(Real16{x}));
+}
+inline float unary_erfc_Real32(float x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline double unary_erfc_Real64(double x) {
+  return evaluate<unary::erfc, Plain>(x);
+}
+inline float *unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::erfc, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::erfc, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_erfc_Integer8(int8_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline uint8_t checked_unary_erfc_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline int16_t checked_unary_erfc_Integer16(int16_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline uint16_t checked_unary_erfc_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline int32_t checked_unary_erfc_Integer32(int32_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline uint32_t checked_unary_erfc_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline int64_t checked_unary_erfc_Integer64(int64_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline uint64_t checked_unary_erfc_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline uint16_t *checked_unary_erfc_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::erfc, Checked>(Real16{x}));
+}
+inline float checked_unary_erfc_Real32(float x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline double checked_unary_erfc_Real64(double x) {
+  return evaluate<unary::erfc, Checked>(x);
+}
+inline float *checked_unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::erfc, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::erfc, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_erf_Integer8(int8_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline uint8_t unary_erf_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline int16_t unary_erf_Integer16(int16_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline uint16_t unary_erf_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline int32_t unary_erf_Integer32(int32_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline uint32_t unary_erf_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline int64_t unary_erf_Integer64(int64_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline uint64_t unary_erf_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline uint16_t *unary_erf_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::erf, Plain>(Real16{x}));
+}
+inline float unary_erf_Real32(float x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline double unary_erf_Real64(double x) {
+  return evaluate<unary::erf, Plain>(x);
+}
+inline float *unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::erf, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::erf, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_erf_Integer8(int8_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline uint8_t checked_unary_erf_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline int16_t checked_unary_erf_Integer16(int16_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline uint16_t checked_unary_erf_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline int32_t checked_unary_erf_Integer32(int32_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline uint32_t checked_unary_erf_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline int64_t checked_unary_erf_Integer64(int64_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline uint64_t checked_unary_erf_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline uint16_t *checked_unary_erf_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::erf, Checked>(Real16{x}));
+}
+inline float checked_unary_erf_Real32(float x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline double checked_unary_erf_Real64(double x) {
+  return evaluate<unary::erf, Checked>(x);
+}
+inline float *checked_unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::erf, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::erf, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_gamma_Integer8(int8_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline uint8_t unary_gamma_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline int16_t unary_gamma_Integer16(int16_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline uint16_t unary_gamma_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline int32_t unary_gamma_Integer32(int32_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline uint32_t unary_gamma_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline int64_t unary_gamma_Integer64(int64_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline uint64_t unary_gamma_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline uint16_t *unary_gamma_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::gamma, Plain>(Real16{x}));
+}
+inline float unary_gamma_Real32(float x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline double unary_gamma_Real64(double x) {
+  return evaluate<unary::gamma, Plain>(x);
+}
+inline float *unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::gamma, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::gamma, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_gamma_Integer8(int8_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline uint8_t checked_unary_gamma_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline int16_t checked_unary_gamma_Integer16(int16_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline uint16_t checked_unary_gamma_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline int32_t checked_unary_gamma_Integer32(int32_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline uint32_t checked_unary_gamma_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline int64_t checked_unary_gamma_Integer64(int64_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline uint64_t checked_unary_gamma_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline uint16_t *checked_unary_gamma_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::gamma, Checked>(Real16{x}));
+}
+inline float checked_unary_gamma_Real32(float x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline double checked_unary_gamma_Real64(double x) {
+  return evaluate<unary::gamma, Checked>(x);
+}
+inline float *checked_unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::gamma, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::gamma, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_loggamma_Integer8(int8_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline uint8_t unary_loggamma_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline int16_t unary_loggamma_Integer16(int16_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline uint16_t unary_loggamma_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline int32_t unary_loggamma_Integer32(int32_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline uint32_t unary_loggamma_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline int64_t unary_loggamma_Integer64(int64_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline uint64_t unary_loggamma_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline uint16_t *unary_loggamma_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::loggamma, Plain>(Real16{x}));
+}
+inline float unary_loggamma_Real32(float x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline double unary_loggamma_Real64(double x) {
+  return evaluate<unary::loggamma, Plain>(x);
+}
+inline float *unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::loggamma, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::loggamma, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_loggamma_Integer8(int8_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline uint8_t checked_unary_loggamma_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline int16_t checked_unary_loggamma_Integer16(int16_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline uint16_t checked_unary_loggamma_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline int32_t checked_unary_loggamma_Integer32(int32_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline uint32_t checked_unary_loggamma_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline int64_t checked_unary_loggamma_Integer64(int64_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline uint64_t checked_unary_loggamma_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline uint16_t *checked_unary_loggamma_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::loggamma, Checked>(Real16{x}));
+}
+inline float checked_unary_loggamma_Real32(float x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline double checked_unary_loggamma_Real64(double x) {
+  return evaluate<unary::loggamma, Checked>(x);
+}
+inline float *checked_unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::loggamma, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::loggamma, Checked>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t unary_logistic_Integer8(int8_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline uint8_t unary_logistic_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline int16_t unary_logistic_Integer16(int16_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline uint16_t unary_logistic_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline int32_t unary_logistic_Integer32(int32_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline uint32_t unary_logistic_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline int64_t unary_logistic_Integer64(int64_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline uint64_t unary_logistic_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline uint16_t *unary_logistic_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::logistic, Plain>(Real16{x}));
+}
+inline float unary_logistic_Real32(float x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline double unary_logistic_Real64(double x) {
+  return evaluate<unary::logistic, Plain>(x);
+}
+inline float *unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::logistic, Plain>(ComplexReal32{x_re, x_im}));
+}
+inline double *unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::logistic, Plain>(ComplexReal64{x_re, x_im}));
+}
+inline int8_t checked_unary_logistic_Integer8(int8_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline uint8_t checked_unary_logistic_UnsignedInteger8(uint8_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline int16_t checked_unary_logistic_Integer16(int16_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline uint16_t checked_unary_logistic_UnsignedInteger16(uint16_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline int32_t checked_unary_logistic_Integer32(int32_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline uint32_t checked_unary_logistic_UnsignedInteger32(uint32_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline int64_t checked_unary_logistic_Integer64(int64_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline uint64_t checked_unary_logistic_UnsignedInteger64(uint64_t x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline uint16_t *checked_unary_logistic_Real16(uint16_t *result, uint16_t x) {
+  return store(result, evaluate<unary::logistic, Checked>(Real16{x}));
+}
+inline float checked_unary_logistic_Real32(float x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline double checked_unary_logistic_Real64(double x) {
+  return evaluate<unary::logistic, Checked>(x);
+}
+inline float *checked_unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im) {
+  return store(re, im, evaluate<unary::logistic, Checked>(ComplexReal32{x_re, x_im}));
+}
+inline double *checked_unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im) {
+  return store(re, im, evaluate<unary::logistic, Checked>(ComplexReal64{x_re, x_im}));
 }
 inline int8_t binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::plus, Plain>(x, y);
@@ -4075,6 +7516,88 @@ inline double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(double 
                                                                          double y_re, double y_im) {
   return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
 }
+inline int8_t binary_root_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline uint8_t binary_root_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline int16_t binary_root_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline uint16_t binary_root_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline int32_t binary_root_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline uint32_t binary_root_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline int64_t binary_root_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline uint64_t binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline uint16_t *binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::root, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_root_Real32_Real32(float x, float y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline double binary_root_Real64_Real64(double x, double y) {
+  return evaluate<binary::root, Plain>(x, y);
+}
+inline float *binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                      float y_re, float y_im) {
+  return store(re, im, evaluate<binary::root, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                       double y_re, double y_im) {
+  return store(re, im, evaluate<binary::root, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_root_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline uint8_t checked_binary_root_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline int16_t checked_binary_root_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline uint16_t checked_binary_root_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline int32_t checked_binary_root_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline uint32_t checked_binary_root_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline int64_t checked_binary_root_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline uint64_t checked_binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline uint16_t *checked_binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::root, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_root_Real32_Real32(float x, float y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline double checked_binary_root_Real64_Real64(double x, double y) {
+  return evaluate<binary::root, Checked>(x, y);
+}
+inline float *checked_binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                              float y_re, float y_im) {
+  return store(re, im, evaluate<binary::root, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                               double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::root, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
 inline int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::mod, Plain>(x, y);
 }
@@ -4238,6 +7761,170 @@ inline float *checked_binary_quotient_ComplexReal32_ComplexReal32(float *re, flo
 inline double *checked_binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                    double x_im, double y_re, double y_im) {
   return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_log_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline uint8_t binary_log_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline int16_t binary_log_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline uint16_t binary_log_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline int32_t binary_log_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline uint32_t binary_log_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline int64_t binary_log_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline uint64_t binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline uint16_t *binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::log, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_log_Real32_Real32(float x, float y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline double binary_log_Real64_Real64(double x, double y) {
+  return evaluate<binary::log, Plain>(x, y);
+}
+inline float *binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                     float y_re, float y_im) {
+  return store(re, im, evaluate<binary::log, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                      double y_re, double y_im) {
+  return store(re, im, evaluate<binary::log, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_log_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline uint8_t checked_binary_log_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline int16_t checked_binary_log_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline uint16_t checked_binary_log_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline int32_t checked_binary_log_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline uint32_t checked_binary_log_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline int64_t checked_binary_log_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline uint64_t checked_binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline uint16_t *checked_binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::log, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_log_Real32_Real32(float x, float y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline double checked_binary_log_Real64_Real64(double x, double y) {
+  return evaluate<binary::log, Checked>(x, y);
+}
+inline float *checked_binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                             float y_re, float y_im) {
+  return store(re, im, evaluate<binary::log, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                              double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::log, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t binary_atan2_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline uint8_t binary_atan2_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline int16_t binary_atan2_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline uint16_t binary_atan2_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline int32_t binary_atan2_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline uint32_t binary_atan2_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline int64_t binary_atan2_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline uint64_t binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline uint16_t *binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::atan2, Plain>(Real16{x}, Real16{y}));
+}
+inline float binary_atan2_Real32_Real32(float x, float y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline double binary_atan2_Real64_Real64(double x, double y) {
+  return evaluate<binary::atan2, Plain>(x, y);
+}
+inline float *binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
+                                                       float y_re, float y_im) {
+  return store(re, im, evaluate<binary::atan2, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
+                                                        double y_re, double y_im) {
+  return store(re, im, evaluate<binary::atan2, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+}
+inline int8_t checked_binary_atan2_Integer8_Integer8(int8_t x, int8_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline uint8_t checked_binary_atan2_UnsignedInteger8_UnsignedInteger8(uint8_t x, uint8_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline int16_t checked_binary_atan2_Integer16_Integer16(int16_t x, int16_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline uint16_t checked_binary_atan2_UnsignedInteger16_UnsignedInteger16(uint16_t x, uint16_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline int32_t checked_binary_atan2_Integer32_Integer32(int32_t x, int32_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline uint32_t checked_binary_atan2_UnsignedInteger32_UnsignedInteger32(uint32_t x, uint32_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline int64_t checked_binary_atan2_Integer64_Integer64(int64_t x, int64_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline uint64_t checked_binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline uint16_t *checked_binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
+  return store(result, evaluate<binary::atan2, Checked>(Real16{x}, Real16{y}));
+}
+inline float checked_binary_atan2_Real32_Real32(float x, float y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline double checked_binary_atan2_Real64_Real64(double x, double y) {
+  return evaluate<binary::atan2, Checked>(x, y);
+}
+inline float *checked_binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
+                                                               float x_im, float y_re, float y_im) {
+  return store(re, im, evaluate<binary::atan2, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+}
+inline double *checked_binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
+                                                                double x_im, double y_re, double y_im) {
+  return store(re, im, evaluate<binary::atan2, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
 }
 inline int8_t binary_pow_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
