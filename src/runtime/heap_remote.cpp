@@ -22,8 +22,17 @@ struct Grip {
   FreeCell *cells[kGripSlabs]; // the remote list of each
 };
 
-// Under the class's lock. The cells belong to the caller then, but still count as remote.
-void takePending(SizeClass &sizeClass, Grip &grip) {
+RemoteBox *takeBox(RemoteSide &side) {
+  RemoteBox *box = side.filling;
+  side.filling = side.empty;
+  side.empty = nullptr;
+  return box;
+}
+
+// Under the class's lock. The cells belong to the caller then, but still count as remote. Returns whether
+// slabs are left on the list. The box goes with the last of them: while a slab is pending it must not become
+// wholly free, for then it would be released.
+bool takePending(SizeClass &sizeClass, Grip &grip) {
   Slab *slab = sizeClass.pendingSlabs.load(std::memory_order_relaxed);
   for (grip.count = 0; slab != nullptr && grip.count < kGripSlabs;) {
     if (slab->remoteHead != nullptr) {
@@ -35,11 +44,9 @@ void takePending(SizeClass &sizeClass, Grip &grip) {
     slab->pendingNext = slab;
     slab = next;
   }
-  RemoteSide &side = remoteSideOf(sizeClass);
-  grip.box = side.filling;
-  side.filling = side.empty;
-  side.empty = nullptr;
   sizeClass.pendingSlabs.store(slab, std::memory_order_relaxed);
+  grip.box = slab == nullptr ? takeBox(remoteSideOf(sizeClass)) : nullptr;
+  return slab != nullptr;
 }
 
 // Puts a list of cells in front of the slab's free list; returns their number.
@@ -147,9 +154,10 @@ void discardBoxes(SizeClass &sizeClass) {
 }
 
 void reclaimPending(SizeClass &sizeClass) {
-  while (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) {
+  bool more = true;
+  while (more) {
     Grip grip;
-    takePending(sizeClass, grip);
+    more = takePending(sizeClass, grip);
     sizeClass.remoteBytes -= reclaimGrip(sizeClass, grip);
   }
 }
@@ -164,15 +172,17 @@ void reclaim(SizeClass &sizeClass) {
 
 // The work on the cells, each perhaps in another processor's cache, is done without the lock.
 void reclaimNow(SizeClass &sizeClass) {
-  Grip grip;
-  grip.count = kGripSlabs;
-  while (grip.count == kGripSlabs && sizeClass.lock.tryEnter()) {
-    takePending(sizeClass, grip);
+  if (!sizeClass.lock.tryEnter()) return;
+  bool more = true;
+  while (more) {
+    Grip grip;
+    more = takePending(sizeClass, grip);
     sizeClass.lock.leave();
     const uint32_t bytes = reclaimGrip(sizeClass, grip);
-    LockGuard guard(sizeClass.lock);
+    sizeClass.lock.enter();
     sizeClass.remoteBytes -= bytes;
   }
+  sizeClass.lock.leave();
 }
 
 } // namespace torvane
