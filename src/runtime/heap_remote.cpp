@@ -16,23 +16,37 @@ constexpr uint64_t kReclaimPause = 4096;
 // What is taken off the pending list in one go.
 constexpr uint32_t kGripSlabs = 16;
 struct Grip {
+  RemoteBox *box;
   uint32_t count;
   Slab *slabs[kGripSlabs];
   FreeCell *cells[kGripSlabs]; // the remote list of each
 };
 
-// Under the class's lock. The cells belong to the caller then, but still count as remote.
-void takePending(SizeClass &sizeClass, Grip &grip) {
+RemoteBox *takeBox(RemoteSide &side) {
+  RemoteBox *box = side.filling;
+  side.filling = side.empty;
+  side.empty = nullptr;
+  return box;
+}
+
+// Under the class's lock. The cells belong to the caller then, but still count as remote. Returns whether
+// slabs are left on the list. The box goes with the last of them: while a slab is pending it must not become
+// wholly free, for then it would be released.
+bool takePending(SizeClass &sizeClass, Grip &grip) {
   Slab *slab = sizeClass.pendingSlabs.load(std::memory_order_relaxed);
-  for (grip.count = 0; slab != nullptr && grip.count < kGripSlabs; ++grip.count) {
-    grip.slabs[grip.count] = slab;
-    grip.cells[grip.count] = slab->remoteHead;
+  for (grip.count = 0; slab != nullptr && grip.count < kGripSlabs;) {
+    if (slab->remoteHead != nullptr) {
+      grip.slabs[grip.count] = slab;
+      grip.cells[grip.count++] = slab->remoteHead;
+    }
     Slab *const next = slab->pendingNext;
     slab->remoteHead = nullptr;
     slab->pendingNext = slab;
     slab = next;
   }
   sizeClass.pendingSlabs.store(slab, std::memory_order_relaxed);
+  grip.box = slab == nullptr ? takeBox(remoteSideOf(sizeClass)) : nullptr;
+  return slab != nullptr;
 }
 
 // Puts a list of cells in front of the slab's free list; returns their number.
@@ -58,16 +72,52 @@ uint32_t reclaimCells(Slab *slab, FreeCell *cells) {
   return bytes;
 }
 
-uint32_t reclaimGrip(const Grip &grip) {
-  uint32_t bytes = 0;
+void keepEmptyBox(RemoteSide &side, RemoteBox *box) {
+  box->count = 0;
+  if (side.empty == nullptr)
+    side.empty = box;
+  else
+    processHeap.load(std::memory_order_relaxed)->give(box);
+}
+
+// Returns the bytes of the cells.
+uint32_t reclaimBox(SizeClass &sizeClass, RemoteBox *box) {
+  if (box == nullptr) return 0;
+  for (uint32_t i = 0; i < box->count; ++i) {
+    const RemoteCell &remote = box->cells[i];
+    returnCell(sizeClass.heap, remote.slab, remote.cell);
+    if (isUnsettled(remote.slab)) settleSlab(remote.slab);
+  }
+  const uint32_t bytes = box->count * sizeClass.objectBytes;
+  keepEmptyBox(remoteSideOf(sizeClass), box);
+  return bytes;
+}
+
+uint32_t reclaimGrip(SizeClass &sizeClass, const Grip &grip) {
+  uint32_t bytes = reclaimBox(sizeClass, grip.box);
   for (uint32_t i = 0; i < grip.count; ++i) bytes += reclaimCells(grip.slabs[i], grip.cells[i]);
   return bytes;
 }
 
+// Whether there was room for the cell in the box. The first cell finds no box and makes it.
+bool noteInBox(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
+  RemoteBox *&box = remoteSideOf(sizeClass).filling;
+  if (box == nullptr) {
+    box = static_cast<RemoteBox *>(processHeap.load(std::memory_order_relaxed)->take(sizeof(RemoteBox)));
+    if (box == nullptr) return false;
+    box->count = 0;
+  }
+  if (box->count == kBoxCells) return false;
+  box->cells[box->count++] = {slab, cell};
+  return true;
+}
+
 void deferCell(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
   sizeClass.remoteBytes += sizeClass.objectBytes;
-  cell->next = slab->remoteHead;
-  slab->remoteHead = cell;
+  if (!noteInBox(sizeClass, slab, cell)) {
+    cell->next = slab->remoteHead;
+    slab->remoteHead = cell;
+  }
   if (slab->pendingNext != slab) return;
   slab->pendingNext = sizeClass.pendingSlabs.load(std::memory_order_relaxed);
   sizeClass.pendingSlabs.store(slab, std::memory_order_relaxed);
@@ -90,39 +140,48 @@ void freeCellOfOrphan(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
 void freeCellOfOtherThread(Slab *slab, FreeCell *cell) {
   SizeClass &sizeClass = *slab->sizeClass;
   sizeClass.lock.enter();
-  if (sizeClass.heap->orphaned.load(std::memory_order_acquire) != kOwned)
-    return freeCellOfOrphan(sizeClass, slab, cell);
+  if (remoteSideOf(sizeClass).closed) return freeCellOfOrphan(sizeClass, slab, cell);
   deferCell(sizeClass, slab, cell);
   sizeClass.lock.leave();
 }
 
+void discardBoxes(SizeClass &sizeClass) {
+  RemoteSide &side = remoteSideOf(sizeClass);
+  processHeap.load()->give(side.filling);
+  processHeap.load()->give(side.empty);
+  side.filling = side.empty = nullptr;
+}
+
 void reclaimPending(SizeClass &sizeClass) {
-  while (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) {
+  bool more = true;
+  while (more) {
     Grip grip;
-    takePending(sizeClass, grip);
-    sizeClass.remoteBytes -= reclaimGrip(grip);
+    more = takePending(sizeClass, grip);
+    sizeClass.remoteBytes -= reclaimGrip(sizeClass, grip);
   }
 }
 
 void reclaim(SizeClass &sizeClass) {
-  HeapRecords &records = recordsOf(sizeClass.heap);
-  uint64_t &last = records.lastReclaim[&sizeClass - records.sizeClasses];
+  uint64_t &last = remoteSideOf(sizeClass).lastReclaim;
   const uint64_t now = timeStamp();
   if (now - last < kReclaimPause) return;
   last = now;
   reclaimNow(sizeClass);
 }
 
-// The walk along the cells, each perhaps in another processor's cache, is done without the lock.
+// The work on the cells, each perhaps in another processor's cache, is done without the lock.
 void reclaimNow(SizeClass &sizeClass) {
-  Grip grip = {kGripSlabs, {}, {}};
-  while (grip.count == kGripSlabs && sizeClass.lock.tryEnter()) {
-    takePending(sizeClass, grip);
+  if (!sizeClass.lock.tryEnter()) return;
+  bool more = true;
+  while (more) {
+    Grip grip;
+    more = takePending(sizeClass, grip);
     sizeClass.lock.leave();
-    const uint32_t bytes = reclaimGrip(grip);
-    LockGuard guard(sizeClass.lock);
+    const uint32_t bytes = reclaimGrip(sizeClass, grip);
+    sizeClass.lock.enter();
     sizeClass.remoteBytes -= bytes;
   }
+  sizeClass.lock.leave();
 }
 
 } // namespace torvane

@@ -1,12 +1,37 @@
-// Cells that come back from threads that do not own them, and their way home.
+// Cells that come back from threads that do not own them, and their way home. Such a thread notes the cell in
+// the class's box and leaves the cell itself alone: the cell's cache line is likely in the owner's processor,
+// and to wait for it would cost more than all the rest. Only when the box is full, or there is no memory for
+// one, the cell is linked into its slab's remote list. A slab with cells in either is on the pending list,
+// and
+//     remoteBytes = objectBytes * (cells in the box + cells on remote lists).
 #pragma once
 
 #include "heap_slab.h"
 
 namespace torvane {
 
+inline constexpr uint32_t kBoxCells = 126;
+
+struct RemoteCell {
+  Slab *slab;
+  FreeCell *cell;
+};
+
+struct RemoteBox {
+  uint32_t count;
+  RemoteCell cells[kBoxCells];
+};
+
+inline RemoteSide &remoteSideOf(SizeClass &sizeClass) {
+  HeapRecords &records = recordsOf(sizeClass.heap);
+  return records.remoteSides[&sizeClass - records.sizeClasses];
+}
+
 // Hands a cell to its owner's deferred list, or, if the owner has ended, returns it at once.
 void freeCellOfOtherThread(Slab *slab, FreeCell *cell);
+
+// Gives the boxes back, which are empty; for a class that takes no more cells this way.
+void discardBoxes(SizeClass &sizeClass);
 
 // Moves all cells that other threads have freed to their slabs' free lists. Under the class's lock.
 void reclaimPending(SizeClass &sizeClass);

@@ -63,6 +63,8 @@ void closeClass(SizeClass &sizeClass) {
   sizeClass.lock.enter();
   heap->largeLock.enter();
   reclaimPending(sizeClass);
+  discardBoxes(sizeClass);
+  remoteSideOf(sizeClass).closed = true;
   releaseIdleSlab(sizeClass);
   sizeClass.lock.leave();
   heap->largeLock.leave();
@@ -78,7 +80,8 @@ void orphanHeap(ThreadHeap *heap) {
 }
 
 void closeHeap(ThreadHeap *heap) {
-  // Whoever sees this under a class's lock also sees all that the owner wrote without one.
+  // Who sees this under largeLock, or a class closed under its lock, also sees all that the owner wrote
+  // without a lock.
   heap->orphaned.store(kClosing, std::memory_order_release);
   for (uint32_t number = 1; number <= kClassCount; ++number) closeClass(*heap->classes[number]);
   orphanHeap(heap);
@@ -133,6 +136,7 @@ void dropHeap(ThreadHeap *heap) {
     SizeClass &sizeClass = *heap->classes[number];
     LockGuard guard(sizeClass.lock);
     reclaimPending(sizeClass);
+    discardBoxes(sizeClass);
     releaseAllSlabs(sizeClass);
   }
   releaseDeferredLarge(heap);

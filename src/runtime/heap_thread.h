@@ -40,6 +40,17 @@ struct ThreadHeap {
 static_assert(sizeof(void *) != 4 || sizeof(ThreadHeap) == 64);
 
 // A heap and everything that belongs to it, in one piece of the process heap.
+// A class's boxes of cells that other threads have freed; see heap_remote.h.
+struct RemoteBox;
+struct RemoteSide {
+  RemoteBox *filling; // under the class's lock
+  RemoteBox *empty;   // the owner's
+  // Under the lock: the owner has ended, and who frees a cell works on the heap. A word for each class,
+  // because the heap's own shares a cache line with the counters that an owner changes all the time.
+  bool closed;
+  uint64_t lastReclaim; // the owner's: time stamp
+};
+
 inline constexpr uintptr_t kNoHotMemory = ~uintptr_t{0xFFFF}; // where no area can lie
 
 // A slab of bare cells and its area.
@@ -57,7 +68,7 @@ struct HeapRecords {
   HotSlab hotSlabs[kHotSlabs];
   SizeClass *classes[kClassCount + 1];
   AreaCache areas;
-  uint64_t lastReclaim[kClassCount + 1]; // time stamps; see heap_remote.cpp
+  RemoteSide remoteSides[kClassCount + 1];
   alignas(kCacheLineBytes) SizeClass
       sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
 };

@@ -97,6 +97,48 @@ TEST(RemoteFree, MakesNoHeapForTheFreeingThread) {
   free(allocate(70000, 0, kFatal));
 }
 
+// Full slabs of a class whose cells come back partly through the box and partly through the slabs' own lists,
+// in more slabs than are taken off the pending list in one go.
+TEST(RemoteFree, MixesTheBoxAndTheListsOfManySlabs) {
+  for (const uint32_t size : {1000u, 4000u}) {
+    onThread([&] {
+      const uint32_t used = usedBytesOfThisThread();
+      std::vector<void *> blocks(3000);
+      for (void *&block : blocks) block = allocate(size, 0, kFatal);
+      onThread([&] {
+        for (size_t i = 0; i < blocks.size(); ++i) free(blocks[i * 7 % blocks.size()]);
+      });
+      EXPECT_TRUE(isValidHere());
+      free(allocate(size, 0, kFatal));
+      EXPECT_EQ(usedBytesOfThisThread(), used);
+      EXPECT_TRUE(isValidHere());
+    });
+  }
+}
+
+// More cells than a box holds, and cells for which there is no box: both come home all the same.
+TEST(RemoteFree, ReachesTheOwnerWithAFullBoxAndWithoutOne) {
+  for (const bool noMemory : {false, true}) {
+    onThread([&] {
+      const uint32_t used = usedBytesOfThisThread();
+      std::vector<void *> blocks(3 * 126);
+      for (void *&block : blocks) block = allocate(40, 0, kFatal);
+      onThread([&] {
+        FailingHeap heap;
+        if (noMemory) heap.failFrom(1);
+        for (void *block : blocks) free(block);
+        EXPECT_EQ(heap.failed(), noMemory);
+      });
+      EXPECT_EQ(sumOf(2), 40u * 3 * 126);
+      EXPECT_TRUE(isValidHere());
+      free(allocate(40, 0, kFatal));
+      EXPECT_EQ(usedBytesOfThisThread(), used);
+      EXPECT_EQ(sumOf(2), 0u);
+      EXPECT_TRUE(isValidHere());
+    });
+  }
+}
+
 TEST(RemoteFree, OfAllCellsOfManySlabsKeepsOneOfThem) {
   onThread([] {
     std::vector<void *> blocks(1000);

@@ -1,8 +1,10 @@
 #include "heap_walker.h"
 
+#include "runtime/heap_remote.h"
 #include "runtime/heap_slab.h"
 #include "runtime/heap_state.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -25,21 +27,42 @@ struct Totals {
   uint32_t liveBytes = 0;
 };
 
-// Marks the cells of one list; each must be a cell of the slab and on one list only. Returns their number.
+// Marks a cell that is not live; it must be the slab's and not marked yet.
+bool markCell(const Slab *slab, const FreeCell *cell, std::vector<bool> &marked, Findings &findings) {
+  const uint32_t bytes = slab->sizeClass->objectBytes;
+  const auto offset =
+      static_cast<size_t>(reinterpret_cast<const char *>(cell) - static_cast<char *>(slab->memory));
+  const size_t index = offset / bytes;
+  const bool fits = offset % bytes == 0 && index < marked.size() && !marked[index];
+  findings.expect(fits, "a free cell is not its slab's, or is free twice");
+  if (fits) marked[index] = true;
+  return fits;
+}
+
+// Marks the cells of one list. Returns their number.
 uint32_t markCells(const Slab *slab, const FreeCell *head, std::vector<bool> &marked, Findings &findings) {
-  const SizeClass &sizeClass = *slab->sizeClass;
   uint32_t count = 0;
-  for (const FreeCell *cell = head; cell != nullptr; cell = cell->next, ++count) {
-    const size_t offset =
-        static_cast<size_t>(reinterpret_cast<const char *>(cell) - static_cast<char *>(slab->memory));
-    const size_t index = offset / sizeClass.objectBytes;
-    if (offset % sizeClass.objectBytes != 0 || index >= sizeClass.objectsPerSlab || marked[index]) {
-      findings.expect(false, "a free list leaves its slab, or holds a cell twice");
-      return count;
-    }
-    marked[index] = true;
-  }
+  for (const FreeCell *cell = head; cell != nullptr && markCell(slab, cell, marked, findings);
+       cell = cell->next)
+    ++count;
   return count;
+}
+
+// The same for the slab's cells in the class's box.
+uint32_t markBoxedCells(const Slab *slab, SizeClass &sizeClass, std::vector<bool> &marked,
+                        Findings &findings) {
+  const RemoteBox *box = remoteSideOf(sizeClass).filling;
+  uint32_t count = 0;
+  for (uint32_t i = 0; box != nullptr && i < box->count; ++i)
+    if (box->cells[i].slab == slab) count += markCell(slab, box->cells[i].cell, marked, findings);
+  return count;
+}
+
+bool hasRemoteCells(SizeClass &sizeClass, const Slab *slab) {
+  if (slab->remoteHead != nullptr) return true;
+  const RemoteBox *box = remoteSideOf(sizeClass).filling;
+  return box != nullptr && std::any_of(box->cells, box->cells + box->count,
+                                       [&](const RemoteCell &remote) { return remote.slab == slab; });
 }
 
 void checkLiveHeaders(const Slab *slab, const std::vector<bool> &free, Findings &findings) {
@@ -59,12 +82,13 @@ void checkPageMap(const Slab *slab, Findings &findings) {
 }
 
 // Returns the remotely freed bytes of the slab.
-uint32_t checkSlab(const Slab *slab, const SizeClass &sizeClass, Totals &totals, Findings &findings) {
+uint32_t checkSlab(const Slab *slab, SizeClass &sizeClass, Totals &totals, Findings &findings) {
   findings.expect(slab->sizeClass == &sizeClass, "a slab is on a list of another class");
   std::vector<bool> marked(sizeClass.objectsPerSlab);
   const uint32_t freeCells = markCells(slab, slab->freeHead, marked, findings);
   findings.expect(freeCells == slab->freeCount, "freeCount is not the length of the free list");
-  const uint32_t remote = markCells(slab, slab->remoteHead, marked, findings);
+  const uint32_t remote =
+      markCells(slab, slab->remoteHead, marked, findings) + markBoxedCells(slab, sizeClass, marked, findings);
   if (hasCellHeaders(sizeClass))
     checkLiveHeaders(slab, marked, findings);
   else
@@ -87,14 +111,14 @@ std::vector<Record *> walkList(Record *head, Findings &findings, const Record *b
   return records;
 }
 
-void checkPending(const SizeClass &sizeClass, const std::vector<Slab *> &slabs, Findings &findings) {
+void checkPending(SizeClass &sizeClass, const std::vector<Slab *> &slabs, Findings &findings) {
   std::set<const Slab *> pending;
   for (const Slab *slab = sizeClass.pendingSlabs; slab != nullptr; slab = slab->pendingNext)
     if (!pending.insert(slab).second) return findings.expect(false, "the pending list runs in a circle");
   for (const Slab *slab : slabs) {
-    findings.expect((pending.erase(slab) != 0) == (slab->remoteHead != nullptr),
+    findings.expect((pending.erase(slab) != 0) == hasRemoteCells(sizeClass, slab),
                     "a slab is pending without remote cells, or has some and is not");
-    if (slab->remoteHead == nullptr)
+    if (!hasRemoteCells(sizeClass, slab))
       findings.expect(slab->pendingNext == slab, "an idle pendingNext is not the slab itself");
   }
   findings.expect(pending.empty(), "a pending slab is on no list");
