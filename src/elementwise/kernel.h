@@ -53,7 +53,6 @@ template <class Op> inline constexpr bool hasSeparateOperands = requires { requi
 // Sine and cosine of reals, which are checked here although their typed entries are not.
 template <class Op, class T>
 inline constexpr bool testsOnlyHere = isReal<T> && (isSame<Op, unary::sin> || isSame<Op, unary::cos>);
-};
 
 // One element as the loops compute it. A functor's `element` is the routine's own form, where it does what
 // the typed entry of the kind does not.

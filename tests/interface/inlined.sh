@@ -21,6 +21,8 @@ EOF
   clang++-19 -std=c++20 "${flags[@]}" -S -emit-llvm loop.cpp -o loop.ll
   ;;
 bitcode)
+  # It asks for nothing of the library but what the library exports.
+  if llvm-nm-19 "$build/torvane_scalars.bc" | grep ' U _ZN7torvane'; then exit 1; fi
   cat >loop.c <<EOF
 #include <torvane/scalars.h>
 int32_t sum(const int32_t *x, int32_t count) {
