@@ -23,7 +23,7 @@ constexpr int kWalkEvery = 64;
 constexpr int kWalkEvery = 1;
 #endif
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(NDEBUG)
-constexpr int kOperations = 3000;
+constexpr int kOperations = 1200;
 #else
 constexpr int kOperations = 60000;
 #endif
