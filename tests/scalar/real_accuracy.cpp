@@ -1,3 +1,5 @@
+// The oracles of the functions of reals, the points they are tried at, and the page of their errors. Nothing
+// where MPFR is not.
 #if __has_include(<mpfr.h>) && defined(__LP64__)
 
 #include "real_accuracy.h"
