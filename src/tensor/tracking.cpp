@@ -8,6 +8,8 @@
 #include "../runtime/memory.h"
 #include "../runtime/platform.h"
 
+#include <atomic>
+
 namespace torvane {
 
 constinit std::atomic<bool> trackingEnabled{false};
@@ -50,7 +52,8 @@ void releaseEntry(HashNode *node) {
 
 mint countLeak(HashNode *node, void *leaks) {
   const TrackedTensor *entry = entryOf(node);
-  if ((entry->state & kDeleted) == 0 && (entry->record->flags & TORVANE_FLAG_CONSTANT) == 0)
+  const uint32_t flags = std::atomic_ref(entry->record->flags).load(std::memory_order_relaxed);
+  if ((entry->state & kDeleted) == 0 && (flags & TORVANE_FLAG_CONSTANT) == 0)
     ++*static_cast<mint *>(leaks);
   return 0;
 }

@@ -1,6 +1,8 @@
 // The type of a tensor and what follows from it: tag of the element type, flags, numericBound.
 #include "tensor.h"
 
+#include <atomic>
+
 namespace torvane {
 
 namespace {
@@ -25,10 +27,11 @@ bool hasTraits(mint type) { return static_cast<uint32_t>(type) <= TORVANE_TYPE_C
 } // namespace
 
 void MTensor_applyTypeFlags(mint type, uint32_t *flags, MTensor *tensor) {
-  *flags &= ~uint32_t{TORVANE_FLAG_TYPED | TORVANE_FLAG_COMPLEX};
-  if (!hasTraits(type)) return; // a type that does not exist keeps the bound of the last one
-  *flags |= kTraits[type].flags;
-  tensor->numericBound = kTraits[type].numericBound;
+  // Relaxed, because the tracker's search for leaks may read the word meanwhile.
+  const std::atomic_ref word(*flags);
+  const uint32_t bits = word.load(std::memory_order_relaxed) & ~uint32_t{TORVANE_FLAG_TYPED | TORVANE_FLAG_COMPLEX};
+  word.store(hasTraits(type) ? bits | kTraits[type].flags : bits, std::memory_order_relaxed);
+  if (hasTraits(type)) tensor->numericBound = kTraits[type].numericBound; // else that of the last type stays
 }
 
 void MTensor_setType(MTensor *tensor, mint type) {

@@ -19,12 +19,6 @@ namespace {
 constexpr const char *kMessage = "\nNo more memory available.\nQuillon kernel has shut down.\n"
                                  "Try quitting other applications and then retry.\n";
 
-// Tables of the page map below its top, which stay for good once an address has asked for them.
-int64_t pageMapTables() {
-  using Leaf = PageMapShape<kNarrowAddresses>::Leaf; // every level below the top is as large
-  return (currentState()->pageMapBytes - int64_t{sizeof(PageMapTop)}) / int64_t{sizeof(Leaf)};
-}
-
 // Allocates with every request failing in turn; afterwards the heap is as before.
 void failEveryAllocation(uint32_t size, mint mode) {
   FailingHeap heap;

@@ -250,4 +250,9 @@ testing::AssertionResult isValidState() {
   return asResult(findings);
 }
 
+int64_t pageMapTables() {
+  using Leaf = PageMapShape<kNarrowAddresses>::Leaf; // every level below the top is as large
+  return (currentState()->pageMapBytes - int64_t{sizeof(PageMapTop)}) / int64_t{sizeof(Leaf)};
+}
+
 } // namespace torvane::test

@@ -18,4 +18,8 @@ testing::AssertionResult isValidHere(uint32_t externalBytes = 0);
 // Every heap of the process, and that the page map holds their slabs and nothing else. All threads at rest.
 testing::AssertionResult isValidState();
 
+// Tables of the page map below its top: blocks of the process heap that stay for good once an address has
+// asked for them.
+int64_t pageMapTables();
+
 } // namespace torvane::test
