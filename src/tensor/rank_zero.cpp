@@ -31,10 +31,10 @@ constexpr uint32_t kWidths[5] = {0, 4, 4, 8, 16};
 
 uint32_t scalarWidth(mint type) { return static_cast<uint32_t>(type) < 5 ? kWidths[type] : 0; }
 
-constinit std::atomic<bool> slotMade{false};
-constinit std::atomic<ThreadSlot> poolSlot{0};
+constexpr ThreadSlot kNoSlot = ~ThreadSlot{0}; // until stage 1, and after a teardown
+constinit std::atomic<ThreadSlot> poolSlot{kNoSlot};
 
-constinit Lock idleLock;
+constinit Lock idleLock; // over the making of the slot too
 constinit RankZeroPool *idlePools = nullptr; // guarded by idleLock; linked through the first table word
 
 void retirePool(void *ended) {
@@ -71,18 +71,30 @@ RankZeroPool *newPool() {
   return static_cast<RankZeroPool *>(memset(block, 0, sizeof(RankZeroPool)));
 }
 
+ThreadSlot requireSlot() {
+  LockGuard guard(idleLock);
+  ThreadSlot slot = poolSlot.load(std::memory_order_relaxed);
+  if (slot != kNoSlot) return slot;
+  if (!createThreadSlot(&slot, retirePool)) fatalOutOfMemory();
+  poolSlot.store(slot, std::memory_order_relaxed);
+  return slot;
+}
+
 // Tensors of a tracked time must be registered, so none that exist are taken over then.
 RankZeroPool *givePoolToThread() {
+  const ThreadSlot slot = requireSlot();
   RankZeroPool *pool = isTracking() ? nullptr : takeIdlePool();
   if (pool == nullptr) pool = newPool();
   for (mint row = 0; row < 3; ++row) pool->tables[row] = pool->tensors[row];
   makeTensors(pool);
-  setThreadSlotValue(poolSlot.load(std::memory_order_relaxed), pool);
+  if (!setThreadSlotValue(slot, pool)) fatalOutOfMemory();
   return pool;
 }
 
+// Before start-up there is no slot, and the number of one would be that of somebody else's.
 RankZeroPool *poolOfThread() {
-  void *pool = threadSlotValue(poolSlot.load(std::memory_order_relaxed));
+  const ThreadSlot slot = poolSlot.load(std::memory_order_relaxed);
+  void *pool = slot != kNoSlot ? threadSlotValue(slot) : nullptr;
   return pool != nullptr ? static_cast<RankZeroPool *>(pool) : givePoolToThread();
 }
 
@@ -90,18 +102,14 @@ RankZeroPool *poolOfThread() {
 
 // The slot outlives a second start-up, and with it the tensors that callers hold.
 void initializeRankZeroTensors(mint stage) {
-  if (stage != 1 || slotMade.load(std::memory_order_relaxed)) return;
-  ThreadSlot slot;
-  if (!createThreadSlot(&slot, retirePool)) fatalOutOfMemory();
-  poolSlot.store(slot, std::memory_order_relaxed);
-  slotMade.store(true, std::memory_order_relaxed);
+  if (stage == 1) requireSlot();
 }
 
 // The pools go with the allocator's memory; what must not happen is that a later start-up finds them.
 void tearDownRankZeroTensors() {
-  if (!slotMade.exchange(false, std::memory_order_relaxed)) return;
-  deleteThreadSlot(poolSlot.load(std::memory_order_relaxed));
   LockGuard guard(idleLock);
+  const ThreadSlot slot = poolSlot.exchange(kNoSlot, std::memory_order_relaxed);
+  if (slot != kNoSlot) deleteThreadSlot(slot);
   idlePools = nullptr;
 }
 

@@ -1,5 +1,6 @@
 // Coercion between integers, reals and complexes, element by element against the rules written out.
 #include "support/tensor_builders.h"
+#include <torvane/failure.h>
 
 #include <gtest/gtest.h>
 
@@ -180,6 +181,25 @@ TEST(Coercion, OfAComplexElementThatFailsLeavesTheOthersRounded) {
   EXPECT_EQ(elements<mint>(target)[0], 2);
   EXPECT_EQ(elements<mint>(target)[2], 4);
   EXPECT_EQ(elements<mint>(target)[3], -2);
+}
+
+// A raise would end the process here: in style 2 no frame is there to go to, in style 0 nothing catches.
+TEST(Coercion, ThatFailsRaisesNothingInAnyStyle) {
+  const Tensor reals = tensorOf<mreal>({3}, {kNan, kInfinity, 1e300});
+  const Tensor complexes = tensorOf<mcomplex>({3}, {{kNan, 1}, {kInfinity, 1}, {-1e300, 1}});
+  const Tensor target = newTensor(TORVANE_TYPE_INTEGER, {3});
+  setExceptionActive(14);
+  for (const mint style : {1, 2, 0}) {
+    setExceptionStyle(style);
+    for (const mint stride : {1, -1}) {
+      const mint start = stride < 0 ? 2 : 0;
+      MTensor_copySomeDataCoerce(target.get(), 0, 1, reals.get(), start, stride, 3);
+      MTensor_copySomeDataCoerce(target.get(), 0, 1, complexes.get(), start, stride, 3);
+    }
+    EXPECT_EQ(getExceptionActive(), 14);
+  }
+  setExceptionStyle(1);
+  setExceptionActive(0);
 }
 
 TEST(TensorDataToReal, ReadsIntegersRealsAndRealComplexes) {

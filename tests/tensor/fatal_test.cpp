@@ -1,4 +1,6 @@
 // What ends the process. The fatal path waits three seconds, so all the children of a test run at once.
+#include "runtime/platform.h"
+#include "runtime/startup.h"
 #include "support/failing_heap.h"
 #include "support/tensor_builders.h"
 
@@ -118,6 +120,46 @@ TEST(FatalPath, IsTakenWhenMemoryRunsOutWhereNoModeIsGiven) {
            [&] {
              const mint extents[] = {50000};
              withoutMemory([&] { MTensor_newCopyFromDataArray(3, 1, extents, data.data()); });
+           }},
+      },
+      1);
+}
+
+// The system gives the lowest free slot; taken away again, it refuses to hold a value.
+void loseTheSlotOfTheSharedScalars() {
+  ThreadSlot lowest;
+  tearDownRankZeroTensors();
+  if (!createThreadSlot(&lowest, nullptr)) return;
+  deleteThreadSlot(lowest);
+  initializeRankZeroTensors(1);
+  deleteThreadSlot(lowest);
+}
+
+void takeAllSlots() {
+  for (ThreadSlot slot; createThreadSlot(&slot, nullptr);) {
+  }
+}
+
+TEST(FatalPath, IsTakenWhenASharedScalarCannotBeHad) {
+  expectStatus(
+      {
+          {"no slot",
+           [] {
+             tearDownRankZeroTensors();
+             takeAllSlots();
+             initializeRankZeroTensors(1);
+           }},
+          {"no place in the slot",
+           [] {
+             loseTheSlotOfTheSharedScalars();
+             LoadSharedRankZeroMTensor(nullptr, TORVANE_TYPE_REAL, 0);
+           }},
+          {"no memory",
+           [] {
+             const Tensor tensor = newTensor(TORVANE_TYPE_REAL, {});
+             FailingHeap heap;
+             heap.failFrom(1);
+             for (;;) LoadNewRankZeroMTensor(nullptr, TORVANE_TYPE_COMPLEX);
            }},
       },
       1);

@@ -48,6 +48,17 @@ TEST(ReallocateAndCopyData, FreesThePayloadOfATensorWithoutElements) {
   }
 }
 
+TEST(ReallocateAndCopyData, FreesThePayloadOfATensorWhoseTypeHasNoWidth) {
+  const uint32_t before = usedBytesOfThisThread();
+  {
+    const Tensor tensor = newTensor(TORVANE_TYPE_REAL, {8});
+    tensor->type = TORVANE_TYPE_NONE;
+    MTensor_reallocateAndCopyData(tensor.get());
+    EXPECT_EQ(tensor->data, nullptr);
+  }
+  EXPECT_EQ(usedBytesOfThisThread(), before);
+}
+
 TEST(InitializeTensor, SetsEveryElementFromAnInteger) {
   for (const mint value : {0, 1, -1, INT32_MAX, INT32_MIN}) {
     const Tensor integers = newTensor(TORVANE_TYPE_INTEGER, {3, 5});

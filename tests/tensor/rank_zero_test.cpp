@@ -1,5 +1,6 @@
 // Tensors of rank 0, new and shared.
 #include "runtime/memory.h"
+#include "runtime/platform.h"
 #include "runtime/startup.h"
 #include "support/tensor_builders.h"
 
@@ -171,6 +172,56 @@ TEST_F(SharedRankZeroTensors, AreMadeAnewAfterATeardown) {
   std::thread([&] {
     for (MTensor **slot : allSlots()) EXPECT_EQ(mine.count(slot) + ended.count(slot), 0u);
   }).join();
+}
+
+// Whatever stands in other slots of the thread is not taken for a pool.
+TEST_F(SharedRankZeroTensors, AskedForBeforeStartUpAreMadeAllTheSame) {
+  tearDownRankZeroTensors();
+  torvane::free(allocate(8, 0, kFatal)); // the thread's heap stands in a slot of its own
+  const mreal x = 4.5;
+  MTensor **const slot = LoadSharedRankZeroMTensor(&x, TORVANE_TYPE_REAL, 2);
+  expectFreshScalar(*slot, TORVANE_TYPE_REAL);
+  EXPECT_EQ(*static_cast<mreal *>((*slot)->data), 4.5);
+  initializeRankZeroTensors(1);
+  EXPECT_EQ(LoadSharedRankZeroMTensor(nullptr, TORVANE_TYPE_REAL, 2), slot);
+}
+
+// A host's own destructor that runs after the library's uses the library once more, and again in the next round.
+ThreadSlot hostSlot;
+int hostRounds;
+void useTheLibraryOnceMore(void *rounds) {
+  const mreal x = ++hostRounds;
+  MTensor **const slot = LoadSharedRankZeroMTensor(&x, TORVANE_TYPE_REAL, 0);
+  EXPECT_EQ(*static_cast<mreal *>((*slot)->data), x);
+  const mint extents[] = {1000};
+  MTensor_delete(CreatePackedArray(TORVANE_TYPE_COMPLEX, 1, extents));
+  const auto left = reinterpret_cast<uintptr_t>(rounds) - 1;
+  if (left > 0) setThreadSlotValue(hostSlot, reinterpret_cast<void *>(left));
+}
+
+uint32_t heapsOfTheProcess() {
+  uint32_t count = 0;
+  torvane::free(heapStatistics(&count, 0));
+  return count;
+}
+
+TEST_F(SharedRankZeroTensors, AndTheHeapServeAThreadWhoseSlotsAreBeingEmptied) {
+  ASSERT_TRUE(createThreadSlot(&hostSlot, useTheLibraryOnceMore)); // made after the library's: runs after it
+  hostRounds = 0;
+  std::set<MTensor **> first;
+  uint32_t heaps = 0;
+  for (int life = 0; life < 20; ++life) {
+    std::thread([&] {
+      setThreadSlotValue(hostSlot, reinterpret_cast<void *>(uintptr_t{3}));
+      const std::set<MTensor **> slots = allSlots();
+      if (life == 0) first = slots;
+      EXPECT_EQ(slots, first) << "the pool went from thread to thread";
+    }).join();
+    if (life == 0) heaps = heapsOfTheProcess();
+  }
+  EXPECT_EQ(hostRounds, 3 * 20);
+  EXPECT_EQ(heapsOfTheProcess(), heaps);
+  deleteThreadSlot(hostSlot);
 }
 
 TEST_F(SharedRankZeroTensors, ServeManyThreadsThatComeAndGo) {
