@@ -40,6 +40,13 @@ static bool grow(void **block, mint *capacity, mint first, size_t itemSize) {
   return true;
 }
 
+/* No NUL, which would cut the text short, and nothing else that could upset a terminal as part of a name. */
+static bool isText(const char *text, mint length) {
+  for (const char *c = text; c < text + length; c++)
+    if ((*c >= 0 && *c < ' ' && !strchr("\t\n\v\f\r", *c)) || *c == '\0' || *c == '\x7F') return false;
+  return true;
+}
+
 static bool readStream(Csv *csv, FILE *file) {
   mint capacity = 0, length = 0, got = 0;
   do {
@@ -52,8 +59,7 @@ static bool readStream(Csv *csv, FILE *file) {
   } while (got > 0);
   csv->text[length] = '\0';
   if (ferror(file)) return csvComplain(csv, 0, 0, "%s", strerror(errno));
-  if (memchr(csv->text, '\0', (size_t)length)) return csvComplain(csv, 0, 0, "this is not a text file");
-  return true;
+  return isText(csv->text, length) || csvComplain(csv, 0, 0, "this is not a text file");
 }
 
 static bool readText(Csv *csv) {
@@ -64,12 +70,21 @@ static bool readText(Csv *csv) {
   return read;
 }
 
-/* Takes the text up to `separator` off *rest; *rest is null after the last piece. */
-static char *take(char **rest, char separator) {
-  char *piece = *rest, *end = strchr(piece, separator);
+/* Takes the text up to the separator at `end` off *rest; *rest is null after the last piece. */
+static char *take(char **rest, char *end) {
+  char *piece = *rest;
   if (end) *end = '\0';
   *rest = end ? end + 1 : NULL;
   return piece;
+}
+
+/* The comma behind the field, past those inside its quotes. A doubled quote does not end them, and stays
+ * doubled. */
+static char *commaAfter(char *field) {
+  field += strspn(field, " \t\r");
+  char *quote = *field == '"' ? strchr(field + 1, '"') : NULL;
+  while (quote && quote[1] == '"') quote = strchr(quote + 2, '"');
+  return strchr(quote ? quote : field, ',');
 }
 
 static char *withoutBlanks(char *text) {
@@ -81,7 +96,7 @@ static char *withoutBlanks(char *text) {
 }
 
 static char *takeField(char **rest) {
-  char *field = withoutBlanks(take(rest, ','));
+  char *field = withoutBlanks(take(rest, commaAfter(*rest)));
   size_t length = strlen(field);
   if (length < 2 || field[0] != '"' || field[length - 1] != '"') return field;
   field[length - 1] = '\0';
@@ -95,7 +110,7 @@ static bool parseNumber(const char *field, mreal *value) {
 }
 
 static bool allocateColumns(Csv *csv, const char *header) {
-  mint count = 1;
+  mint count = 1; /* at the most: a comma may stand in quotes */
   for (const char *c = header; *c; c++) count += *c == ',';
   mint bytes = bytesFor(count, sizeof *csv->names);
   if (bytes < 0) return csvComplain(csv, csv->headerLine, 0, "too many columns");
@@ -150,7 +165,7 @@ static bool readRecord(Csv *csv, mint line, char *rest) {
 
 static bool readLines(Csv *csv, char *rest) {
   for (mint line = 1; rest; line++) {
-    char *text = withoutBlanks(take(&rest, '\n'));
+    char *text = withoutBlanks(take(&rest, strchr(rest, '\n')));
     if (*text == '\0') continue;
     if (!csv->names) csv->headerLine = line;
     if (csv->names ? !readRecord(csv, line, text) : !readHeader(csv, text)) return false;

@@ -1,7 +1,8 @@
 /* Reads a CSV file of measurements: one header row of names, then one record a line.
  *
  * The first record decides which columns are numeric; the others are skipped. Fields are separated by
- * commas; blanks around a field and one pair of double quotes are dropped, blank lines are passed over. */
+ * commas; blanks around a field and one pair of double quotes are dropped, blank lines are passed over. A comma
+ * between the quotes belongs to the field, an end of line does not. */
 #ifndef EXAMPLE_CSV_H
 #define EXAMPLE_CSV_H
 

@@ -123,7 +123,9 @@ static bool standardise(Study *study, const Csv *csv) {
 static bool correlate(Study *study, const Csv *csv) {
   mint n = csv->numericCount, m = csv->rowCount, extents[2] = {n, n};
   MTensor *products = NULL;
-  bool done = newReals(&study->correlation, 2, extents) && newReals(&products, 1, &m);
+  if (MTensor_allocateCommon(&study->correlation, TORVANE_TYPE_REAL, 2, extents, 1) != 0)
+    return csvComplain(csv, csv->headerLine, 0, "%d numeric columns are too many to be correlated", n);
+  bool done = newReals(&products, 1, &m);
   for (mint i = 0; done && i < n * n; i++) {
     mreal *x = rowOf(study->standardised, i / n), *y = rowOf(study->standardised, i % n), sum;
     done = succeeded(machfunc_dd_times(products->data, x, y, m, dense, TORVANE_CHECK_REALS), "times") &&

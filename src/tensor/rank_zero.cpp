@@ -34,7 +34,7 @@ uint32_t scalarWidth(mint type) { return static_cast<uint32_t>(type) < 5 ? kWidt
 constexpr ThreadSlot kNoSlot = ~ThreadSlot{0}; // until stage 1, and after a teardown
 constinit std::atomic<ThreadSlot> poolSlot{kNoSlot};
 
-constinit Lock idleLock; // over the making of the slot too
+constinit Lock idleLock;                     // over the making of the slot too
 constinit RankZeroPool *idlePools = nullptr; // guarded by idleLock; linked through the first table word
 
 void retirePool(void *ended) {

@@ -53,8 +53,7 @@ void releaseEntry(HashNode *node) {
 mint countLeak(HashNode *node, void *leaks) {
   const TrackedTensor *entry = entryOf(node);
   const uint32_t flags = std::atomic_ref(entry->record->flags).load(std::memory_order_relaxed);
-  if ((entry->state & kDeleted) == 0 && (flags & TORVANE_FLAG_CONSTANT) == 0)
-    ++*static_cast<mint *>(leaks);
+  if ((entry->state & kDeleted) == 0 && (flags & TORVANE_FLAG_CONSTANT) == 0) ++*static_cast<mint *>(leaks);
   return 0;
 }
 

@@ -29,7 +29,8 @@ bool hasTraits(mint type) { return static_cast<uint32_t>(type) <= TORVANE_TYPE_C
 void MTensor_applyTypeFlags(mint type, uint32_t *flags, MTensor *tensor) {
   // Relaxed, because the tracker's search for leaks may read the word meanwhile.
   const std::atomic_ref word(*flags);
-  const uint32_t bits = word.load(std::memory_order_relaxed) & ~uint32_t{TORVANE_FLAG_TYPED | TORVANE_FLAG_COMPLEX};
+  const uint32_t bits =
+      word.load(std::memory_order_relaxed) & ~uint32_t{TORVANE_FLAG_TYPED | TORVANE_FLAG_COMPLEX};
   word.store(hasTraits(type) ? bits | kTraits[type].flags : bits, std::memory_order_relaxed);
   if (hasTraits(type)) tensor->numericBound = kTraits[type].numericBound; // else that of the last type stays
 }

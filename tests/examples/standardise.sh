@@ -71,6 +71,28 @@ a_missing_file_is_named) refused 1 'standardise: no/such.csv: No such file or di
 a_directory_is_refused) mkdir d && refused 1 'standardise: d: Is a directory' d ;;
 an_empty_file_is_refused) table '' && refused 1 'standardise: t.csv:1: the file is empty' t.csv ;;
 a_binary_file_is_refused) table 'a\n1\0\n' && refused 1 'standardise: t.csv: this is not a text file' t.csv ;;
+control_characters_are_refused)
+  for byte in 001 010 033 037 177; do
+    table "a,b\\$byte\n1,2\n3,4\n" && refused 1 'standardise: t.csv: this is not a text file' t.csv
+  done
+  ;;
+letters_beyond_ascii_are_text)
+  table 'gr\xc3\xb6\xc3\x9fe,b\n1,2\n3,5\n4,4\n' && "$program" t.csv >out || fail "exit status $?"
+  line $(printf 'gr\xc3\xb6\xc3\x9fe') 3 2.66667
+  ;;
+a_comma_in_quotes_belongs_to_its_field)
+  table 'a,"b, or ""c, d""", "e,f" \n1,"2",x\n3,5,"y,z"\n4,4,\n' && "$program" t.csv >out || fail "exit status $?"
+  line 't.csv: 3 rows, 2 numeric columns'
+  line 'b, or ""c, d"" 3 3.66667'
+  line 'skipped, not numeric: e,f'
+  table 'a,"b,c\n1,2\n' && refused 1 'standardise: t.csv:2: column 3 (c): the row ends before it; the header names 3 columns' t.csv
+  table 'a,5" pipe\n1,2\n3,5\n' && "$program" t.csv >out || fail "exit status $?"
+  line '5" pipe 2 3.5'
+  ;;
+more_columns_than_can_be_correlated_are_refused)
+  awk 'BEGIN { for (r = 0; r < 3; r++) for (c = 1; c <= 50000; c++) printf "%s%s", r ? r * c : "c" c, c < 50000 ? "," : "\n" }' >t.csv
+  refused 1 'standardise: t.csv:1: 50000 numeric columns are too many to be correlated' t.csv
+  ;;
 a_header_alone_is_refused)
   table 'a,b\n' && refused 1 'standardise: t.csv:1: there is no row of values below the header' t.csv
   ;;

@@ -63,6 +63,22 @@ TEST(Exhaustion, AtAnyRequestOfTheFirstStateLeavesNothingBehind) {
   EXPECT_EQ(outcome.status, 0);
 }
 
+TEST(Exhaustion, OfTheThreadSlotsLeavesNothingBehind) {
+  const ChildOutcome outcome = runInChild([] {
+    tearDownMemory();
+    for (ThreadSlot slot; createThreadSlot(&slot, nullptr);) {
+    }
+    FailingHeap heap;
+    for (const mint mode : {1, 2, 3})
+      if (allocate(100, 0, mode) != nullptr) _exit(2);
+    if (currentState() != nullptr || heap.blocksOut() != 0) _exit(3);
+    allocate(100, 0, kFatal);
+    _exit(4);
+  });
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, kMessage);
+}
+
 TEST(Exhaustion, InTheReportModeChecksTheLimit) {
   onThread([] {
     free(allocate(8, 0, kFatal));

@@ -2,11 +2,17 @@
 #include "algorithms/hash_table_settings.h"
 #include "arrays/element_type_names.h"
 #include "runtime/failure.h"
+#include "runtime/heap_state.h"
+#include "runtime/heap_thread.h"
 #include "runtime/memory.h"
 #include "runtime/set_jump.h"
 #include "runtime/startup.h"
 #include "runtime/thresholds.h"
 #include "support/child_process.h"
+#include "support/failing_heap.h"
+#include "support/heap_walker.h"
+#include "support/on_thread.h"
+#include "tensor/tensor.h"
 #include <torvane/elementwise.h>
 #include <torvane/startup.h>
 
@@ -15,6 +21,10 @@
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace torvane;
 
@@ -138,6 +148,127 @@ TEST(Startup, HostsStartRunsTheStagesOnceAndIgnoresLaterArguments) {
     EXPECT_FALSE(effects().hashes || effects().thresholds);
     EXPECT_EQ(getAbortWatchHandle(), &firstFlag);
     EXPECT_EQ(checkAbortWatch(), 1);
+  });
+}
+
+// This thread plays the host: its state and heap exist, the library knows neither.
+TEST(Startup, HostsStartAdoptsTheStateThatItIsGivenTheFirstTime) {
+  inFreshProcess([] {
+    void *block = allocate(100, 0, kFatal);
+    ThreadHeap *const heap = threadHeap;
+    AllocatorState *const state = currentState();
+    allocatorState = nullptr;
+    threadHeap = nullptr;
+    InitializeTorvaneRTL(state, nullptr, nullptr);
+    EXPECT_EQ(currentState(), state);
+    EXPECT_EQ(ensureThreadHeap(), heap);
+    const uint32_t used = usedBytesOfThisThread();
+    torvane::free(block);
+    EXPECT_EQ(usedBytesOfThisThread(), used - 104);
+    AllocatorState other = {};
+    InitializeTorvaneRTL(&other, nullptr, nullptr);
+    EXPECT_EQ(currentState(), state);
+    EXPECT_TRUE(test::isValidState());
+  });
+}
+
+ProcessHeap watchingHeap = platformProcessHeap;
+int requestsSeen, requestsWithTheHostsFlag;
+void noteFlag() {
+  ++requestsSeen;
+  requestsWithTheHostsFlag += getAbortWatchHandle() == &firstFlag;
+}
+
+// The stages ask the process heap for memory, and so can be looked into while they run.
+TEST(Startup, NoStageSeesTheHostsAbortPointers) {
+  inFreshProcess([] {
+    tearDownMemory();
+    watchingHeap.take = [](size_t bytes) { return noteFlag(), platformProcessHeap.take(bytes); };
+    watchingHeap.takeAligned = [](size_t bytes, size_t alignment) {
+      return noteFlag(), platformProcessHeap.takeAligned(bytes, alignment);
+    };
+    processHeap = &watchingHeap;
+    InitializeTorvaneRTL(nullptr, &firstFlag, yes);
+    EXPECT_GT(requestsSeen, 5);
+    EXPECT_EQ(requestsWithTheHostsFlag, 0);
+    EXPECT_EQ(getAbortWatchHandle(), &firstFlag);
+  });
+}
+
+constexpr int kLivesWell = 0, kFatalStatus = 1, kLivesIll = 2, kNothingFailed = 3;
+
+// Start-up with its k-th request failing, in a process of its own that the caller waits for.
+pid_t startWithFailure(int64_t k) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
+  tearDownLibrary(0);
+  test::FailingHeap heap;
+  heap.failRequest(k);
+  disturb();
+  InitializeRuntimeLibrary();
+  const bool failed = heap.failed();
+  heap.succeed();
+  const bool well = effects().hashes && effects().names && effects().thresholds &&
+                    getEternalMTensor() != nullptr && test::isValidState();
+  _exit(!well ? kLivesIll : failed ? kLivesWell : kNothingFailed);
+}
+
+int statusOf(pid_t child) {
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+// What can be done without, the growth of a table, is done without. All children at once: fatal ones take
+// three seconds.
+TEST(Startup, WithoutMemoryIsTheFatalPathOrLeavesNothingOut) {
+  constexpr int64_t kChildren = 40;
+  std::vector<pid_t> children;
+  for (int64_t k = 1; k <= kChildren; ++k) children.push_back(startWithFailure(k));
+  std::vector<int> statuses;
+  for (const pid_t child : children) statuses.push_back(statusOf(child));
+  size_t requests = 0;
+  while (requests < statuses.size() && statuses[requests] != kNothingFailed) ++requests;
+  ASSERT_LT(requests, statuses.size()) << "start-up makes more requests than were failed";
+  for (size_t k = 0; k < requests; ++k)
+    EXPECT_TRUE(statuses[k] == kFatalStatus || statuses[k] == kLivesWell) << k << ": " << statuses[k];
+  for (const size_t k : {0, 1, 2, 3, 4}) EXPECT_EQ(statuses[k], kFatalStatus) << "state and heap are needed";
+}
+
+TEST(Startup, MakesTheEndOfAThreadsHeapAnExitHook) {
+  inFreshProcess([] {
+    InitializeRuntimeLibrary();
+    test::onThread([] {
+      torvane::free(allocate(100, 0, kFatal));
+      ASSERT_NE(threadHeap, nullptr);
+      runThreadExitHooks();
+      EXPECT_EQ(threadHeap, nullptr);
+      EXPECT_EQ(threadSlotValue(currentState()->tlsSlot), nullptr);
+    });
+  });
+}
+
+TEST(Startup, TensorsAndHeapsSurviveARestartAndTheEternalTensorIsMadeAnew) {
+  inFreshProcess([] {
+    InitializeRuntimeLibrary();
+    const mint extents[] = {3};
+    MTensor *const tensor = CreatePackedArray(TORVANE_TYPE_INTEGER, 1, extents);
+    MTensor_initialize(tensor, 7);
+    ThreadHeap *const heap = threadHeap;
+    AllocatorState *const state = currentState();
+    MTensor *const eternal = getEternalMTensor();
+    for (int time = 0; time < 3; ++time) InitializeRuntimeLibrary();
+    EXPECT_EQ(currentState(), state);
+    EXPECT_EQ(ensureThreadHeap(), heap);
+    EXPECT_TRUE(isValidTensor(tensor));
+    EXPECT_EQ(static_cast<mint *>(tensor->data)[2], 7);
+    EXPECT_NE(getEternalMTensor(), eternal);
+    EXPECT_EQ(eternal->flags, uint32_t{TORVANE_FLAG_ETERNAL});
+    MTensor_delete(eternal);
+    EXPECT_EQ(eternal->refCount, int64_t{1} << 32);
+    MTensor_delete(tensor);
+    EXPECT_TRUE(test::isValidState());
   });
 }
 

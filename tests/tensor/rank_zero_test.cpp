@@ -186,7 +186,8 @@ TEST_F(SharedRankZeroTensors, AskedForBeforeStartUpAreMadeAllTheSame) {
   EXPECT_EQ(LoadSharedRankZeroMTensor(nullptr, TORVANE_TYPE_REAL, 2), slot);
 }
 
-// A host's own destructor that runs after the library's uses the library once more, and again in the next round.
+// A host's own destructor that runs after the library's uses the library once more, and again in the next
+// round.
 ThreadSlot hostSlot;
 int hostRounds;
 void useTheLibraryOnceMore(void *rounds) {
