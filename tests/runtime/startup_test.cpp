@@ -159,6 +159,7 @@ TEST(Startup, HostsStartAdoptsTheStateThatItIsGivenTheFirstTime) {
     AllocatorState *const state = currentState();
     allocatorState = nullptr;
     threadHeap = nullptr;
+    ASSERT_NE(ensureThreadHeap(), heap); // of a state of the library's own, which the host's now replaces
     InitializeTorvaneRTL(state, nullptr, nullptr);
     EXPECT_EQ(currentState(), state);
     EXPECT_EQ(ensureThreadHeap(), heap);
@@ -234,6 +235,26 @@ TEST(Startup, WithoutMemoryIsTheFatalPathOrLeavesNothingOut) {
   for (size_t k = 0; k < requests; ++k)
     EXPECT_TRUE(statuses[k] == kFatalStatus || statuses[k] == kLivesWell) << k << ": " << statuses[k];
   for (const size_t k : {0, 1, 2, 3, 4}) EXPECT_EQ(statuses[k], kFatalStatus) << "state and heap are needed";
+}
+
+int exitHookCalls;
+bool hookSawTheMap;
+void countExitHook() {
+  ++exitHookCalls;
+  hookSawTheMap = elementTypeOfPrimaryName("Real64") == 10;
+}
+
+TEST(Startup, StageOneMakesBothListsOfHooks) {
+  inFreshProcess([] {
+    tearDownLibrary(0);
+    InitRuntimeLibrary(0);
+    InitRuntimeLibrary(1);
+    test::FailingHeap heap;
+    heap.failFrom(1); // a list that had to be made now would be the fatal path
+    addThreadStartHook(countExitHook);
+    addThreadExitHook(countExitHook);
+    EXPECT_EQ(heap.requests(), 0);
+  });
 }
 
 TEST(Startup, MakesTheEndOfAThreadsHeapAnExitHook) {
@@ -313,13 +334,6 @@ TEST(Startup, HostThatFixesTheWorkersBetweenTheStagesKeepsThem) {
     for (mint stage = 1; stage < 5; ++stage) InitRuntimeLibrary(stage);
     EXPECT_EQ(workerCount(), 77);
   });
-}
-
-int exitHookCalls;
-bool hookSawTheMap;
-void countExitHook() {
-  ++exitHookCalls;
-  hookSawTheMap = elementTypeOfPrimaryName("Real64") == 10;
 }
 
 TEST(Startup, TeardownRunsTheExitHooksFirstWhenAskedTo) {

@@ -1,5 +1,6 @@
 // Order, growth and uniqueness of the thread hooks.
 #include "runtime/startup.h"
+#include "support/child_process.h"
 #include "support/failing_heap.h"
 
 #include <gtest/gtest.h>
@@ -86,6 +87,19 @@ TEST_F(ThreadHooks, ListsStartWithEightPlacesAndDouble) {
   for (int i = 0; i < 40; ++i) EXPECT_EQ(ran[static_cast<size_t>(i)], i);
   tearDownThreadHookLists();
   EXPECT_EQ(heap.blocksOut(), 0);
+}
+
+TEST_F(ThreadHooks, ListWithoutMemoryIsTheFatalPath) {
+  void (*const uses[])() = {createThreadHookLists, [] { addThreadExitHook(hook<1>); }};
+  for (const auto use : uses) {
+    const test::ChildOutcome child = test::runInChild([use] {
+      test::FailingHeap heap;
+      heap.failRequest(1);
+      use();
+    });
+    EXPECT_TRUE(child.exited);
+    EXPECT_EQ(child.status, 1);
+  }
 }
 
 TEST_F(ThreadHooks, ListsAreUsableBeforeTheyAreCreated) {

@@ -154,6 +154,21 @@ TEST(ResetDimensions, ToRankZeroCountsOne) {
   EXPECT_TRUE(isValidTensor(tensor.get()));
 }
 
+// A rank that has fallen leaves the further extents in the block, and the tensor's own pointer brings them
+// back, although the block moves.
+TEST(ResetDimensions, WithTheTensorsOwnPointerTakesTheExtentsAlongWhenTheBlockMoves) {
+  const Tensor tensor = tensorOf<mint>({1}, {5});
+  const Extents many(1000, 7);
+  const mint one[] = {1};
+  MTensor_resetDimensions(tensor.get(), 1000, many.data());
+  MTensor_resetDimensions(tensor.get(), 1, one);
+  const mint *const block = tensor->dimensions;
+  MTensor_resetDimensions(tensor.get(), 3, tensor->dimensions);
+  EXPECT_NE(tensor->dimensions, block);
+  EXPECT_EQ(extentsOf(tensor), Extents({1, 7, 7}));
+  MTensor_resetDimensions(tensor.get(), 1, tensor->dimensions);
+}
+
 TEST(ResetDimensions, WithTheTensorsOwnPointerShortensOrKeepsTheShape) {
   const Tensor tensor = tensorOf<mint>({3, 1}, {1, 2, 3});
   MTensor_resetDimensions(tensor.get(), 2, tensor->dimensions);
