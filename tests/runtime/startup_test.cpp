@@ -234,7 +234,7 @@ TEST(Startup, WithoutMemoryIsTheFatalPathOrLeavesNothingOut) {
   ASSERT_LT(requests, statuses.size()) << "start-up makes more requests than were failed";
   for (size_t k = 0; k < requests; ++k)
     EXPECT_TRUE(statuses[k] == kFatalStatus || statuses[k] == kLivesWell) << k << ": " << statuses[k];
-  for (const size_t k : {0, 1, 2, 3, 4}) EXPECT_EQ(statuses[k], kFatalStatus) << "state and heap are needed";
+  for (size_t k = 0; k < 5; ++k) EXPECT_EQ(statuses[k], kFatalStatus) << "state and heap are needed";
 }
 
 int exitHookCalls;
