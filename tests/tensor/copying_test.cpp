@@ -91,6 +91,16 @@ TEST(TensorCopy, OntoItselfDoesNothing) {
   }
 }
 
+// Of two records without type the same copy would ask for elements without width.
+TEST(TensorCopy, OntoItselfDoesNothingToAFreshRecordEither) {
+  for (const WholeCopy &copy : kWholeCopies) {
+    const Tensor fresh(MTensor_new());
+    const MTensor before = *fresh;
+    EXPECT_EQ(copy(fresh, fresh), 0);
+    EXPECT_EQ(memcmp(fresh.get(), &before, sizeof before), 0);
+  }
+}
+
 TEST(TensorCopy, IntoAnEmptySlotMakesATensor) {
   const Tensor source = tensorOf<mreal>({2}, {1.5, 2.5});
   MTensor *slot = nullptr;

@@ -109,6 +109,11 @@ TEST(FatalPath, IsTakenWhenMemoryRunsOutWhereNoModeIsGiven) {
           {"allocation", [&] { withoutMemory([&] { allocateAs(target, 3, {100000}, kFatal); }); }},
           {"extents", [&] { withoutMemory([&] { allocateAs(target, 3, wide, kFatal); }); }},
           {"copy", [&] { withoutMemory([&] { MTensor_copy(target.get(), source.get()); }); }},
+          {"copy into a slot",
+           [&] {
+             MTensor *slot = target.get();
+             withoutMemory([&] { MTensor_makeCopy(&slot, source.get()); });
+           }},
           {"reset dimensions",
            [&] { withoutMemory([&] { MTensor_resetDimensions(source.get(), 50000, wide.data()); }); }},
           {"fitted payload",
