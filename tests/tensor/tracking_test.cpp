@@ -190,6 +190,19 @@ TEST_F(Tracking, TakesTensorsOfManyThreads) {
   EXPECT_EQ(takeTexts(), Texts(20, "MTensor has already been freed"));
 }
 
+// A thread that saw tracking on and finds it ended under the lock has its tensor to free itself.
+TEST_F(Tracking, ThatHasEndedMeanwhileNotesNothing) {
+  MTensor *const tensor = newVector(2);
+  MTensor_stopTracking(1);
+  takeTexts();
+  EXPECT_FALSE(trackDeletion(tensor));
+  trackCreation(tensor);
+  EXPECT_EQ(takeTexts(), Texts());
+  const uint32_t used = usedBytesOfThisThread();
+  MTensor_delete(tensor);
+  EXPECT_LT(usedBytesOfThisThread(), used);
+}
+
 TEST_F(Tracking, LetsTheReportFunctionMakeTensors) {
   MTensor_startTracking([](const char *text) {
     report(text);
