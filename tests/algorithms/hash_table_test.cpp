@@ -309,6 +309,14 @@ TEST_F(Table, ComparisonIsAskedOnlyForEqualHashes) {
   EXPECT_EQ(keyCalls, 2000);
 }
 
+TEST_F(Table, RemovalByNodeTakesTheHashFromTheNode) {
+  table = HashTable_new(0, countedHash, countedCopy, countedCompare, nullptr, nullptr);
+  const HashNode *node = HashTable_insert(table, 5);
+  keyCalls = 0;
+  EXPECT_EQ(HashTable_removeNode(table, node), 1);
+  EXPECT_EQ(keyCalls, 1); // one comparison, no hash
+}
+
 std::vector<uintptr_t> keysInOrder(HashTable *table) {
   std::vector<uintptr_t> keys;
   HashTable_forEach(
@@ -426,6 +434,13 @@ TEST_F(Table, MemorySizeCountsTableBucketsNodesAndWhatTheCallbackSays) {
   EXPECT_EQ(HashTable_memorySize(table,
                                  [](const HashNode *node) { return static_cast<uint32_t>(node->key) * 100; }),
             empty + 5 * 4 * word + 1000);
+}
+
+TEST(HashTableMemorySize, AsksNoNodeOfATableWithoutBuckets) {
+  HashTable bare = {};
+  bare.bucketCount = 7;
+  const NodeSizeFunction never = [](const HashNode *) { return 1000u; };
+  EXPECT_EQ(HashTable_memorySize(&bare, never), sizeof(HashTable) + 7 * sizeof(HashNode *));
 }
 
 // A process heap that has small blocks, for the nodes, and no big ones, for the buckets.
