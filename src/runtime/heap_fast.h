@@ -16,60 +16,67 @@ inline constexpr uint32_t roundUpTo8(uint32_t size) { return (size + 7) & ~7u; }
 [[gnu::noinline]] void freeByPageMap(void *block);
 [[gnu::noinline]] void settleAndReclaim(Slab *slab);
 
-// Takes the first free cell of a slab on the partial list. `hasHeader` is known where this is called.
-[[gnu::always_inline]] inline void *handOut(ThreadHeap *heap, SizeClass &sizeClass, Slab *slab,
-                                            bool hasHeader) {
-  FreeCell *cell = slab->freeHead;
-  const uint32_t bytes = sizeClass.objectBytes;
-  slab->freeHead = cell->next;
-  chargeBytes(heap, bytes);
+// Whether a cell of the slab may be handed out at once: nothing waits in its class for the owner, and `used`,
+// what usedBytes will be, needs no look at peak or limit.
+[[gnu::always_inline]] inline bool isQuiet(const ThreadHeap *heap, const Slab *slab, uint32_t used) {
+  return !hasPending(*slab->ownClass) && used < heap->noticeBytes;
+}
+
+// Takes the first free cell of a slab on the partial queue, `head`, and notes the new usedBytes.
+[[gnu::always_inline]] inline void *takeCell(ThreadHeap *heap, Slab *slab, CellLink head, uint32_t used,
+                                             bool hasHeader) {
+  FreeCell *const cell = head.cell();
+  const CellLink rest = cell->next;
+  slab->freeHead = rest;
+  heap->usedBytes.set(used);
   void *block = cell;
   if (hasHeader) {
     *reinterpret_cast<uintptr_t *>(cell) = reinterpret_cast<uintptr_t>(slab) + 1;
     block = reinterpret_cast<char *>(cell) + kCellHeaderBytes;
   }
-  if (--slab->freeCount == 0) [[unlikely]]
+  if (rest.isNull()) [[unlikely]]
     return moveToFull(slab, block);
   return block;
 }
 
-// Size 0 finds the empty class 0, which has nothing ready.
-[[gnu::always_inline]] inline void *takeReadyCell(uint32_t size, uint32_t bytes, bool hasHeader,
-                                                  mint errorMode) {
-  ThreadHeap *heap = threadHeap;
-  if (heap == nullptr || heap->limitBytes != 0) [[unlikely]]
-    return allocateSlowly(size, errorMode);
-  SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[bytes / 8]];
-  Slab *slab = sizeClass.partialSlabs;
-  if (slab == nullptr || sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
-    return allocateSlowly(size, errorMode);
-  return handOut(heap, sizeClass, slab, hasHeader);
-}
-
+// Size 0 finds no slab.
 [[gnu::always_inline]] inline void *allocateInline(uint32_t size, mint errorMode) {
-  if (size <= kMaxBareCellBytes) [[likely]]
-    return takeReadyCell(size, roundUpTo8(size), false, errorMode);
-  return allocateWithHeader(size, errorMode);
+  if (size > kMaxBareCellBytes) [[unlikely]]
+    return allocateWithHeader(size, errorMode);
+  ThreadHeap *heap = threadHeap;
+  Slab *slab = recordsOf(heap).readySlabs[(size + 7) / 8];
+  const CellLink head = slab->freeHead;
+  const uint32_t used = heap->usedBytes.value() + slab->objectBytes;
+  if (head.isNull() || !isQuiet(heap, slab, used)) [[unlikely]]
+    return allocateSlowly(size, errorMode);
+  return takeCell(heap, slab, head, used, false);
 }
 
 // Puts a cell back into a slab of this thread's heap.
 [[gnu::always_inline]] inline void takeBack(ThreadHeap *heap, Slab *slab, FreeCell *cell) {
-  const SizeClass &sizeClass = *slab->sizeClass;
-  returnCell(heap, slab, cell);
-  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) [[unlikely]]
+  const CellLink rest = slab->freeHead;
+  const uint32_t count = rest.count() + 1;
+  cell->next = rest;
+  slab->freeHead = CellLink(cell, count);
+  heap->usedBytes.subtract(slab->objectBytes);
+  if (hasPending(*slab->ownClass)) [[unlikely]]
     return settleAndReclaim(slab);
-  if (slab->freeCount == 1) [[unlikely]]
+  if (rest.isNull()) [[unlikely]]
     return moveToPartial(slab);
-  if (slab->freeCount == sizeClass.objectsPerSlab) retireSlab(slab);
+  if (count == slab->retireCount) [[unlikely]]
+    return retireSlab(slab);
 }
 
 [[gnu::always_inline]] inline void freeInline(void *block) {
   ThreadHeap *heap = threadHeap;
-  if (heap != nullptr) [[likely]] {
-    const auto address = reinterpret_cast<uintptr_t>(block);
-    const HotSlab &hot = hotSlabFor(recordsOf(heap), address);
-    if (address - hot.memory < kBareSlabBytes) [[likely]]
-      return takeBack(heap, hot.slab, static_cast<FreeCell *>(block));
+  const auto address = reinterpret_cast<uintptr_t>(block);
+  HotSlab &last = recordsOf(heap).lastSlab;
+  if (address - last.memory < kBareSlabBytes) [[likely]]
+    return takeBack(heap, last.slab, static_cast<FreeCell *>(block));
+  const HotSlab hot = hotSlabFor(recordsOf(heap), address);
+  if (address - hot.memory < kBareSlabBytes) {
+    last = hot;
+    return takeBack(heap, hot.slab, static_cast<FreeCell *>(block));
   }
   freeByPageMap(block);
 }

@@ -25,13 +25,16 @@ void freeOfOtherThread(LargeBlock *block) {
 
 void *takeLargeBlock(ThreadHeap *heap, uint32_t totalBytes) {
   if (heap->deferredLarge.load(std::memory_order_relaxed) != nullptr) releaseDeferredLarge(heap);
-  auto *block = static_cast<LargeBlock *>(takeArea(areasOf(heap), totalBytes));
+  const uint32_t grade = gradeOf(totalBytes);
+  auto *block = static_cast<LargeBlock *>(takeArea(areasOf(heap), totalBytes, grade));
   if (block == nullptr) return nullptr;
   pushFront(heap->largeBlocks, block);
   block->deferredNext = block;
   block->heap = heap;
   block->totalBytes = totalBytes;
-  block->reserved = 0;
+  block->areaGrade = grade;
+  heap->heldBytes += totalBytes;
+  chargeBytes(heap, totalBytes);
   return block + 1;
 }
 
@@ -62,7 +65,7 @@ void releaseLargeBlock(LargeBlock *block) {
   unlink(heap->largeBlocks, block);
   heap->usedBytes.subtract(block->totalBytes);
   heap->heldBytes -= block->totalBytes;
-  giveArea(areasOf(heap), block, block->totalBytes);
+  giveArea(areasOf(heap), block, block->areaGrade);
 }
 
 } // namespace torvane

@@ -14,14 +14,14 @@ struct LargeBlock {
   LargeBlock *next;
   ThreadHeap *heap;
   uint32_t totalBytes; // with this header
-  uint32_t reserved;
+  uint32_t areaGrade;  // what heap_area.h keeps the area under
 };
 static_assert(sizeof(void *) == 4 ? sizeof(LargeBlock) == 24 : sizeof(LargeBlock) == 40);
 
 inline LargeBlock *largeBlockOf(void *block) { return static_cast<LargeBlock *>(block) - 1; }
 
-// A block of `totalBytes` with its header, linked into the heap but not yet counted; null when memory is
-// exhausted. Returns the user's bytes. Owner only.
+// A block of `totalBytes` with its header, linked into the heap and counted; null when memory is exhausted.
+// Returns the user's bytes. Owner only.
 void *takeLargeBlock(ThreadHeap *heap, uint32_t totalBytes);
 
 // Returns a large block, from any thread.

@@ -49,26 +49,16 @@ bool takePending(SizeClass &sizeClass, Grip &grip) {
   return slab != nullptr;
 }
 
-// Puts a list of cells in front of the slab's free list; returns their number.
-uint32_t spliceCells(Slab *slab, FreeCell *cells) {
-  uint32_t count = 1;
-  FreeCell *last = cells;
-  for (; last->next != nullptr; last = last->next) ++count;
-  last->next = slab->freeHead;
-  slab->freeHead = cells;
-  slab->freeCount += count;
-  return count;
-}
-
-// Returns the bytes of the cells.
-uint32_t reclaimCells(Slab *slab, FreeCell *cells) {
-  SizeClass &sizeClass = *slab->sizeClass;
-  ThreadHeap *heap = sizeClass.heap;
-  const bool wasFull = slab->freeCount == 0;
-  const uint32_t bytes = spliceCells(slab, cells) * sizeClass.objectBytes;
-  heap->usedBytes.subtract(bytes);
-  if (wasFull) moveToPartial(slab);
-  if (slab->freeCount == sizeClass.objectsPerSlab) retireSlab(slab);
+// Returns the bytes of the cells. With the last of them the slab may be gone.
+uint32_t reclaimCells(SizeClass &sizeClass, Slab *slab, FreeCell *cells) {
+  uint32_t bytes = 0;
+  while (cells != nullptr) {
+    FreeCell *const next = cells->next.cell();
+    returnCell(sizeClass.heap, slab, cells);
+    settleSlab(slab);
+    bytes += sizeClass.objectBytes;
+    cells = next;
+  }
   return bytes;
 }
 
@@ -86,7 +76,7 @@ uint32_t reclaimBox(SizeClass &sizeClass, RemoteBox *box) {
   for (uint32_t i = 0; i < box->count; ++i) {
     const RemoteCell &remote = box->cells[i];
     returnCell(sizeClass.heap, remote.slab, remote.cell);
-    if (isUnsettled(remote.slab)) settleSlab(remote.slab);
+    settleSlab(remote.slab);
   }
   const uint32_t bytes = box->count * sizeClass.objectBytes;
   keepEmptyBox(remoteSideOf(sizeClass), box);
@@ -95,7 +85,7 @@ uint32_t reclaimBox(SizeClass &sizeClass, RemoteBox *box) {
 
 uint32_t reclaimGrip(SizeClass &sizeClass, const Grip &grip) {
   uint32_t bytes = reclaimBox(sizeClass, grip.box);
-  for (uint32_t i = 0; i < grip.count; ++i) bytes += reclaimCells(grip.slabs[i], grip.cells[i]);
+  for (uint32_t i = 0; i < grip.count; ++i) bytes += reclaimCells(sizeClass, grip.slabs[i], grip.cells[i]);
   return bytes;
 }
 
@@ -115,7 +105,7 @@ bool noteInBox(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
 void deferCell(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
   sizeClass.remoteBytes += sizeClass.objectBytes;
   if (!noteInBox(sizeClass, slab, cell)) {
-    cell->next = slab->remoteHead;
+    cell->next = CellLink(slab->remoteHead, 0);
     slab->remoteHead = cell;
   }
   if (slab->pendingNext != slab) return;
@@ -128,7 +118,7 @@ void freeCellOfOrphan(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
   ThreadHeap *heap = sizeClass.heap;
   heap->largeLock.enter();
   returnCell(heap, slab, cell);
-  if (isUnsettled(slab)) settleSlab(slab);
+  settleSlab(slab);
   reclaimPending(sizeClass);
   releaseIdleSlab(sizeClass);
   sizeClass.lock.leave();

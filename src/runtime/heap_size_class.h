@@ -31,7 +31,7 @@ struct SizeClass {
 #endif
   Slab *fullSlabs;
   Slab *partialSlabs;               // a queue (heap_list.h); cells are taken from its first slab
-  std::atomic<Slab *> pendingSlabs; // written under the lock, polled by the owner without it
+  std::atomic<Slab *> pendingSlabs; // under the lock
   Slab *spareSlab;                  // at most one wholly free slab, on no list
   uint32_t slabDataBytes;
   uint32_t objectBytes;
@@ -59,6 +59,11 @@ extern const std::array<uint8_t, kMaxSmallBytes / 8 + 1> classOfSize;
 // Lays the record out for its class: sizes and counts set, no slabs.
 void initializeSizeClass(SizeClass &sizeClass, ThreadHeap *heap, uint32_t number,
                          const AllocatorGeometry &geometry);
+
+// Whether other threads have freed cells that the owner has not taken home yet.
+inline bool hasPending(const SizeClass &sizeClass) {
+  return sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr;
+}
 
 inline bool hasCellHeaders(const SizeClass &sizeClass) { return sizeClass.slabPages == 0; }
 

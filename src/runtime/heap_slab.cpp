@@ -8,26 +8,42 @@ namespace torvane {
 
 namespace {
 
+constinit SizeClass noClass{};
+
+constexpr Slab makeNoSlab() {
+  Slab slab{};
+  slab.ownClass = &noClass;
+  return slab;
+}
+
+} // namespace
+
+constinit Slab noSlab = makeNoSlab();
+
+namespace {
+
 void *takeSlabMemory(SizeClass &sizeClass) {
   AreaCache &areas = areasOf(sizeClass.heap);
-  return hasCellHeaders(sizeClass) ? takeArea(areas, sizeClass.slabDataBytes) : takeAlignedArea(areas);
+  return hasCellHeaders(sizeClass)
+             ? takeArea(areas, sizeClass.slabDataBytes, gradeOf(sizeClass.slabDataBytes))
+             : takeAlignedArea(areas);
 }
 
 void giveSlabMemory(SizeClass &sizeClass, void *memory) {
   AreaCache &areas = areasOf(sizeClass.heap);
   if (hasCellHeaders(sizeClass))
-    giveArea(areas, memory, sizeClass.slabDataBytes);
+    giveArea(areas, memory, gradeOf(sizeClass.slabDataBytes));
   else
     giveAlignedArea(areas, memory);
 }
 
 // All cells of the area in address order; the area's remainder stays idle.
-FreeCell *chainCells(void *memory, uint32_t cellBytes, uint32_t count) {
-  char *cell = static_cast<char *>(memory);
-  for (uint32_t i = 1; i < count; ++i, cell += cellBytes)
-    reinterpret_cast<FreeCell *>(cell)->next = reinterpret_cast<FreeCell *>(cell + cellBytes);
-  reinterpret_cast<FreeCell *>(cell)->next = nullptr;
-  return static_cast<FreeCell *>(memory);
+CellLink chainCells(void *memory, uint32_t cellBytes, uint32_t count) {
+  char *at = static_cast<char *>(memory);
+  for (uint32_t rest = count - 1; rest != 0; --rest, at += cellBytes)
+    reinterpret_cast<FreeCell *>(at)->next = CellLink(reinterpret_cast<FreeCell *>(at + cellBytes), rest);
+  reinterpret_cast<FreeCell *>(at)->next = CellLink();
+  return CellLink(static_cast<FreeCell *>(memory), count);
 }
 
 bool enterSlab(const SizeClass &sizeClass, const void *memory, Slab *entry) {
@@ -40,7 +56,8 @@ void fillHeader(Slab *slab, SizeClass &sizeClass, void *memory) {
   slab->freeHead = chainCells(memory, sizeClass.objectBytes, sizeClass.objectsPerSlab);
   slab->remoteHead = nullptr;
   slab->memory = memory;
-  slab->freeCount = sizeClass.objectsPerSlab;
+  slab->ownClass = &sizeClass;
+  slab->objectBytes = sizeClass.objectBytes;
 }
 
 void forgetHotSlab(HeapRecords &records, const Slab *slab) {
@@ -50,6 +67,7 @@ void forgetHotSlab(HeapRecords &records, const Slab *slab) {
     HotSlab &entry = hotSlabFor(records, address);
     if (entry.memory == memory) entry = {kNoHotMemory, nullptr};
   }
+  if (records.lastSlab.memory == memory) records.lastSlab = {kNoHotMemory, nullptr};
 }
 
 // Gives back a slab that is on no list.
@@ -62,13 +80,32 @@ void releaseSlab(Slab *slab) {
   processHeap.load(std::memory_order_relaxed)->giveAligned(slab);
 }
 
+// Where small allocations find the queue's first slab.
+void announceHead(SizeClass &sizeClass) {
+  if (hasCellHeaders(sizeClass)) return;
+  HeapRecords &records = recordsOf(sizeClass.heap);
+  Slab *const head = sizeClass.partialSlabs != nullptr ? sizeClass.partialSlabs : &noSlab;
+  const auto number = static_cast<uint32_t>(&sizeClass - records.sizeClasses);
+  for (uint32_t eighth = cellBytesOfClass(number - 1) / 8 + 1; eighth <= sizeClass.objectBytes / 8; ++eighth)
+    records.readySlabs[eighth] = head;
+}
+
+// After each change of a partial queue or of the spare. Only the first slab of a queue is ever alone.
+void queueChanged(SizeClass &sizeClass) {
+  Slab *head = sizeClass.partialSlabs;
+  if (head != nullptr) {
+    const bool staysWhenFree = head->next == nullptr && sizeClass.spareSlab == nullptr;
+    head->retireCount = staysWhenFree ? kNeverRetire : sizeClass.objectsPerSlab;
+  }
+  announceHead(sizeClass);
+}
+
 void takeOffPartial(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
   unlinkFromQueue(sizeClass.partialSlabs, slab);
   --sizeClass.partialCount;
+  queueChanged(sizeClass);
 }
-
-bool isWhollyFree(const Slab *slab) { return slab->freeCount == slab->sizeClass->objectsPerSlab; }
 
 // At the end of the queue, so that a slab gathers free cells until its turn comes; at the front it would lose
 // each cell again at once, and move between the lists with every cell. An idle slab in place gives way:
@@ -80,15 +117,17 @@ void putOnPartial(Slab *slab) {
     takeOffPartial(head);
     sizeClass.spareSlab = head;
   }
+  slab->retireCount = sizeClass.objectsPerSlab;
   pushBack(sizeClass.partialSlabs, slab);
   ++sizeClass.partialCount;
+  queueChanged(sizeClass);
 }
 
 // Counts the cells still in use as free, so that the release of the slab leaves the counters true.
 void abandonCells(Slab *slab) {
-  ThreadHeap *heap = slab->sizeClass->heap;
-  const uint32_t live = (slab->sizeClass->objectsPerSlab - slab->freeCount) * slab->sizeClass->objectBytes;
-  heap->usedBytes.subtract(live);
+  const SizeClass &sizeClass = *slab->sizeClass;
+  const uint32_t live = sizeClass.objectsPerSlab - slab->freeHead.count();
+  sizeClass.heap->usedBytes.subtract(live * sizeClass.objectBytes);
 }
 
 } // namespace
@@ -99,7 +138,8 @@ Slab *newSlab(SizeClass &sizeClass) {
       source.takeAligned(sizeof(Slab), alignof(Slab) > sizeof(void *) ? alignof(Slab) : sizeof(void *)));
   if (slab == nullptr) return nullptr;
   void *memory = takeSlabMemory(sizeClass);
-  if (memory == nullptr || !enterSlab(sizeClass, memory, slab)) {
+  if (memory == nullptr || !CellLink::reaches(memory, sizeClass.slabDataBytes) ||
+      !enterSlab(sizeClass, memory, slab)) {
     if (memory != nullptr) giveSlabMemory(sizeClass, memory);
     source.giveAligned(slab);
     return nullptr;
@@ -120,13 +160,10 @@ Slab *takeSpareSlab(SizeClass &sizeClass) {
 
 void retireSlab(Slab *slab) {
   SizeClass &sizeClass = *slab->sizeClass;
-  const bool hasSpare = sizeClass.spareSlab != nullptr;
-  if (!hasSpare && slab == sizeClass.partialSlabs && slab->next == nullptr) return;
   takeOffPartial(slab);
-  if (hasSpare)
-    releaseSlab(slab);
-  else
-    sizeClass.spareSlab = slab;
+  if (sizeClass.spareSlab != nullptr) return releaseSlab(slab);
+  sizeClass.spareSlab = slab;
+  queueChanged(sizeClass);
 }
 
 void *moveToFull(Slab *slab, void *block) {
@@ -149,6 +186,7 @@ void releaseIdleSlab(SizeClass &sizeClass) {
   if (sizeClass.spareSlab == nullptr) return;
   releaseSlab(sizeClass.spareSlab);
   sizeClass.spareSlab = nullptr;
+  queueChanged(sizeClass);
 }
 
 void releaseAllSlabs(SizeClass &sizeClass) {

@@ -88,7 +88,7 @@ AllocatorState *ensureState() {
 void adoptAllocatorState(void *state) {
   if (state == nullptr || state == currentState()) return;
   allocatorState.store(static_cast<AllocatorState *>(state), std::memory_order_release);
-  threadHeap = nullptr; // the thread's heap is what the adopted state's slot says
+  forgetHeap(); // the thread's heap is what the adopted state's slot says
 }
 
 void tearDownMemory() {
@@ -97,7 +97,7 @@ void tearDownMemory() {
   while (state->threads != nullptr) dropHeap(state->threads);
   destroyState(state);
   allocatorState.store(nullptr, std::memory_order_release);
-  threadHeap = nullptr;
+  forgetHeap();
 }
 
 void initializeMemory(mint stage) {

@@ -17,7 +17,7 @@ constinit std::atomic<uint32_t> externalBytes{0};
 
 uint32_t remoteBytes(ThreadHeap *heap) {
   uint32_t sum = 0;
-  for (uint32_t number = 1; number <= heap->classCount; ++number) {
+  for (uint32_t number = 1; number <= kClassCount; ++number) {
     LockGuard guard(heap->classes[number]->lock);
     sum += heap->classes[number]->remoteBytes;
   }
@@ -79,14 +79,14 @@ void pushPeakMark(PeakMark **stack) {
   mark->next = *stack;
   mark->peakBytes = heap->peakBytes.value();
   *stack = mark;
-  heap->peakBytes.set(heap->usedBytes.value());
+  setPeak(heap, heap->usedBytes.value());
 }
 
 uint32_t popPeakMark(PeakMark **stack) {
   PeakMark *mark = *stack;
   ThreadHeap *heap = threadHeap;
   const uint32_t peak = heap->peakBytes.value();
-  if (mark->peakBytes > peak) heap->peakBytes.set(mark->peakBytes);
+  if (mark->peakBytes > peak) setPeak(heap, mark->peakBytes);
   *stack = mark->next;
   free(mark);
   return peak;

@@ -9,7 +9,14 @@
 
 namespace torvane {
 
-constinit thread_local ThreadHeap *threadHeap = nullptr;
+constexpr NoHeap::NoHeap() {
+  records.lastSlab.memory = kNoHotMemory;
+  for (HotSlab &entry : records.hotSlabs) entry.memory = kNoHotMemory;
+  for (Slab *&entry : records.readySlabs) entry = &noSlab;
+}
+
+constinit NoHeap noHeap;
+constinit thread_local ThreadHeap *threadHeap = &noHeap.records.heap;
 
 namespace {
 
@@ -17,14 +24,14 @@ void initializeHeap(HeapRecords &records, const AllocatorGeometry &geometry, boo
   ThreadHeap &heap = records.heap;
   heap.classes = records.classes;
   heap.classOfSize = classOfSize.data();
-  heap.maxSmallBytes = kMaxSmallBytes;
   heap.usedBytes.set(kHeapOwnBytes);
   heap.heldBytes = kHeapOwnBytes;
-  heap.peakBytes.set(kHeapOwnBytes);
-  heap.classCount = kClassCount;
+  setPeak(&heap, kHeapOwnBytes);
   heap.isMainHeap = isMain;
   heap.ownerThreadId = currentThreadId();
   records.areas.maxKeptBytes = kMaxKeptBytes;
+  records.lastSlab.memory = kNoHotMemory;
+  for (Slab *&entry : records.readySlabs) entry = &noSlab;
   for (HotSlab &entry : records.hotSlabs) entry.memory = kNoHotMemory;
   for (uint32_t number = 1; number <= kClassCount; ++number) {
     records.classes[number] = &records.sizeClasses[number];
@@ -103,25 +110,26 @@ ThreadHeap *newThreadHeap(AllocatorState *state, bool isMain) {
   return &records->heap;
 }
 
-ThreadHeap *ensureThreadHeap() {
-  if (threadHeap != nullptr) return threadHeap;
+ThreadHeap *findOrMakeThreadHeap() {
   AllocatorState *state = ensureState();
   if (state == nullptr) return nullptr;
   auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
-  return threadHeap = heap != nullptr ? heap : newThreadHeap(state, false);
+  if (heap == nullptr) heap = newThreadHeap(state, false);
+  if (heap != nullptr) threadHeap = heap;
+  return heap;
 }
 
 void endThreadHeap() {
   AllocatorState *state = currentState();
   if (state == nullptr) return;
   auto *heap = static_cast<ThreadHeap *>(threadSlotValue(state->tlsSlot));
-  threadHeap = nullptr;
+  forgetHeap();
   setThreadSlotValue(state->tlsSlot, nullptr);
   if (heap != nullptr) closeHeap(heap);
 }
 
 void endHeapOfSlot(void *heap) {
-  threadHeap = nullptr;
+  forgetHeap();
   closeHeap(static_cast<ThreadHeap *>(heap));
 }
 

@@ -26,20 +26,18 @@ struct ThreadHeap {
   LargeBlock *largeBlocks;
   std::atomic<LargeBlock *> deferredLarge; // written under largeLock, polled by the owner without it
   const uint8_t *classOfSize;
-  Lock largeLock; // over deferredLarge and, for an orphan, everything
-  uint32_t maxSmallBytes;
+  Lock largeLock;     // over deferredLarge and, for an orphan, everything
   uint32_t heldBytes; // freeBytes + usedBytes: what a cell that goes or comes leaves as it is
   ByteCounter usedBytes;
   ByteCounter peakBytes;
   uint32_t limitBytes; // 0: none
-  uint32_t classCount;
+  // A new usedBytes from here on needs a look: peakBytes + 1, or 0 while there is a limit.
+  uint32_t noticeBytes;
   uint32_t isMainHeap;
   std::atomic<uint32_t> orphaned; // an Ownership
   uint32_t ownerThreadId;
 };
-static_assert(sizeof(void *) != 4 || sizeof(ThreadHeap) == 64);
 
-// A heap and everything that belongs to it, in one piece of the process heap.
 // A class's boxes of cells that other threads have freed; see heap_remote.h.
 struct RemoteBox;
 struct RemoteSide {
@@ -60,12 +58,17 @@ struct HotSlab {
 };
 inline constexpr uint32_t kHotSlabs = 256;
 
+// A heap and everything that belongs to it, in one piece of the process heap.
 struct HeapRecords {
   ThreadHeap heap;
   // Slabs that the owner has returned bare cells to, by their place in the address space. A cell inside the
   // area of its entry belongs to that slab, which saves the look into the page map; more important, the next
   // allocation need not wait for that look to end.
+  HotSlab lastSlab; // of them the one that was returned to last, which is the likeliest
   HotSlab hotSlabs[kHotSlabs];
+  // By (size + 7) / 8, the first slab with free cells of the class that serves the size, or noSlab, which has
+  // none: what a small allocation finds its cell by.
+  Slab *readySlabs[kMaxBareCellBytes / 8 + 1];
   SizeClass *classes[kClassCount + 1];
   AreaCache areas;
   RemoteSide remoteSides[kClassCount + 1];
@@ -73,10 +76,12 @@ struct HeapRecords {
       sizeClasses[kClassCount + 1]; // the first is empty: it serves size 0 with nothing
 };
 
-// What a heap counts as used before it has handed out anything.
-inline constexpr uint32_t kHeapOwnBytes = static_cast<uint32_t>(
-    sizeof(ThreadHeap) + sizeof(SizeClass *) * (kClassCount + 1) + sizeof(SizeClass) * kClassCount);
-static_assert(sizeof(void *) != 4 || kHeapOwnBytes == 64 + 356 + 48 * 88);
+// What a heap counts as used before it has handed out anything: its record, the pointers to its classes, and
+// the classes. As with a slab's header, the narrow target's figures are what the counters have always said.
+inline constexpr uint32_t kHeapRecordBytes = sizeof(void *) == 4 ? 64 : uint32_t{sizeof(ThreadHeap)};
+inline constexpr uint32_t kSizeClassBytes = sizeof(void *) == 4 ? 48 : uint32_t{sizeof(SizeClass)};
+inline constexpr uint32_t kHeapOwnBytes =
+    kHeapRecordBytes + uint32_t{sizeof(SizeClass *)} * (kClassCount + 1) + kSizeClassBytes * kClassCount;
 
 inline HeapRecords &recordsOf(ThreadHeap *heap) { return *reinterpret_cast<HeapRecords *>(heap); }
 inline HotSlab &hotSlabFor(HeapRecords &records, uintptr_t address) {
@@ -85,16 +90,38 @@ inline HotSlab &hotSlabFor(HeapRecords &records, uintptr_t address) {
 inline uint32_t freeBytesOf(const ThreadHeap *heap) { return heap->heldBytes - heap->usedBytes.value(); }
 inline AreaCache &areasOf(ThreadHeap *heap) { return recordsOf(heap).areas; }
 
-// The calling thread's heap, null before its first allocation.
+// What stands for a heap where there is none: nothing in it is ready or hot. Nobody writes to it.
+struct NoHeap {
+  HeapRecords records{};
+  constexpr NoHeap();
+};
+extern constinit NoHeap noHeap;
+
+// The calling thread's heap, noHeap's before its first allocation: the common roads then find nothing that
+// they could use, and need not ask whether there is a heap.
 extern constinit thread_local ThreadHeap *threadHeap;
 
+inline bool hasHeap() { return threadHeap != &noHeap.records.heap; }
+inline void forgetHeap() { threadHeap = &noHeap.records.heap; }
+
 // The calling thread's heap, made if it has none; null when memory is exhausted.
-ThreadHeap *ensureThreadHeap();
+ThreadHeap *findOrMakeThreadHeap();
+inline ThreadHeap *ensureThreadHeap() { return hasHeap() ? threadHeap : findOrMakeThreadHeap(); }
+
+inline void setPeak(ThreadHeap *heap, uint32_t bytes) {
+  heap->peakBytes.set(bytes);
+  heap->noticeBytes = heap->limitBytes == 0 ? bytes + 1 : 0;
+}
+
+inline void setLimit(ThreadHeap *heap, uint32_t bytes) {
+  heap->limitBytes = bytes;
+  setPeak(heap, heap->peakBytes.value());
+}
 
 inline void chargeBytes(ThreadHeap *heap, uint32_t bytes) {
   const uint32_t used = heap->usedBytes.value() + bytes;
   heap->usedBytes.set(used);
-  if (used > heap->peakBytes.value()) heap->peakBytes.set(used);
+  if (used > heap->peakBytes.value()) setPeak(heap, used);
 }
 
 struct AllocatorState;

@@ -47,11 +47,11 @@ bool withinLimit(ThreadHeap *heap, uint32_t bytes) {
 }
 
 Slab *slabWithFreeCell(SizeClass &sizeClass) {
-  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaim(sizeClass);
+  if (hasPending(sizeClass)) reclaim(sizeClass);
   if (sizeClass.partialSlabs != nullptr) return sizeClass.partialSlabs;
   if (Slab *slab = takeSpareSlab(sizeClass)) return slab;
   if (Slab *slab = newSlab(sizeClass)) return slab;
-  if (sizeClass.pendingSlabs.load(std::memory_order_relaxed) != nullptr) reclaimNow(sizeClass);
+  if (hasPending(sizeClass)) reclaimNow(sizeClass);
   return sizeClass.partialSlabs;
 }
 
@@ -59,15 +59,13 @@ void *takeSmall(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   SizeClass &sizeClass = *heap->classes[heap->classOfSize[bytes / 8]];
   Slab *slab = slabWithFreeCell(sizeClass);
   if (slab == nullptr) return failRequest(sizeClass.objectBytes, errorMode);
-  return handOut(heap, sizeClass, slab, hasCellHeaders(sizeClass));
+  chargeBytes(heap, sizeClass.objectBytes);
+  return takeCell(heap, slab, slab->freeHead, heap->usedBytes.value(), hasCellHeaders(sizeClass));
 }
 
-[[gnu::noinline]] void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
+void *takeLarge(ThreadHeap *heap, uint32_t bytes, mint errorMode) {
   void *block = takeLargeBlock(heap, bytes);
-  if (block == nullptr) return failRequest(bytes, errorMode);
-  chargeBytes(heap, bytes);
-  heap->heldBytes += bytes;
-  return block;
+  return block != nullptr ? block : failRequest(bytes, errorMode);
 }
 
 void freeCell(Slab *slab, FreeCell *cell) {
@@ -99,12 +97,18 @@ void *allocateSlowly(uint32_t size, mint errorMode) {
   const uint32_t bytes = bytesToTake(size);
   if (heap == nullptr || bytes < size) return failRequest(size, errorMode);
   if (!withinLimit(heap, bytes) && errorMode == kQuiet) return nullptr;
-  return bytes > heap->maxSmallBytes ? takeLarge(heap, bytes, errorMode) : takeSmall(heap, bytes, errorMode);
+  return bytes > kMaxSmallBytes ? takeLarge(heap, bytes, errorMode) : takeSmall(heap, bytes, errorMode);
 }
 
 void *allocateWithHeader(uint32_t size, mint errorMode) {
   if (size > kMaxSmallRequest) return allocateSlowly(size, errorMode);
-  return takeReadyCell(size, roundUpTo8(size) + kCellHeaderBytes, true, errorMode);
+  ThreadHeap *heap = threadHeap;
+  const SizeClass &sizeClass = recordsOf(heap).sizeClasses[classOfSize[(size + 7 + kCellHeaderBytes) / 8]];
+  Slab *slab = sizeClass.partialSlabs;
+  if (slab == nullptr) return allocateSlowly(size, errorMode);
+  const uint32_t used = heap->usedBytes.value() + slab->objectBytes;
+  if (!isQuiet(heap, slab, used)) return allocateSlowly(size, errorMode);
+  return takeCell(heap, slab, slab->freeHead, used, true);
 }
 
 void freeByPageMap(void *block) {
@@ -119,8 +123,9 @@ void freeByPageMap(void *block) {
 }
 
 void settleAndReclaim(Slab *slab) {
-  if (isUnsettled(slab)) settleSlab(slab);
-  reclaim(*slab->sizeClass);
+  SizeClass &sizeClass = *slab->sizeClass; // the slab may be released
+  settleSlab(slab);
+  reclaim(sizeClass);
 }
 
 void *allocate(uint32_t size, mint, mint errorMode) { return allocateInline(size, errorMode); }
@@ -182,7 +187,7 @@ uint32_t allocatedBytesFor(uint32_t request) {
 
 void checkLimit(uint32_t extraBytes) {
   const ThreadHeap *heap = threadHeap;
-  if (heap == nullptr || heap->limitBytes == 0) return;
+  if (heap->limitBytes == 0) return;
   const uint32_t sum = addSaturating(heap->usedBytes.value(), extraBytes);
   if (sum > heap->limitBytes) callLimitHook(threadHeap, sum);
 }
@@ -195,7 +200,7 @@ uint32_t usedBytesOfThisThread() {
 void setLimitOfThisThread(uint32_t limit) {
   ThreadHeap *heap = ensureThreadHeap();
   if (heap == nullptr) fatalOutOfMemory();
-  heap->limitBytes = limit;
+  setLimit(heap, limit);
 }
 
 void fatalOutOfMemory() {

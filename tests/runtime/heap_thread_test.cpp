@@ -91,7 +91,7 @@ TEST(RemoteFree, MakesNoHeapForTheFreeingThread) {
   onThread([&] {
     free(block);
     free(large);
-    EXPECT_EQ(threadHeap, nullptr);
+    EXPECT_FALSE(hasHeap());
   });
   free(allocate(40, 0, kFatal));
   free(allocate(70000, 0, kFatal));
@@ -233,7 +233,7 @@ TEST(ThreadEnd, RunsThroughTheSlotOrTheHookButOnce) {
     free(allocate(100, 0, kFatal));
     EXPECT_EQ(heapCount(), heaps + 1);
     endThreadHeap();
-    EXPECT_EQ(threadHeap, nullptr);
+    EXPECT_FALSE(hasHeap());
     EXPECT_EQ(threadSlotValue(currentState()->tlsSlot), nullptr);
     endThreadHeap(); // nothing left to end
   });
@@ -259,7 +259,7 @@ TEST(ThreadEnd, FindsTheHeapWhoseWordIsLost) {
   const uint32_t heaps = heapCount();
   onThread([] {
     ThreadHeap *heap = ensureThreadHeap();
-    threadHeap = nullptr;
+    forgetHeap();
     EXPECT_EQ(ensureThreadHeap(), heap) << "the slot still knows it";
   });
   EXPECT_EQ(heapCount(), heaps);

@@ -87,7 +87,7 @@ TEST(State, TornDownReturnsEverythingWhateverIsInUse) {
         checks.expect(currentState()->threads->next != nullptr);
         tearDownMemory();
         checks.expect(heap.blocksOut() == 0);
-        checks.expect(currentState() == nullptr && threadHeap == nullptr);
+        checks.expect(currentState() == nullptr && !hasHeap());
         tearDownMemory();
         free(allocate(100, 0, kFatal));
         checks.expect(isValidState());
@@ -104,7 +104,7 @@ TEST(State, OfAHostIsSharedWithItsHeaps) {
               ThreadHeap *heap = threadHeap;
               AllocatorState *state = currentState();
               allocatorState = nullptr;
-              threadHeap = nullptr;
+              forgetHeap();
               adoptAllocatorState(state);
               initializeMemory(0);
               initializeMemory(1);

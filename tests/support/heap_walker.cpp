@@ -43,7 +43,7 @@ bool markCell(const Slab *slab, const FreeCell *cell, std::vector<bool> &marked,
 uint32_t markCells(const Slab *slab, const FreeCell *head, std::vector<bool> &marked, Findings &findings) {
   uint32_t count = 0;
   for (const FreeCell *cell = head; cell != nullptr && markCell(slab, cell, marked, findings);
-       cell = cell->next)
+       cell = cell->next.cell())
     ++count;
   return count;
 }
@@ -84,9 +84,12 @@ void checkPageMap(const Slab *slab, Findings &findings) {
 // Returns the remotely freed bytes of the slab.
 uint32_t checkSlab(const Slab *slab, SizeClass &sizeClass, Totals &totals, Findings &findings) {
   findings.expect(slab->sizeClass == &sizeClass, "a slab is on a list of another class");
+  findings.expect(slab->objectBytes == sizeClass.objectBytes, "a slab's objectBytes is not its class's");
+  findings.expect(slab->ownClass == &sizeClass, "a slab's two classes differ");
   std::vector<bool> marked(sizeClass.objectsPerSlab);
-  const uint32_t freeCells = markCells(slab, slab->freeHead, marked, findings);
-  findings.expect(freeCells == slab->freeCount, "freeCount is not the length of the free list");
+  const uint32_t freeCells = markCells(slab, slab->freeHead.cell(), marked, findings);
+  findings.expect(freeCells == slab->freeHead.count(),
+                  "a count in freeHead is not the length of the free list");
   const uint32_t remote =
       markCells(slab, slab->remoteHead, marked, findings) + markBoxedCells(slab, sizeClass, marked, findings);
   if (hasCellHeaders(sizeClass))
@@ -126,26 +129,43 @@ void checkPending(SizeClass &sizeClass, const std::vector<Slab *> &slabs, Findin
 
 void checkIdleSlab(const SizeClass &sizeClass, const std::vector<Slab *> &partial, Findings &findings) {
   if (sizeClass.spareSlab != nullptr)
-    findings.expect(sizeClass.spareSlab->freeCount == sizeClass.objectsPerSlab,
-                    "the spare slab has live cells");
+    findings.expect(isWhollyFree(sizeClass.spareSlab), "the spare slab has live cells");
   for (const Slab *slab : partial) {
-    findings.expect(slab->freeCount > 0, "a slab without free cells is on the partial list");
-    if (slab->freeCount == sizeClass.objectsPerSlab)
+    findings.expect(!slab->freeHead.isNull(), "a slab without free cells is on the partial list");
+    if (isWhollyFree(slab))
       findings.expect(partial.size() == 1 && sizeClass.spareSlab == nullptr,
                       "a second wholly free slab is kept");
   }
+}
+
+void checkRetireCounts(const SizeClass &sizeClass, const std::vector<Slab *> &partial, Findings &findings) {
+  const bool alone = partial.size() == 1 && sizeClass.spareSlab == nullptr;
+  for (const Slab *slab : partial)
+    findings.expect(slab->retireCount == (alone ? kNeverRetire : sizeClass.objectsPerSlab),
+                    "a slab retires at the wrong count");
+}
+
+void checkReadySlabs(SizeClass &sizeClass, Findings &findings) {
+  if (hasCellHeaders(sizeClass)) return;
+  const Slab *head = sizeClass.partialSlabs != nullptr ? sizeClass.partialSlabs : &noSlab;
+  for (uint32_t eighth = 1; eighth <= kMaxBareCellBytes / 8; ++eighth)
+    if (cellBytesOfClass(classOfSize[eighth]) == sizeClass.objectBytes)
+      findings.expect(recordsOf(sizeClass.heap).readySlabs[eighth] == head,
+                      "a ready slab is not the queue's first");
 }
 
 void checkClass(SizeClass &sizeClass, ThreadHeap *heap, Totals &totals, Findings &findings) {
   LockGuard guard(sizeClass.lock);
   findings.expect(sizeClass.heap == heap, "a class belongs to another heap");
   std::vector<Slab *> slabs = walkList(sizeClass.fullSlabs, findings);
-  for (const Slab *slab : slabs) findings.expect(slab->freeCount == 0, "a full slab has free cells");
+  for (const Slab *slab : slabs) findings.expect(slab->freeHead.isNull(), "a full slab has free cells");
   const Slab *last = sizeClass.partialSlabs == nullptr ? nullptr : sizeClass.partialSlabs->prev;
   const std::vector<Slab *> partial = walkList<Slab>(sizeClass.partialSlabs, findings, last);
   findings.expect(partial.empty() || partial.back() == last, "the partial queue does not know its last slab");
   findings.expect(partial.size() == sizeClass.partialCount, "partialCount is wrong");
   checkIdleSlab(sizeClass, partial, findings);
+  checkRetireCounts(sizeClass, partial, findings);
+  checkReadySlabs(sizeClass, findings);
   slabs.insert(slabs.end(), partial.begin(), partial.end());
   if (sizeClass.spareSlab != nullptr) slabs.push_back(sizeClass.spareSlab);
   findings.expect(std::set<Slab *>(slabs.begin(), slabs.end()).size() == slabs.size(),
@@ -218,20 +238,25 @@ uint32_t bareSlabs(const SizeClass &sizeClass) {
 testing::AssertionResult isValidHeap(ThreadHeap *heap, uint32_t externalBytes) {
   Findings findings;
   Totals totals;
-  for (uint32_t number = 1; number <= heap->classCount; ++number)
+  for (uint32_t number = 1; number <= kClassCount; ++number)
     checkClass(*heap->classes[number], heap, totals, findings);
   checkLargeBlocks(heap, totals, findings);
+  checkHotSlab(recordsOf(heap).lastSlab, totals, findings);
   for (const HotSlab &entry : recordsOf(heap).hotSlabs) checkHotSlab(entry, totals, findings);
   checkAreas(areasOf(heap), findings);
   const uint32_t used = kHeapOwnBytes + totals.liveBytes + externalBytes;
   findings.expect(freeBytesOf(heap) == totals.freeBytes, "freeBytes is wrong");
   findings.expect(heap->usedBytes.value() == used, "usedBytes is wrong");
   findings.expect(heap->peakBytes.value() >= used, "usedBytes is above its peak");
+  findings.expect(heap->noticeBytes == (heap->limitBytes == 0 ? heap->peakBytes.value() + 1 : 0),
+                  "noticeBytes is not what peak and limit say");
+  findings.expect(recordsOf(heap).readySlabs[0] == &noSlab && noSlab.freeHead.isNull(),
+                  "size 0 finds a slab");
   return asResult(findings);
 }
 
 testing::AssertionResult isValidHere(uint32_t externalBytes) {
-  return threadHeap == nullptr ? testing::AssertionSuccess() : isValidHeap(threadHeap, externalBytes);
+  return !hasHeap() ? testing::AssertionSuccess() : isValidHeap(threadHeap, externalBytes);
 }
 
 testing::AssertionResult isValidState() {
@@ -241,8 +266,7 @@ testing::AssertionResult isValidState() {
   for (ThreadHeap *heap : walkList(state->threads, findings)) {
     const testing::AssertionResult valid = isValidHeap(heap);
     if (!valid) return valid;
-    for (uint32_t number = 1; number <= heap->classCount; ++number)
-      mapped += bareSlabs(*heap->classes[number]);
+    for (uint32_t number = 1; number <= kClassCount; ++number) mapped += bareSlabs(*heap->classes[number]);
   }
   const uint32_t entriesPerSlab = kBareSlabBytes >> kPageMapShift;
   findings.expect(countMapped(state->pageMap) == mapped * entriesPerSlab,
