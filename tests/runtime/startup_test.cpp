@@ -262,9 +262,9 @@ TEST(Startup, MakesTheEndOfAThreadsHeapAnExitHook) {
     InitializeRuntimeLibrary();
     test::onThread([] {
       torvane::free(allocate(100, 0, kFatal));
-      ASSERT_NE(threadHeap, nullptr);
+      ASSERT_TRUE(hasHeap());
       runThreadExitHooks();
-      EXPECT_EQ(threadHeap, nullptr);
+      EXPECT_FALSE(hasHeap());
       EXPECT_EQ(threadSlotValue(currentState()->tlsSlot), nullptr);
     });
   });
