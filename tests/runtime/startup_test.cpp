@@ -158,7 +158,7 @@ TEST(Startup, HostsStartAdoptsTheStateThatItIsGivenTheFirstTime) {
     ThreadHeap *const heap = threadHeap;
     AllocatorState *const state = currentState();
     allocatorState = nullptr;
-    threadHeap = nullptr;
+    forgetHeap();
     ASSERT_NE(ensureThreadHeap(), heap); // of a state of the library's own, which the host's now replaces
     InitializeTorvaneRTL(state, nullptr, nullptr);
     EXPECT_EQ(currentState(), state);
