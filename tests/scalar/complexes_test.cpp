@@ -17,10 +17,10 @@ using namespace torvane::test;
 
 namespace {
 
-template <class R> struct Z {
-  R re, im;
-};
-template <class R> std::ostream &operator<<(std::ostream &out, Z<R> z) { return out << "(" << z.re << ", " << z.im << ")"; }
+template <class R> struct Z { R re, im; };
+template <class R> std::ostream &operator<<(std::ostream &out, Z<R> z) {
+  return out << "(" << z.re << ", " << z.im << ")";
+}
 template <class R> bool same(Z<R> x, Z<R> y) { return sameReal(x.re, y.re) && sameReal(x.im, y.im); }
 
 template <class R> using Unary = R *(*)(R *, R *, R, R);
@@ -46,10 +46,12 @@ template <class R> struct Entries {
   Unary<R> minus, square, sqrt, checkedSqrt;
 };
 template <class R> Entries<R> entries();
-#define ENTRIES(T)                                                                                                     \
-  {binary_plus_##T##_##T, binary_subtract_##T##_##T, binary_times_##T##_##T, checked_binary_times_##T##_##T,           \
-   binary_divide_##T##_##T, checked_binary_divide_##T##_##T, unary_minus_##T, unary_square_##T, unary_sqrt_##T,        \
-   checked_unary_sqrt_##T}
+#define ENTRIES(T)                                                                                           \
+  {                                                                                                          \
+    binary_plus_##T##_##T, binary_subtract_##T##_##T, binary_times_##T##_##T,                                \
+        checked_binary_times_##T##_##T, binary_divide_##T##_##T, checked_binary_divide_##T##_##T,            \
+        unary_minus_##T, unary_square_##T, unary_sqrt_##T, checked_unary_sqrt_##T                            \
+  }
 template <> Entries<float> entries() { return ENTRIES(ComplexReal32); }
 template <> Entries<double> entries() { return ENTRIES(ComplexReal64); }
 
@@ -66,7 +68,8 @@ TYPED_TEST(ComplexEntries, SumsAndProductsFollowTheirFormulas) {
       const Z<R> x = {parts[k], parts[k + 1]}, y = {w, parts[k + 3]};
       ASSERT_TRUE(same(call(e.plus, x, y), {x.re + y.re, x.im + y.im})) << x << y;
       ASSERT_TRUE(same(call(e.subtract, x, y), {x.re - y.re, x.im - y.im})) << x << y;
-      ASSERT_TRUE(same(call(e.times, x, y), {x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re})) << x << y;
+      ASSERT_TRUE(same(call(e.times, x, y), {x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re}))
+          << x << y;
       ASSERT_TRUE(same(call(e.square, x), call(e.times, x, x))) << x;
       ASSERT_TRUE(same(call(e.minus, x), {-x.re, -x.im})) << x;
     }
