@@ -73,4 +73,16 @@ TEST(ComplexLogistic, IsAQuotientAtInfinitiesToo) {
   expectNear(complexes::logistic, {0, 0}, {0.5, 0});
 }
 
+// What the page of errors says of the ends of the format.
+TEST(ComplexEnds, FormulasGiveOutBeforeTheirFunctionsDo) {
+  const double huge = std::numeric_limits<double>::max();
+  EXPECT_EQ(at(complexes::exp, 709.9, 1.57).value.re, kInfinity); // exp(709.9) alone overflows
+  EXPECT_EQ(at(complexes::sinh, 710.5, 1.57).value.re, kInfinity);
+  EXPECT_TRUE(std::isnan(at(complexes::expm1, 709.9, 1.57).value.re));
+  EXPECT_TRUE(std::isnan(at(complexes::fibonacci, -2000, 0).value.im));
+  EXPECT_TRUE(std::isnan(at(complexes::sign, 1e-310, 1e-310).value.re));
+  EXPECT_NEAR(at(complexes::sign, 0x1p-1023, 0x1p-1023).value.re, std::sqrt(0.5), 1e-15);
+  EXPECT_EQ(at(complexes::sqrt, huge, huge).value.re, kInfinity);
+}
+
 } // namespace
