@@ -1,6 +1,7 @@
 // What a typed entry costs when compiled code calls it: beside a function of this program, not inlined, that
 // does the same with the compiler's overflow builtin, both called through a pointer, rounds alternating; and
-// what a raise costs in style 1. Prints nanoseconds for one call and the ratio.
+// what a raise costs in style 1; and what Real16 costs, whose results come through a pointer. Prints
+// nanoseconds for one call and the ratio.
 //
 //   bench_scalar_entries [rounds]
 #include <torvane/failure.h>
@@ -40,6 +41,19 @@ template <class T> double chained(T (*entry)(T, T), T start, T operand) {
   return elapsed / kCalls;
 }
 
+using HalfEntry = uint16_t *(*)(uint16_t *, uint16_t, uint16_t);
+
+// As above, or each call by itself over patterns of numbers between 1 and 2.
+double halves(HalfEntry entry, bool isChained) {
+  HalfEntry volatile pointer = entry;
+  uint16_t value = 0x3C00;
+  const auto begin = Clock::now();
+  for (int k = 0; k < kCalls; ++k) pointer(&value, isChained ? value : uint16_t(0x3C00 + k % 1024), 0x3C00);
+  const double elapsed = std::chrono::duration<double, std::nano>(Clock::now() - begin).count();
+  asm volatile("" : : "r"(value));
+  return elapsed / kCalls;
+}
+
 double median(std::vector<double> rounds) {
   std::nth_element(rounds.begin(), rounds.begin() + std::ptrdiff_t(rounds.size() / 2), rounds.end());
   return rounds[rounds.size() / 2];
@@ -54,6 +68,15 @@ void compare(const char *name, int rounds, T (*ours)(T, T), T (*peer)(T, T), T s
   }
   std::printf("%-48s %6.2f ns   builtin %6.2f ns   ratio %.2f\n", name, median(a), median(b),
               median(a) / median(b));
+}
+
+void compareHalves(const char *name, int rounds, HalfEntry entry) {
+  std::vector<double> chained, apart;
+  for (int k = 0; k < rounds; ++k) {
+    chained.push_back(halves(entry, true));
+    apart.push_back(halves(entry, false));
+  }
+  std::printf("%-48s %6.2f ns   one after the other %6.2f ns\n", name, median(apart), median(chained));
 }
 
 } // namespace
@@ -76,4 +99,8 @@ int main(int argc, char **argv) {
   setExceptionActive(0);
   std::printf("%-48s %6.2f ns a call, each raises in style 1\n", "binary_divide_Integer32_Integer32",
               median(undefined));
+  compareHalves("binary_plus_Real16_Real16", rounds, binary_plus_Real16_Real16);
+  compareHalves("binary_times_Real16_Real16", rounds, binary_times_Real16_Real16);
+  compareHalves("checked_binary_plus_Real16_Real16", rounds, checked_binary_plus_Real16_Real16);
+  compareHalves("checked_binary_times_Real16_Real16", rounds, checked_binary_times_Real16_Real16);
 }

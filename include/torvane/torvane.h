@@ -12,6 +12,7 @@
 #include "tolerance.h"
 #include "scalars.h"
 #include "integers.h"
+#include "text.h"
 #include "machfuncs.h"
 
 #endif

@@ -1,26 +1,19 @@
 // Complex entries: results through two pointers, products and quotients, the square root's regions and
-// branch cut, codes; normwise accuracy against MPC where it is.
-#include "scalar/operator_table.h"
+// branch cut, codes.
 #include "support/raised.h"
 #include "support/real_samples.h"
 
 #include <gtest/gtest.h>
-#include <string_view>
 #include <torvane/scalars.h>
-
-#if __has_include(<mpc.h>) && defined(__LP64__)
-#include <mpc.h>
-#define HAVE_MPC 1
-#endif
 
 using namespace torvane::test;
 
 namespace {
 
-template <class R> struct Z {
-  R re, im;
-};
-template <class R> std::ostream &operator<<(std::ostream &out, Z<R> z) { return out << "(" << z.re << ", " << z.im << ")"; }
+template <class R> struct Z { R re, im; };
+template <class R> std::ostream &operator<<(std::ostream &out, Z<R> z) {
+  return out << "(" << z.re << ", " << z.im << ")";
+}
 template <class R> bool same(Z<R> x, Z<R> y) { return sameReal(x.re, y.re) && sameReal(x.im, y.im); }
 
 template <class R> using Unary = R *(*)(R *, R *, R, R);
@@ -46,10 +39,12 @@ template <class R> struct Entries {
   Unary<R> minus, square, sqrt, checkedSqrt;
 };
 template <class R> Entries<R> entries();
-#define ENTRIES(T)                                                                                                     \
-  {binary_plus_##T##_##T, binary_subtract_##T##_##T, binary_times_##T##_##T, checked_binary_times_##T##_##T,           \
-   binary_divide_##T##_##T, checked_binary_divide_##T##_##T, unary_minus_##T, unary_square_##T, unary_sqrt_##T,        \
-   checked_unary_sqrt_##T}
+#define ENTRIES(T)                                                                                           \
+  {                                                                                                          \
+    binary_plus_##T##_##T, binary_subtract_##T##_##T, binary_times_##T##_##T,                                \
+        checked_binary_times_##T##_##T, binary_divide_##T##_##T, checked_binary_divide_##T##_##T,            \
+        unary_minus_##T, unary_square_##T, unary_sqrt_##T, checked_unary_sqrt_##T                            \
+  }
 template <> Entries<float> entries() { return ENTRIES(ComplexReal32); }
 template <> Entries<double> entries() { return ENTRIES(ComplexReal64); }
 
@@ -66,7 +61,8 @@ TYPED_TEST(ComplexEntries, SumsAndProductsFollowTheirFormulas) {
       const Z<R> x = {parts[k], parts[k + 1]}, y = {w, parts[k + 3]};
       ASSERT_TRUE(same(call(e.plus, x, y), {x.re + y.re, x.im + y.im})) << x << y;
       ASSERT_TRUE(same(call(e.subtract, x, y), {x.re - y.re, x.im - y.im})) << x << y;
-      ASSERT_TRUE(same(call(e.times, x, y), {x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re})) << x << y;
+      ASSERT_TRUE(same(call(e.times, x, y), {x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re}))
+          << x << y;
       ASSERT_TRUE(same(call(e.square, x), call(e.times, x, x))) << x;
       ASSERT_TRUE(same(call(e.minus, x), {-x.re, -x.im})) << x;
     }
@@ -160,75 +156,5 @@ TYPED_TEST(ComplexEntries, RoundIsNotDefined) {
   EXPECT_EQ(raisedBy([&] { unary_round_ComplexReal32(&re, &im, 1, 0); }), 17);
   EXPECT_EQ(raisedBy([&] { checked_unary_round_ComplexReal64(&wideRe, &wideIm, 1, 0); }), 17);
 }
-
-#ifdef HAVE_MPC
-
-// Distance to the exact value in units of the last place of its modulus.
-template <class R> double normwiseUlps(Z<R> got, const mpc_t exact) {
-  mpc_t difference;
-  mpfr_t error, modulus;
-  mpc_init2(difference, 200);
-  mpfr_inits2(200, error, modulus, static_cast<mpfr_ptr>(nullptr));
-  mpc_set_d_d(difference, double(got.re), double(got.im), MPC_RNDNN);
-  mpc_sub(difference, difference, exact, MPC_RNDNN);
-  mpc_abs(error, difference, MPFR_RNDN);
-  mpc_abs(modulus, exact, MPFR_RNDN);
-  mpfr_div(error, error, modulus, MPFR_RNDN);
-  const double ulps = std::ldexp(mpfr_get_d(error, MPFR_RNDU), std::numeric_limits<R>::digits - 1);
-  mpfr_clears(error, modulus, static_cast<mpfr_ptr>(nullptr));
-  mpc_clear(difference);
-  return ulps;
-}
-
-template <class R> class MpcOperands {
-public:
-  MpcOperands(Z<R> a, Z<R> b) {
-    for (mpc_ptr z : {x, y, result}) mpc_init2(z, 200);
-    mpc_set_d_d(x, double(a.re), double(a.im), MPC_RNDNN);
-    mpc_set_d_d(y, double(b.re), double(b.im), MPC_RNDNN);
-  }
-  ~MpcOperands() {
-    for (mpc_ptr z : {x, y, result}) mpc_clear(z);
-  }
-  mpc_t x, y, result;
-};
-
-// Parts of moderate size, so that neither overflow nor underflow hides the rounding.
-template <class R> Z<R> moderate(std::mt19937_64 &random) {
-  std::uniform_real_distribution<R> fraction(-1, 1);
-  const auto part = [&] { return std::ldexp(fraction(random), int(random() % 41) - 20); };
-  const R re = part();
-  return {re, part()};
-}
-
-// The bound that the operator's row states.
-template <class Row, size_t n> double boundOf(const Row (&rows)[n], std::string_view typed) {
-  for (const Row &row : rows)
-    if (row.typed == typed) return row.accuracy.complex;
-  return 0;
-}
-
-TYPED_TEST(ComplexEntries, AccuracyStaysWithinTheRowsBounds) {
-  using R = TypeParam;
-  const Entries<R> e = entries<R>();
-  std::mt19937_64 random(12);
-  double worstTimes = 0, worstDivide = 0, worstSqrt = 0;
-  for (int k = 0; k < 50000; ++k) {
-    const Z<R> x = moderate<R>(random), y = moderate<R>(random);
-    MpcOperands<R> z(x, y);
-    mpc_mul(z.result, z.x, z.y, MPC_RNDNN);
-    worstTimes = std::max(worstTimes, normwiseUlps(call(e.times, x, y), z.result));
-    mpc_div(z.result, z.x, z.y, MPC_RNDNN);
-    worstDivide = std::max(worstDivide, normwiseUlps(call(e.divide, x, y), z.result));
-    mpc_sqrt(z.result, z.x, MPC_RNDNN);
-    worstSqrt = std::max(worstSqrt, normwiseUlps(call(e.sqrt, x), z.result));
-  }
-  std::printf("worst normwise ulp: times %.3f, divide %.3f, sqrt %.3f\n", worstTimes, worstDivide, worstSqrt);
-  EXPECT_LT(worstTimes, boundOf(torvane::table::kBinary, "times"));
-  EXPECT_LT(worstDivide, boundOf(torvane::table::kBinary, "divide"));
-  EXPECT_LT(worstSqrt, boundOf(torvane::table::kUnary, "sqrt"));
-}
-
-#endif
 
 } // namespace

@@ -1,46 +1,60 @@
-// Real16: widening of all patterns, narrowing by truncation, the entries of the table's operators.
+// Real16: the conversion tables by their rule, widening of all patterns, narrowing by truncation, and the
+// arithmetic entries against a model in binary64.
 #include "scalar/half.h"
+#include "support/half_values.h"
 #include "support/raised.h"
 
-#include <cmath>
+#include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <torvane/scalars.h>
+#include <vector>
 
 using namespace torvane;
 using namespace torvane::test;
 
 namespace {
 
-// The value of a pattern by the definition of binary16.
-double valueOf(uint16_t bits) {
-  const int exponent = bits >> 10 & 31, fraction = bits & 0x3FF;
-  const double sign = bits >> 15 ? -1 : 1;
-  if (exponent == 31) return fraction == 0 ? sign * HUGE_VAL : NAN;
-  if (exponent == 0) return sign * std::ldexp(fraction, -24);
-  return sign * std::ldexp(1024 + fraction, exponent - 25);
+float floatOf(uint32_t bits) {
+  float x;
+  std::memcpy(&x, &bits, sizeof x);
+  return x;
+}
+uint16_t narrowed(uint32_t bits) { return narrow(floatOf(bits)).bits; }
+
+// ---- tables -------------------------------------------------------------------------------------
+
+TEST(HalfTables, OfMantissasAreSubnormalsNormalisedAndFractionsShifted) {
+  EXPECT_EQ(kHalfTables.mantissa[0], 0u);
+  for (int i = 1; i < 1024; ++i) EXPECT_EQ(floatOf(kHalfTables.mantissa[i]), std::ldexp(float(i), -24)) << i;
+  for (uint32_t i = 1024; i < 2048; ++i)
+    EXPECT_EQ(kHalfTables.mantissa[i], 0x38000000 + ((i - 1024) << 13)) << i;
 }
 
-// The largest pattern not above |x| in magnitude, with x's sign; infinity from 65536 on.
-uint16_t truncated(double x) {
-  const uint16_t sign = std::signbit(x) ? 0x8000 : 0;
-  const double magnitude = std::fabs(x);
-  if (magnitude >= 65536) return sign | kHalfInfinity;
-  uint16_t low = 0, high = kHalfInfinity; // value(low) <= magnitude < value(high)
-  while (high - low > 1) {
-    const uint16_t middle = static_cast<uint16_t>((low + high) / 2);
-    (valueOf(middle) <= magnitude ? low : high) = middle;
+TEST(HalfTables, OfExponentsAndOffsetsSingleOutZerosAndInfinities) {
+  for (uint32_t i = 0; i < 64; ++i) {
+    const uint32_t low = i & 31, sign = i < 32 ? 0 : 0x80000000;
+    EXPECT_EQ(kHalfTables.exponent[i], sign + (low == 31 ? 0x47800000 : low << 23)) << i;
+    EXPECT_EQ(kHalfTables.offset[i], low == 0 ? 0 : 1024) << i;
   }
-  return sign | low;
 }
 
-uint16_t patternOf(Real16 x) { return x.bits; }
+TEST(HalfTables, OfBasesAndShiftsFollowTheExponent) {
+  for (int i = 0; i < 512; ++i) {
+    const int e = (i & 255) - 127, sign = i < 256 ? 0 : 0x8000;
+    const int base = e < -24 ? 0 : e < -14 ? 0x400 >> (-e - 14) : e <= 15 ? (e + 15) << 10 : 0x7C00;
+    const int shift = e < -24 ? 24 : e < -14 ? -e - 1 : e <= 15 ? 13 : e < 128 ? 24 : 13;
+    EXPECT_EQ(kHalfTables.base[i], sign | base) << i;
+    EXPECT_EQ(kHalfTables.shift[i], shift) << i;
+  }
+}
+
+// ---- conversion ---------------------------------------------------------------------------------
 
 TEST(HalfConversion, WideningIsExactForAllPatterns) {
   for (uint32_t bits = 0; bits < 65536; ++bits) {
-    const uint16_t pattern = static_cast<uint16_t>(bits);
-    const float wide = widen(Real16{pattern});
-    const double expected = valueOf(pattern);
+    const float wide = widen(Real16{uint16_t(bits)});
+    const double expected = halfValue(uint16_t(bits));
     if (std::isnan(expected))
       ASSERT_TRUE(std::isnan(wide)) << bits;
     else
@@ -54,93 +68,158 @@ TEST(HalfConversion, NarrowingTruncatesEveryExponentAndTopFraction) {
       for (uint32_t top = 0; top < 4096; ++top)
         for (const uint32_t low : {0u, 0x7FFu}) {
           const uint32_t bits = sign << 31 | exponent << 23 | top << 11 | low;
-          float x;
-          std::memcpy(&x, &bits, sizeof x);
-          ASSERT_EQ(patternOf(narrow(x)), truncated(x)) << x;
+          ASSERT_EQ(narrowed(bits), halfPattern(double(floatOf(bits)))) << bits;
         }
+}
+
+// A NaN without a bit among its top ten narrows to infinity: results rest on it.
+TEST(HalfConversion, NarrowingKeepsTheTopTenBitsOfANaN) {
+  for (uint32_t sign = 0; sign < 2; ++sign)
+    for (uint32_t top = 0; top < 4096; ++top)
+      for (const uint32_t low : {0u, 0x7FFu}) {
+        const uint16_t pattern = narrowed(sign << 31 | 0x7F800000u | top << 11 | low);
+        ASSERT_EQ(pattern, (sign << 15 | kHalfInfinity | top >> 2)) << top;
+        ASSERT_EQ(isNaN(Real16{pattern}), top >> 2 != 0) << top;
+      }
 }
 
 TEST(HalfConversion, EveryNumberSurvivesTheRoundTrip) {
   for (uint32_t bits = 0; bits < 65536; ++bits) {
-    const Real16 x = {static_cast<uint16_t>(bits)};
-    if (!isNaN(x)) ASSERT_EQ(patternOf(narrow(widen(x))), bits);
+    const Real16 x = {uint16_t(bits)};
+    if (!isNaN(x)) ASSERT_EQ(narrow(widen(x)).bits, bits);
   }
-  EXPECT_EQ(patternOf(narrow(65520.0f)), 0x7BFF);
-  EXPECT_EQ(patternOf(narrow(65536.0f)), 0x7C00);
+  EXPECT_EQ(narrow(65520.0f).bits, 0x7BFF);
+  EXPECT_EQ(narrow(65536.0f).bits, 0x7C00);
+  EXPECT_EQ(narrow(-0.0f).bits, 0x8000);
 }
 
-// A NaN without a bit among its top ten narrows to infinity: results rest on it.
-TEST(HalfConversion, NaNWithLowBitsOnlyBecomesInfinity) {
-  const uint32_t low = 0x7F800001, quiet = 0x7FC00000;
-  float x, y;
-  std::memcpy(&x, &low, sizeof x);
-  std::memcpy(&y, &quiet, sizeof y);
-  EXPECT_EQ(patternOf(narrow(x)), kHalfInfinity);
-  EXPECT_EQ(patternOf(narrow(y)), 0x7E00);
-}
+// ---- arithmetic ---------------------------------------------------------------------------------
 
-TEST(HalfEntries, MinusFlipsTheSignOfEveryPattern) {
-  for (uint32_t bits = 0; bits < 65536; ++bits) {
-    uint16_t result = 0;
-    uint16_t *returned = unary_minus_Real16(&result, static_cast<uint16_t>(bits));
-    ASSERT_EQ(returned, &result);
-    ASSERT_EQ(result, bits ^ 0x8000);
+// halfPattern, by a table of all values, since millions are asked for.
+class Truncation {
+public:
+  Truncation() {
+    for (uint16_t bits = 0; bits <= kHalfInfinity; ++bits) values.push_back(halfValue(bits));
+    values.back() = 65536; // where infinity begins
   }
-}
-
-TEST(HalfEntries, RoundTruncatesAndRefusesInfinities) {
-  for (uint32_t bits = 0; bits < 65536; ++bits) {
-    const double x = valueOf(static_cast<uint16_t>(bits));
-    mint value = 0;
-    const mint code = raisedBy([&] { value = unary_round_Real16(static_cast<uint16_t>(bits)); });
-    ASSERT_EQ(code, std::isinf(x) ? 1 : 0) << bits;
-    if (std::isfinite(x)) ASSERT_EQ(value, static_cast<mint>(std::trunc(x))) << bits;
+  uint16_t operator()(double x) const {
+    if (std::isnan(x)) return 0x7E00;
+    const auto above = std::upper_bound(values.begin(), values.end(), std::fabs(x));
+    return uint16_t(above - values.begin() - 1) | (std::signbit(x) ? 0x8000 : 0);
   }
-  EXPECT_EQ(unary_round_Real16(0x4100), 2); // 2.5
-  EXPECT_EQ(checked_unary_round_Real16(0x4180), 2); // 2.75
+
+private:
+  std::vector<double> values;
+};
+
+// 2,000 of the 65,536 patterns: every 33rd, and those where something changes.
+std::vector<uint16_t> patterns() {
+  std::vector<uint16_t> set = {0x0001, 0x03FF, 0x0400, 0x3BFF, 0x3C00, 0x3C01, 0x7BFF,
+                               0x7C00, 0x7C01, 0x7E00, 0x8000, 0xBC00, 0xFBFF, 0xFC00};
+  for (uint32_t bits = 0; bits < 65536; bits += 33) set.push_back(uint16_t(bits));
+  return set;
 }
 
-TEST(HalfEntries, ArithmeticGoesThroughBinary32AndTruncates) {
-  for (uint32_t x = 0; x < 65536; x += 97)
-    for (uint32_t y = 0; y < 65536; y += 89) {
-      const uint16_t a = static_cast<uint16_t>(x), b = static_cast<uint16_t>(y);
-      const float u = float(valueOf(a)), v = float(valueOf(b));
-      const float expected[] = {u + v, u - v, u * v, u / v};
-      uint16_t result[4];
-      binary_plus_Real16_Real16(result, a, b);
-      binary_subtract_Real16_Real16(result + 1, a, b);
-      binary_times_Real16_Real16(result + 2, a, b);
-      binary_divide_Real16_Real16(result + 3, a, b);
-      for (int k = 0; k < 4; ++k) {
-        if (std::isnan(expected[k]))
-          ASSERT_TRUE(isNaN(Real16{result[k]})) << x << " " << y << " " << k;
-        else
-          ASSERT_EQ(result[k], truncated(expected[k])) << x << " " << y << " " << k;
+using Pair = uint16_t *(*)(uint16_t *, uint16_t, uint16_t);
+struct Operation {
+  const char *name;
+  Pair plain, checked;
+  double (*exact)(double, double); // before it is rounded to binary32; binary64 is exact or rounds harmlessly
+};
+#define OPERATION(name, expression)                                                                          \
+  {                                                                                                          \
+#name, binary_##name##_Real16_Real16, checked_binary_##name##_Real16_Real16,                             \
+        [](double x, double y) { return expression; }                                                        \
+  }
+
+mint codeOf(uint16_t pattern) { return isHalfNaN(pattern) ? 9 : (pattern & 0x7FFF) == kHalfInfinity ? 6 : 0; }
+
+// Sums and products of two patterns are exact in binary64; the quotient's second rounding, to less than half
+// the digits, cannot show.
+TEST(HalfArithmetic, IsTheBinary32ResultCutOffForAllPairsOfTwoThousandPatterns) {
+  const Operation operations[] = {OPERATION(plus, x + y), OPERATION(subtract, x - y), OPERATION(times, x * y),
+                                  OPERATION(divide, x / y)};
+  const std::vector<uint16_t> set = patterns();
+  ASSERT_EQ(set.size(), 2000u);
+  const Truncation truncated;
+  for (const Operation &operation : operations)
+    for (const uint16_t x : set)
+      for (const uint16_t y : set) {
+        const uint16_t expected = truncated(float(operation.exact(halfValue(x), halfValue(y))));
+        uint16_t plain = 0, checked = 0;
+        ASSERT_EQ(operation.plain(&plain, x, y), &plain);
+        ASSERT_TRUE(sameHalf(plain, expected)) << operation.name << " " << x << " " << y;
+        const mint code = raisedBy([&] { operation.checked(&checked, x, y); });
+        ASSERT_EQ(code, codeOf(expected)) << operation.name << " " << x << " " << y;
+        if (code == 0) ASSERT_EQ(checked, expected) << operation.name << " " << x << " " << y;
       }
-    }
 }
 
-TEST(HalfEntries, CodesComeFromTheNarrowedPattern) {
+TEST(HalfArithmetic, PlainFormsRaiseNothing) {
+  const std::vector<uint16_t> set = patterns();
+  EXPECT_EQ(raisedBy([&] {
+              uint16_t result;
+              for (const uint16_t x : set)
+                for (const uint16_t y : {uint16_t{0}, uint16_t{0x7BFF}, kHalfInfinity, uint16_t{0x7E00}})
+                  for (const Pair entry : {binary_plus_Real16_Real16, binary_subtract_Real16_Real16,
+                                           binary_times_Real16_Real16, binary_divide_Real16_Real16})
+                    entry(&result, x, y);
+            }),
+            0);
+}
+
+TEST(HalfArithmetic, CodesComeFromTheNarrowedPattern) {
   uint16_t result = 0;
   const uint16_t x256 = 0x5C00, largest = 0x7BFF, one = 0x3C00;
   EXPECT_EQ(raisedBy([&] { checked_binary_times_Real16_Real16(&result, x256, x256); }), 6);
   EXPECT_EQ(raisedBy([&] { binary_times_Real16_Real16(&result, x256, x256); }), 0);
   EXPECT_EQ(result, kHalfInfinity);
-  // 65504 + 1 is finite in binary32 and truncates to 65504.
-  EXPECT_EQ(raisedBy([&] { checked_binary_plus_Real16_Real16(&result, largest, one); }), 0);
+  // 65504 + 16 is finite in binary32 and truncates to 65504.
+  EXPECT_EQ(raisedBy([&] { checked_binary_plus_Real16_Real16(&result, largest, 0x4C00); }), 0);
   EXPECT_EQ(result, largest);
-  EXPECT_EQ(raisedBy([&] { checked_binary_subtract_Real16_Real16(&result, kHalfInfinity, kHalfInfinity); }), 9);
+  // 65504 + 32 is 65536.
+  EXPECT_EQ(raisedBy([&] { checked_binary_plus_Real16_Real16(&result, largest, 0x5000); }), 6);
+  EXPECT_EQ(raisedBy([&] { checked_binary_subtract_Real16_Real16(&result, kHalfInfinity, kHalfInfinity); }),
+            9);
   // 0.0004 is lost below 1.0.
   binary_plus_Real16_Real16(&result, one, 0x0E8D);
   EXPECT_EQ(result, one);
 }
 
-TEST(HalfEntries, SquareRootRaisesBelowZeroAndPassesNegativeZero) {
+template <class Exponent, class Entry> void expectFirstPower(Entry plain, Entry checked) {
   for (uint32_t bits = 0; bits < 65536; ++bits) {
-    const double x = valueOf(static_cast<uint16_t>(bits));
+    const auto x = uint16_t(bits);
     uint16_t result = 0;
-    ASSERT_EQ(raisedBy([&] { unary_sqrt_Real16(&result, static_cast<uint16_t>(bits)); }), x < 0 ? 14 : 0) << bits;
-    if (x >= 0 && std::isfinite(x)) ASSERT_EQ(result, truncated(std::sqrt(float(x)))) << bits;
+    ASSERT_EQ(raisedBy([&] { plain(&result, x, Exponent(1)); }), 0) << bits;
+    ASSERT_TRUE(sameHalf(result, x)) << bits;
+    ASSERT_EQ(raisedBy([&] { checked(&result, x, Exponent(1)); }), codeOf(x)) << bits;
+    ASSERT_TRUE(sameHalf(result, x)) << bits;
+  }
+}
+
+TEST(HalfArithmetic, AnIntegerExponentOfOneGivesTheValueItself) {
+#define FIRST_POWER(E, type) expectFirstPower<type>(binary_pow_Real16_##E, checked_binary_pow_Real16_##E);
+  FIRST_POWER(Integer8, int8_t)
+  FIRST_POWER(UnsignedInteger8, uint8_t)
+  FIRST_POWER(Integer16, int16_t)
+  FIRST_POWER(UnsignedInteger16, uint16_t)
+  FIRST_POWER(Integer32, int32_t)
+  FIRST_POWER(UnsignedInteger32, uint32_t)
+  FIRST_POWER(Integer64, int64_t)
+  FIRST_POWER(UnsignedInteger64, uint64_t)
+}
+
+// ---- roots --------------------------------------------------------------------------------------
+
+TEST(HalfEntries, RootsRaiseBelowZeroAndPassNegativeZero) {
+  for (uint32_t bits = 0; bits < 65536; ++bits) {
+    const double x = halfValue(uint16_t(bits));
+    uint16_t root = 0, inverse = 0;
+    ASSERT_EQ(raisedBy([&] { unary_sqrt_Real16(&root, uint16_t(bits)); }), x < 0 ? 14 : 0) << bits;
+    ASSERT_EQ(raisedBy([&] { unary_rsqrt_Real16(&inverse, uint16_t(bits)); }), x < 0 ? 14 : 0) << bits;
+    if (x < 0) continue;
+    ASSERT_TRUE(sameHalf(root, halfPattern(float(std::sqrt(x))))) << bits;
+    ASSERT_TRUE(sameHalf(inverse, halfPattern(float(1 / std::sqrt(x))))) << bits;
   }
 }
 

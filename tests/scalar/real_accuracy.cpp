@@ -420,7 +420,7 @@ Accuracy measure(const RealPairFunction &function, int steps) {
   return accuracy;
 }
 
-constexpr char kPageHead[] = R"(# Accuracy of the functions of reals
+constexpr char kPageHead[] = R"(# Accuracy of the functions of reals and complexes
 
 `cmake --build build/release --target accuracy` measures and writes this page. The bound is the one in the operator's
 row under `src/scalar/rows`; the tests of every build hold the functions below it on fewer points.

@@ -8,6 +8,7 @@
 #include <torvane/operators.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
+#include <torvane/text.h>
 #include <torvane/tolerance.h>
 
 #include <cstring>

@@ -15,7 +15,7 @@ namespace torvane {
 // Truncation as the processor does it: a NaN gives the reserved value.
 inline mint truncateToWord(Real64 x) { return _mm_cvttsd_si32(_mm_set_sd(x)); }
 
-template <class R> constexpr R kWordLimit = isSame<R, Real64> ? R(2147483647.0) : R(2147483648.0);
+using complexes::kWordLimit;
 
 // Refuses on a true comparison only, so a NaN passes.
 template <class R> mint toWord(error &code, R r) {

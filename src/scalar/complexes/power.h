@@ -25,7 +25,8 @@ template <class R> Complex<R> pow(error &code, Complex<R> z, Complex<R> w) {
   }
   // The negative axis belongs to its upper side.
   if (!(x > 0)) return exp(code, guardedProduct(w, polarLog(Complex<R>{x, R(0)})));
-  return exp(code, scaled(w, library::log(x)));
+  const R l = library::log(x);
+  return exp(code, Complex<R>{guardedProduct(w.re, l), guardedProduct(w.im, l)});
 }
 
 template <class R> Complex<R> pow(error &code, R x, Complex<R> w) {

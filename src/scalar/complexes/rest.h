@@ -26,10 +26,13 @@ template <class R> R flooredRemainder(R x, R y) {
   return sum == y ? R(0) : sum;
 }
 
-// Rounded to the nearest integer, ties to even, which must be within 32 bits in both widths.
+// From where `round` refuses: callers rely on the difference of one between the widths.
+template <class R> constexpr R kWordLimit = isSame<R, Real64> ? R(2147483647.0) : R(2147483648.0);
+
+// What `round` gives, as a real: the nearest integer, ties to even, and its range.
 template <class R> R nearestWord(error &code, R x) {
   const R r = library::rint(x);
-  if (r <= R(-2147483648.0) || r >= R(2147483648.0)) code = error::integerOverflow;
+  if (r <= R(-2147483648.0) || r >= kWordLimit<R>) code = error::integerOverflow;
   return r;
 }
 
