@@ -12,6 +12,7 @@
 #include "tolerance.h"
 #include "scalars.h"
 #include "integers.h"
+#include "parallel.h"
 #include "machfuncs.h"
 
 #endif
