@@ -24,20 +24,31 @@ ParallelWorker *takeSeat(ParallelPool *pool) {
   seat->seatTask.first = piece.first;
   seat->seatTask.last = piece.last;
   seat->task = &seat->seatTask;
+  seat->takenAt = timeStamp();
   ++pool->busyWorkers;
   return seat;
 }
 
 void returnSeat(ParallelPool *pool, const ParallelWorker *seat) {
+  const ParallelTask &done = seat->seatTask;
+  pool->ticksPerIndex =
+      static_cast<double>(timeStamp() - seat->takenAt) / (static_cast<double>(done.last) - done.first);
   placeInRing(pool, &pool->nextReturned) = seat->index;
   --pool->busyWorkers;
+}
+
+bool isWorthWaking(const ParallelPool *pool, const ParallelWorker *helper) {
+  if (!helper->signal.hasSleeper()) return true;
+  const auto indicesLeft = static_cast<double>(pool->remaining.last - pool->remaining.next);
+  return indicesLeft * pool->ticksPerIndex >= static_cast<double>(kWatchTicks);
 }
 
 // A thread for the next piece, the one that went idle last: it may still be watching. The caller carries
 // pieces too, so that one thread may always stay idle.
 ParallelWorker *takeHelper(ParallelPool *pool) {
   ParallelWorker *helper = pool->idleWorkers;
-  if (helper == nullptr || pool->remaining.isEmpty() || pool->awakeThreads >= pool->threadCount - 1)
+  if (helper == nullptr || pool->remaining.isEmpty() || pool->awakeThreads >= pool->threadCount - 1 ||
+      !isWorthWaking(pool, helper))
     return nullptr;
   pool->idleWorkers = helper->nextIdle;
   helper->isIdle = 0;

@@ -18,6 +18,9 @@ public:
   // it sleeps: a thread that sleeps costs whoever wakes it microseconds.
   void wait(Lock &held, uint64_t watchTicks);
 
+  // Whether setting it means waking somebody. Out of date as soon as it is known.
+  bool hasSleeper() const { return word.load(std::memory_order_relaxed) == kSleptOn; }
+
 private:
   enum : uint32_t { kUnset, kSet, kSleptOn };
   bool take();
