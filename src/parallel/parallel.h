@@ -4,8 +4,9 @@
 // A body is called with a piece of the range and a worker, ParallelWorker_first to ParallelWorker_last
 // exclusive. The worker is a seat: no two bodies that run at the same time have the same one, and its index,
 // below the number of workers, tells a body which accumulator is its own. Which thread runs a body is not
-// promised. A loop in which no worker has two pieces (no partition) gives piece k to worker k, so that a
-// merge in the order of workers has the same rounding every time.
+// promised, nor that two pieces run at the same time: no body waits for another piece. A loop in which no
+// worker has two pieces (no partition) gives piece k to worker k, so that a merge in the order of workers
+// has the same rounding every time.
 #pragma once
 
 #include "partition.h"
