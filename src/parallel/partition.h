@@ -16,7 +16,9 @@ enum PartitionKind : mint {
 };
 
 // `size` counts indices (kCount: pieces). A loop runs serially unless (last - first) / grain exceeds `size`,
-// and a size below the grain becomes the grain: pieces of one grain each are {kOfSize, 1}.
+// and a size below the grain becomes the grain: {kOfSize, 1} asks for pieces of a grain each. A piece is its
+// share of what is left, raised to whole grains, so that the first ones are longer where the range is no
+// multiple.
 struct ParallelPartition {
   mint kind;
   mint size;

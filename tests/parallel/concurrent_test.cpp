@@ -20,12 +20,24 @@ constexpr int kRounds = 300;
 constexpr int kRounds = 3000;
 #endif
 
+// Pieces that a thread of the pool has carried, so that a test may hold that there were any.
+std::atomic<int> piecesOfHelpers{0};
+
+// A piece that takes its time and lets others on the processor: the pool wakes nobody for less.
+void linger() {
+  for (const uint64_t start = timeStamp(); timeStamp() - start < 20000;) __builtin_ia32_pause();
+  std::this_thread::yield();
+}
+
 // Fills a plain vector, so that a body that ran twice, or a loop that returned early, is a race.
 void fillAndCheck(mint count, mint mark, const ParallelPartition *partition) {
   std::vector<mint> values(static_cast<size_t>(count), -1);
+  const auto caller = std::this_thread::get_id();
   loopOver(
       0, count, 1,
       [&](ParallelWorker *worker) {
+        if (std::this_thread::get_id() != caller) ++piecesOfHelpers;
+        if (mark % 4 == 0) linger();
         for (mint i = ParallelWorker_first(worker); i < ParallelWorker_last(worker); ++i)
           values[static_cast<size_t>(i)] += i + mark + 1;
       },
@@ -35,8 +47,10 @@ void fillAndCheck(mint count, mint mark, const ParallelPartition *partition) {
 
 TEST_F(ConcurrentPool, LoopsInARowSeeEachOthersResults) {
   const ParallelPartition pieces = {kOfSize, 1, 0};
+  piecesOfHelpers = 0;
   for (int round = 0; round < kRounds; ++round)
-    fillAndCheck(1 + round % 97, round, round % 2 == 0 ? &pieces : nullptr);
+    fillAndCheck(1 + round % 97, round, round % 8 < 4 ? &pieces : nullptr);
+  EXPECT_GT(piecesOfHelpers, kRounds / 10) << "threads take part";
 }
 
 TEST_F(ConcurrentPool, LoopsAfterAPauseFindSleepingThreads) {
@@ -52,7 +66,10 @@ TEST_F(ConcurrentPool, WorkersAddToAccumulatorsOfTheirOwn) {
     int64_t sums[3] = {}; // plain: a worker held by two bodies at once is a race
     loopOver(
         0, 500, 1,
-        [&](ParallelWorker *worker) { sums[ParallelWorker_index(worker)] += ParallelWorker_first(worker); },
+        [&](ParallelWorker *worker) {
+          if (ParallelWorker_first(worker) % 100 == 0) linger();
+          sums[ParallelWorker_index(worker)] += ParallelWorker_first(worker);
+        },
         &pieces);
     ASSERT_EQ(sums[0] + sums[1] + sums[2], 500 * 499 / 2);
   }
@@ -66,6 +83,7 @@ TEST_F(ConcurrentPool, NestedLoopsOfAllWorkersDoNotDisturbEachOther) {
         0, 20, 1,
         [&](ParallelWorker *worker) {
           const mint own = ParallelWorker_first(worker);
+          linger();
           mint covered = 0;
           const mint inner = loopOver(own, own + 50, 1, [&](ParallelWorker *serial) {
             covered += ParallelWorker_last(serial) - ParallelWorker_first(serial);
@@ -109,6 +127,7 @@ TEST_F(ConcurrentPool, SmallestOfManyFailuresIsFound) {
         0, 200, 1,
         [&](ParallelWorker *worker) {
           const mint at = ParallelWorker_first(worker);
+          if (at % 50 == 0) linger();
           if (failure.isBefore(at)) return;
           run[static_cast<size_t>(at)] = 1;
           if (fails[static_cast<size_t>(at)] != 0) failure.at(at);
