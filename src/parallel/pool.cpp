@@ -74,7 +74,10 @@ bool joinThreadOf(const ParallelWorker *worker) {
   return worker->hasThread == 0 || joinThread(worker->thread);
 }
 
-mint wantedWorkers() { return std::max(workerCount(), 1); }
+// More threads than a machine has serve nobody, and the bytes of their records have 32 bits.
+constexpr mint kMostWorkers = 4096;
+
+mint wantedWorkers() { return std::clamp(workerCount(), 1, kMostWorkers); }
 
 // Makes the pool what the next loop needs, while no loop runs.
 void renewPool() {
