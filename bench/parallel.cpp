@@ -61,7 +61,6 @@ void compare(const std::string &name, const Run &ours, const Run &peer) {
 
 struct Vectors {
   std::vector<double> x, y, z;
-  double (*function)(double, double);
 };
 
 double plus(double a, double b) { return a + b; }
@@ -82,7 +81,7 @@ constexpr mint kChunk = 16384;
 template <double (*f)(double, double)> void poolRow(const char *name, mint count) {
   Vectors v{std::vector<double>(static_cast<size_t>(count), 0.5),
             std::vector<double>(static_cast<size_t>(count), 1),
-            std::vector<double>(static_cast<size_t>(count)), f};
+            std::vector<double>(static_cast<size_t>(count))};
   ParallelPartition *partition = ParallelPartition_new(kOfSize, 1);
   const bool manyChunks = (count + kChunk - 1) / kChunk > workerCount();
   const auto ours = [&] {

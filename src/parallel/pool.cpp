@@ -153,7 +153,9 @@ bool parallelLoopIsRunning() {
 void addWorkerStartHook(void (*function)(ParallelWorker *)) {
   auto *hook = static_cast<StartHook *>(allocate(sizeof(StartHook), 0, kFatal));
   *hook = {function, startHooks.load(std::memory_order_relaxed)};
-  startHooks.store(hook, std::memory_order_release);
+  while (!startHooks.compare_exchange_weak(hook->next, hook, std::memory_order_release,
+                                           std::memory_order_relaxed)) {
+  }
 }
 
 void runWorkerStartHooks(ParallelWorker *worker) {
