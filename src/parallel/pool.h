@@ -82,6 +82,9 @@ bool poolExists();
 ParallelPool *createPool(mint workers);
 bool destroyPool(ParallelPool *pool); // false: a thread could not be joined, and everything stays
 
+// Whether the invariants hold while no loop runs.
+bool isValidPool(ParallelPool *pool);
+
 // What a pool's threads run. The worker's thread is started after it has been listed as idle.
 void runWorkerThread(void *worker);
 void wakeWorker(ParallelWorker *worker);

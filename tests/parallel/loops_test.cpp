@@ -60,7 +60,8 @@ TEST_F(ParallelLoop, OneWorkerRunsTheWholeRangeOnTheCallersThread) {
 TEST_F(ParallelLoop, WithoutAPartitionPieceKIsWorkerKs) {
   const std::vector<Call> wanted = {{0, 3, 0, {}}, {3, 6, 1, {}}, {6, 10, 2, {}}};
   for (int round = 0; round < 200; ++round) {
-    Recorder recorder;
+    Recorder recorder, two;
+    EXPECT_EQ(record(&two, 0, 2, 1), 0);
     EXPECT_EQ(record(&recorder, 0, 10, 1), 0);
     ASSERT_EQ(recorder.calls(), wanted);
   }

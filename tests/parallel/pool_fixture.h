@@ -1,7 +1,7 @@
 // A pool of the wanted size for one test, and what a loop's bodies were called with.
 #pragma once
 
-#include "parallel/parallel.h"
+#include "parallel/pool.h"
 #include "runtime/startup.h"
 #include "runtime/thresholds.h"
 
@@ -21,6 +21,10 @@ protected:
     setWorkerCount(3);
   }
   ~PoolTest() override {
+    if (ParallelPool *pool = enterPool(true)) {
+      EXPECT_TRUE(isValidPool(pool));
+      leavePool(pool);
+    }
     tearDownPool();
     initializeThresholds(0);
     initializeThresholds(1);

@@ -45,6 +45,15 @@ TEST_F(Pool, IsMadeByTheFirstLoopAndKept) {
   EXPECT_EQ(threadsStarted, 3);
 }
 
+TEST_F(Pool, IsKeptWhenPrepareHasSeenOneWorker) {
+  visitWorkers();
+  const auto prepare = [](void *, ParallelPool *) {};
+  const auto body = [](void *, ParallelWorker *) {};
+  EXPECT_EQ(parallelLoopEven(nullptr, prepare, body, 0, 10, 10), 0);
+  visitWorkers();
+  EXPECT_EQ(threadsStarted, 3);
+}
+
 TEST_F(Pool, OfOneWorkerHasNoThread) {
   setWorkerCount(1);
   runLoop();
