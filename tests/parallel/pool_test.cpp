@@ -136,6 +136,7 @@ void countBegin() { ++threadsBegun; }
 void countEnd() { ++threadsEnded; }
 
 TEST_F(Pool, ThreadsRunTheHooksOfTheLibrarysThreads) {
+  threadsBegun = threadsEnded = 0;
   addThreadStartHook(countBegin);
   addThreadExitHook(countEnd);
   visitWorkers();
