@@ -88,7 +88,8 @@ struct ConcurrentMap : testing::Test {
 };
 
 TEST_F(ConcurrentMap, EveryElementIsMappedAtEveryLength) {
-  for (const size_t count : {0, 1, 63, 4095, 4096, 4097, 4160, 8191, 8192, 8193, 100003, 1000000}) {
+  for (const size_t count :
+       {0u, 1u, 63u, 4095u, 4096u, 4097u, 4160u, 8191u, 8192u, 8193u, 100003u, 1000000u}) {
     fill(count);
     ASSERT_EQ(map(function), 0);
     for (size_t i = 0; i < count; ++i) ASSERT_EQ(target[i], function(static_cast<int64_t>(i))) << count;
@@ -96,7 +97,7 @@ TEST_F(ConcurrentMap, EveryElementIsMappedAtEveryLength) {
 }
 
 TEST_F(ConcurrentMap, VectorMayBeMappedOntoItself) {
-  for (const size_t count : {100, 50000}) {
+  for (const size_t count : {100u, 50000u}) {
     fill(count);
     ASSERT_EQ(
         parallel_for_Integer64_Integer64(source.data(), static_cast<int64_t>(count), source.data(), function),
@@ -152,7 +153,7 @@ int64_t raiseAt(int64_t x) {
 }
 
 TEST_F(ConcurrentMap, CodeOfTheSmallestFailingIndexIsTheResult) {
-  for (const size_t count : {3000, 4096, 100000})
+  for (const size_t count : {3000u, 4096u, 100000u})
     for (const std::set<int64_t> &at :
          {std::set<int64_t>{1}, {int64_t(count) - 1}, {700, 2900}, {2999, 2998, 64}}) {
       raising = at;
@@ -173,7 +174,7 @@ TEST_F(ConcurrentMap, RaiseEndsItsTaskAndNoOther) {
 }
 
 TEST_F(ConcurrentMap, CodeZeroCountsAsNone) {
-  for (const size_t count : {100, 5000}) {
+  for (const size_t count : {100u, 5000u}) {
     fill(count);
     raising = {0};
     EXPECT_EQ(map(raiseAt), 0);
@@ -184,7 +185,7 @@ TEST_F(ConcurrentMap, CodeZeroCountsAsNone) {
 int64_t throwOther(int64_t x) { return x == 70 ? throw std::runtime_error("of the host") : x; }
 
 TEST_F(ConcurrentMap, OtherExceptionsPassThrough) {
-  for (const size_t count : {100, 5000}) {
+  for (const size_t count : {100u, 5000u}) {
     fill(count);
     EXPECT_THROW(map(throwOther), std::runtime_error);
   }
@@ -196,7 +197,7 @@ int64_t raiseByStyle(int64_t x) {
 }
 
 TEST_F(ConcurrentMap, RaiseInStyleOneIsPendingAndTheTaskGoesOn) {
-  for (const size_t count : {4095, 9000}) {
+  for (const size_t count : {4095u, 9000u}) {
     fill(count);
     EXPECT_EQ(map(raiseByStyle), 0);
     EXPECT_EQ(setExceptionActive(0), 14);
@@ -207,7 +208,7 @@ TEST_F(ConcurrentMap, RaiseInStyleOneIsPendingAndTheTaskGoesOn) {
 
 TEST_F(ConcurrentMap, RaiseInStyleZeroIsTheResult) {
   setExceptionStyle(0);
-  for (const size_t count : {4095, 9000}) {
+  for (const size_t count : {4095u, 9000u}) {
     fill(count);
     EXPECT_EQ(map(raiseByStyle), 14);
     EXPECT_EQ(target[3999], function(3999));
@@ -233,7 +234,7 @@ mint codeCaughtAround(ConcurrentMap *test) {
 
 TEST_F(ConcurrentMap, RaiseInStyleTwoReachesTheCallersFrame) {
   setExceptionStyle(2);
-  for (const size_t count : {4095, 9000}) {
+  for (const size_t count : {4095u, 9000u}) {
     fill(count);
     EXPECT_EQ(codeCaughtAround(this), 14);
     EXPECT_EQ(target[3999], function(3999));
