@@ -1,8 +1,6 @@
 // The three forms of a parallel loop.
 #include "pool.h"
 
-#include "../runtime/thresholds.h"
-
 namespace torvane {
 
 namespace {

@@ -81,7 +81,7 @@ mint wantedWorkers() { return std::clamp(workerCount(), 1, kMostWorkers); }
 
 // Makes the pool what the next loop needs, while no loop runs.
 void renewPool() {
-  if (thePool != nullptr && thePool->workerCount == wantedWorkers()) return;
+  if (thePool != nullptr && std::max(thePool->threadCount, 1) == wantedWorkers()) return;
   if (thePool != nullptr) destroyPool(thePool);
   watchForks();
   thePool = createPool(wantedWorkers());
