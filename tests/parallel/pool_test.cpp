@@ -12,10 +12,10 @@ namespace torvane::test {
 namespace {
 
 std::atomic<int> threadsStarted{0};
-std::atomic<mint> indicesSeen{0};
+std::atomic<uint64_t> indicesSeen{0};
 void countStart(ParallelWorker *worker) {
   ++threadsStarted;
-  indicesSeen |= 1 << ParallelWorker_index(worker);
+  indicesSeen |= uint64_t{1} << ParallelWorker_index(worker); // of at most 40 workers
 }
 
 class Pool : public PoolTest {
@@ -73,7 +73,7 @@ TEST_F(Pool, ChangedCountTakesEffectAtTheNextLoop) {
   setWorkerCount(4);
   visitWorkers();
   EXPECT_EQ(threadsStarted, 9);
-  EXPECT_EQ(indicesSeen, 0xF);
+  EXPECT_EQ(indicesSeen, 0xFu);
 }
 
 TEST_F(Pool, CountChangedByABodyWaitsForTheNextLoop) {
