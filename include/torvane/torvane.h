@@ -13,6 +13,7 @@
 #include "scalars.h"
 #include "integers.h"
 #include "text.h"
+#include "parallel.h"
 #include "machfuncs.h"
 
 #endif

@@ -34,7 +34,7 @@ const StartupModule kStartupModules[kStartupModuleCount] = {
     {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
     {"sparse arrays", nullptr, nullptr},
     {"random numbers", nullptr, nullptr},
-    {"parallel and vector thresholds", initializeThresholds, nullptr},
+    {"parallel and vector thresholds", initializeThresholds, tearDownPool},
     {"eternal tensor", initializeEternalTensor, tearDownEternalTensor},
     {"abort poll", initializeAbortPoll, nullptr},
 };

@@ -22,6 +22,7 @@ void tearDownThreadHookLists();
 void tearDownElementTypeNames();
 void tearDownRankZeroTensors();
 void tearDownEternalTensor();
+void tearDownPool();
 
 struct StartupModule {
   const char *name;

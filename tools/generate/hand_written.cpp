@@ -6,6 +6,7 @@
 #include <torvane/integers.h>
 #include <torvane/memory.h>
 #include <torvane/operators.h>
+#include <torvane/parallel.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
 #include <torvane/text.h>
