@@ -60,12 +60,11 @@ void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries) {
       " *\n * Integers, Real32 and Real64 pass and return by value. Real16 passes as its 16-bit pattern and\n"
       " * comes back through a leading pointer, which is also returned. Complexes pass as (re, im) and come\n"
       " * back through leading pointers to the two parts, the first of which is returned. Results may share\n"
-      " * storage with nothing. A failing entry raises its code (failure.h) and in style 1 returns an\n"
-      " * arbitrary value. Codes before a semicolon are raised by both forms; codes 1 of checked forms "
-      "stand\n"
-      " * for a result outside its integer type or equal to the most negative value, 6 and 9 for an "
-      "infinite\n"
-      " * and a NaN result. All entries are pure and may be called from any thread.",
+      " * storage with nothing. A failing entry raises its code (failure.h) and stores nothing; in style 1 it\n"
+      " * returns an arbitrary value, or its first pointer. Codes before a semicolon are raised by both forms;\n"
+      " * codes 1 of checked forms stand for a result outside its integer type or equal to the most negative\n"
+      " * value, 6 and 9 for an infinite and a NaN result. All entries are pure and may be called from any\n"
+      " * thread.",
       entries);
   writeUnits(files, "src/scalar", "", "scalars.h", entries);
   writeInlineHeader(files, entries);
