@@ -7,7 +7,8 @@
  * returns an arbitrary value, or its first pointer. Codes before a semicolon are raised by both forms;
  * codes 1 of checked forms stand for a result outside its integer type or equal to the most negative
  * value, 6 and 9 for an infinite and a NaN result. All entries are pure and may be called from any
- * thread.
+ * thread. Compilers that inline them find the same entries in scalars_inline.hpp (C++20) and, as LLVM
+ * bitcode, in torvane_scalars.bc.
  *
  * Generated from src/scalar/operators.def by tools/generate; not to be edited. */
 #ifndef TORVANE_SCALARS_H

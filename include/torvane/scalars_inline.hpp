@@ -1,5 +1,6 @@
 // The typed entries as inline functions, for C++20: torvane::inlined::<name> is the export <name>.
-// A failing one still raises through the library.
+// A failing one still raises through the library. To give the export's values to the bit, compile
+// with -ffp-contract=off: a fused product is not rounded.
 //
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #ifndef TORVANE_SCALARS_INLINE_HPP
