@@ -132,7 +132,8 @@ template <class Call> mint codeBesidePending(Call call) {
 
 inline constexpr unsigned char kPoison = 0xA5;
 
-template <class R, class... A, class... T> Called call(R (*entry)(A...), T... x) {
+// Out of line: the walks call it for thousands of entries of few types.
+template <class R, class... A, class... T> [[gnu::noinline]] Called call(R (*entry)(A...), T... x) {
   Called called;
   if constexpr (std::is_pointer_v<R>) {
     std::remove_pointer_t<R> parts[2];
