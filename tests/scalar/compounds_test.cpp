@@ -96,7 +96,7 @@ template <class R> std::vector<R> operands() {
   return values;
 }
 
-template <class T> T any(const std::vector<RealPartOf<T>> &values, std::mt19937_64 &random) {
+template <class T> T any(const std::vector<RealPartOf<T>> &values, std::mt19937 &random) {
   const auto part = [&] { return values[random() % values.size()]; };
   if constexpr (isComplex<T>)
     return {part(), part()};
@@ -106,7 +106,7 @@ template <class T> T any(const std::vector<RealPartOf<T>> &values, std::mt19937_
 
 template <class T> void expectCompounds(const Steps<T> &steps) {
   const auto values = operands<RealPartOf<T>>();
-  std::mt19937_64 random(43);
+  std::mt19937 random(43);
   for (int k = 0; k < 40000 && !testing::Test::HasFatalFailure(); ++k) {
     const T a = any<T>(values, random), x = any<T>(values, random);
     const T y = k % 8 == 0 ? x : any<T>(values, random);
