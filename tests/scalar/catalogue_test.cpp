@@ -146,7 +146,8 @@ using EntryOf = decltype(entryType<Result>(std::tuple_cat(partsOf(T{})...)));
 template <class T> using PartOf = typename RealPart<T>::Type;
 
 // What the entries of one type yield, by name.
-template <class T, class Given, class... Operands> constexpr bool yields(std::string_view name, bool isUnary) {
+template <class T, class Given, class... Operands>
+constexpr bool yields(std::string_view name, bool isUnary) {
   const auto is = [&]<class Result>(Result *) { return std::is_same_v<Given, EntryOf<Result, Operands...>>; };
   constexpr mint *word = nullptr;
   constexpr T *same = nullptr;
@@ -184,8 +185,7 @@ constexpr TypeCell kUnaryTypes[] = {
 // Powers have a rule of their own.
 constexpr TypeCell kBinaryTypes[] = {
 #define ONE(T, typed) TYPE_CELL(T, typed, binary_##typed##_##T##_##T, false, T, T)
-#define TORVANE_BINARY(family, number, typed, vector, kinds, rule, pairs, ...)                               \
-  ROWS_OF_##pairs(typed)
+#define TORVANE_BINARY(family, number, typed, vector, kinds, rule, pairs, ...) ROWS_OF_##pairs(typed)
 #define ROWS_OF_diagonal(typed) TORVANE_FOR_EACH_SCALAR(ONE, typed)
 #define ROWS_OF_all(typed)
 #include "scalar/operators.def"
