@@ -3,10 +3,12 @@
  * Integers, Real32 and Real64 pass and return by value. Real16 passes as its 16-bit pattern and
  * comes back through a leading pointer, which is also returned. Complexes pass as (re, im) and come
  * back through leading pointers to the two parts, the first of which is returned. Results may share
- * storage with nothing. A failing entry raises its code (failure.h) and in style 1 returns an
- * arbitrary value. Codes before a semicolon are raised by both forms; codes 1 of checked forms stand
- * for a result outside its integer type or equal to the most negative value, 6 and 9 for an infinite
- * and a NaN result. All entries are pure and may be called from any thread.
+ * storage with nothing. A failing entry raises its code (failure.h) and stores nothing; in style 1 it
+ * returns an arbitrary value, or its first pointer. Codes before a semicolon are raised by both forms;
+ * codes 1 of checked forms stand for a result outside its integer type or equal to the most negative
+ * value, 6 and 9 for an infinite and a NaN result. All entries are pure and may be called from any
+ * thread. Compilers that inline them find the same entries in scalars_inline.hpp (C++20) and, as LLVM
+ * bitcode, in torvane_scalars.bc.
  *
  * Generated from src/scalar/operators.def by tools/generate; not to be edited. */
 #ifndef TORVANE_SCALARS_H

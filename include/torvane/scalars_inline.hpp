@@ -1,5 +1,6 @@
 // The typed entries as inline functions, for C++20: torvane::inlined::<name> is the export <name>.
-// A failing one still raises through the library.
+// A failing one still raises through the library. To give the export's values to the bit, compile
+// with -ffp-contract=off: a fused product is not rounded.
 //
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #ifndef TORVANE_SCALARS_INLINE_HPP
@@ -54,7 +55,7 @@ inline uint64_t unary_minus_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::minus, Plain>(x);
 }
 inline uint16_t *unary_minus_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::minus, Plain>(Real16{x}));
+  return evaluateInto<unary::minus, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_minus_Real32(float x) {
   return evaluate<unary::minus, Plain>(x);
@@ -63,10 +64,10 @@ inline double unary_minus_Real64(double x) {
   return evaluate<unary::minus, Plain>(x);
 }
 inline float *unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::minus, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::minus, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::minus, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::minus, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_minus_Integer8(int8_t x) {
   return evaluate<unary::minus, Checked>(x);
@@ -93,7 +94,7 @@ inline uint64_t checked_unary_minus_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::minus, Checked>(x);
 }
 inline uint16_t *checked_unary_minus_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::minus, Checked>(Real16{x}));
+  return evaluateInto<unary::minus, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_minus_Real32(float x) {
   return evaluate<unary::minus, Checked>(x);
@@ -102,10 +103,10 @@ inline double checked_unary_minus_Real64(double x) {
   return evaluate<unary::minus, Checked>(x);
 }
 inline float *checked_unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::minus, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::minus, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::minus, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::minus, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_square_Integer8(int8_t x) {
   return evaluate<unary::square, Plain>(x);
@@ -132,7 +133,7 @@ inline uint64_t unary_square_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::square, Plain>(x);
 }
 inline uint16_t *unary_square_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::square, Plain>(Real16{x}));
+  return evaluateInto<unary::square, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_square_Real32(float x) {
   return evaluate<unary::square, Plain>(x);
@@ -141,10 +142,10 @@ inline double unary_square_Real64(double x) {
   return evaluate<unary::square, Plain>(x);
 }
 inline float *unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::square, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::square, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::square, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::square, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_square_Integer8(int8_t x) {
   return evaluate<unary::square, Checked>(x);
@@ -171,7 +172,7 @@ inline uint64_t checked_unary_square_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::square, Checked>(x);
 }
 inline uint16_t *checked_unary_square_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::square, Checked>(Real16{x}));
+  return evaluateInto<unary::square, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_square_Real32(float x) {
   return evaluate<unary::square, Checked>(x);
@@ -180,10 +181,10 @@ inline double checked_unary_square_Real64(double x) {
   return evaluate<unary::square, Checked>(x);
 }
 inline float *checked_unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::square, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::square, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::square, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::square, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_recip_Integer8(int8_t x) {
   return evaluate<unary::recip, Plain>(x);
@@ -210,7 +211,7 @@ inline uint64_t unary_recip_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::recip, Plain>(x);
 }
 inline uint16_t *unary_recip_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::recip, Plain>(Real16{x}));
+  return evaluateInto<unary::recip, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_recip_Real32(float x) {
   return evaluate<unary::recip, Plain>(x);
@@ -219,10 +220,10 @@ inline double unary_recip_Real64(double x) {
   return evaluate<unary::recip, Plain>(x);
 }
 inline float *unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::recip, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::recip, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_recip_Integer8(int8_t x) {
   return evaluate<unary::recip, Checked>(x);
@@ -249,7 +250,7 @@ inline uint64_t checked_unary_recip_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::recip, Checked>(x);
 }
 inline uint16_t *checked_unary_recip_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::recip, Checked>(Real16{x}));
+  return evaluateInto<unary::recip, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_recip_Real32(float x) {
   return evaluate<unary::recip, Checked>(x);
@@ -258,10 +259,10 @@ inline double checked_unary_recip_Real64(double x) {
   return evaluate<unary::recip, Checked>(x);
 }
 inline float *checked_unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::recip, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::recip, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_abs_Integer8(int8_t x) {
   return evaluate<unary::abs, Plain>(x);
@@ -288,7 +289,7 @@ inline uint64_t unary_abs_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abs, Plain>(x);
 }
 inline uint16_t *unary_abs_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abs, Plain>(Real16{x}));
+  return evaluateInto<unary::abs, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_abs_Real32(float x) {
   return evaluate<unary::abs, Plain>(x);
@@ -327,7 +328,7 @@ inline uint64_t checked_unary_abs_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abs, Checked>(x);
 }
 inline uint16_t *checked_unary_abs_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abs, Checked>(Real16{x}));
+  return evaluateInto<unary::abs, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_abs_Real32(float x) {
   return evaluate<unary::abs, Checked>(x);
@@ -366,7 +367,7 @@ inline uint64_t unary_abssquare_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abssquare, Plain>(x);
 }
 inline uint16_t *unary_abssquare_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abssquare, Plain>(Real16{x}));
+  return evaluateInto<unary::abssquare, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_abssquare_Real32(float x) {
   return evaluate<unary::abssquare, Plain>(x);
@@ -405,7 +406,7 @@ inline uint64_t checked_unary_abssquare_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abssquare, Checked>(x);
 }
 inline uint16_t *checked_unary_abssquare_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abssquare, Checked>(Real16{x}));
+  return evaluateInto<unary::abssquare, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_abssquare_Real32(float x) {
   return evaluate<unary::abssquare, Checked>(x);
@@ -444,7 +445,7 @@ inline uint64_t unary_arg_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::arg, Plain>(x);
 }
 inline uint16_t *unary_arg_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::arg, Plain>(Real16{x}));
+  return evaluateInto<unary::arg, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_arg_Real32(float x) {
   return evaluate<unary::arg, Plain>(x);
@@ -483,7 +484,7 @@ inline uint64_t checked_unary_arg_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::arg, Checked>(x);
 }
 inline uint16_t *checked_unary_arg_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::arg, Checked>(Real16{x}));
+  return evaluateInto<unary::arg, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_arg_Real32(float x) {
   return evaluate<unary::arg, Checked>(x);
@@ -522,7 +523,7 @@ inline uint64_t unary_conj_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::conj, Plain>(x);
 }
 inline uint16_t *unary_conj_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::conj, Plain>(Real16{x}));
+  return evaluateInto<unary::conj, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_conj_Real32(float x) {
   return evaluate<unary::conj, Plain>(x);
@@ -531,10 +532,10 @@ inline double unary_conj_Real64(double x) {
   return evaluate<unary::conj, Plain>(x);
 }
 inline float *unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::conj, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::conj, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::conj, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::conj, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_conj_Integer8(int8_t x) {
   return evaluate<unary::conj, Checked>(x);
@@ -561,7 +562,7 @@ inline uint64_t checked_unary_conj_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::conj, Checked>(x);
 }
 inline uint16_t *checked_unary_conj_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::conj, Checked>(Real16{x}));
+  return evaluateInto<unary::conj, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_conj_Real32(float x) {
   return evaluate<unary::conj, Checked>(x);
@@ -570,10 +571,10 @@ inline double checked_unary_conj_Real64(double x) {
   return evaluate<unary::conj, Checked>(x);
 }
 inline float *checked_unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::conj, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::conj, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::conj, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::conj, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_im_Integer8(int8_t x) {
   return evaluate<unary::im, Plain>(x);
@@ -600,7 +601,7 @@ inline uint64_t unary_im_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::im, Plain>(x);
 }
 inline uint16_t *unary_im_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::im, Plain>(Real16{x}));
+  return evaluateInto<unary::im, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_im_Real32(float x) {
   return evaluate<unary::im, Plain>(x);
@@ -639,7 +640,7 @@ inline uint64_t checked_unary_im_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::im, Checked>(x);
 }
 inline uint16_t *checked_unary_im_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::im, Checked>(Real16{x}));
+  return evaluateInto<unary::im, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_im_Real32(float x) {
   return evaluate<unary::im, Checked>(x);
@@ -678,7 +679,7 @@ inline uint64_t unary_re_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::re, Plain>(x);
 }
 inline uint16_t *unary_re_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::re, Plain>(Real16{x}));
+  return evaluateInto<unary::re, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_re_Real32(float x) {
   return evaluate<unary::re, Plain>(x);
@@ -717,7 +718,7 @@ inline uint64_t checked_unary_re_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::re, Checked>(x);
 }
 inline uint16_t *checked_unary_re_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::re, Checked>(Real16{x}));
+  return evaluateInto<unary::re, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_re_Real32(float x) {
   return evaluate<unary::re, Checked>(x);
@@ -765,10 +766,10 @@ inline mint unary_sign_Real64(double x) {
   return evaluate<unary::sign, Plain>(x);
 }
 inline float *unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sign, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sign, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sign, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sign, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline mint checked_unary_sign_Integer8(int8_t x) {
   return evaluate<unary::sign, Checked>(x);
@@ -804,10 +805,10 @@ inline mint checked_unary_sign_Real64(double x) {
   return evaluate<unary::sign, Checked>(x);
 }
 inline float *checked_unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sign, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sign, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sign, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sign, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_copy_Integer8(int8_t x) {
   return evaluate<unary::copy, Plain>(x);
@@ -834,7 +835,7 @@ inline uint64_t unary_copy_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::copy, Plain>(x);
 }
 inline uint16_t *unary_copy_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::copy, Plain>(Real16{x}));
+  return evaluateInto<unary::copy, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_copy_Real32(float x) {
   return evaluate<unary::copy, Plain>(x);
@@ -843,10 +844,10 @@ inline double unary_copy_Real64(double x) {
   return evaluate<unary::copy, Plain>(x);
 }
 inline float *unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::copy, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::copy, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::copy, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::copy, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_copy_Integer8(int8_t x) {
   return evaluate<unary::copy, Checked>(x);
@@ -873,7 +874,7 @@ inline uint64_t checked_unary_copy_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::copy, Checked>(x);
 }
 inline uint16_t *checked_unary_copy_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::copy, Checked>(Real16{x}));
+  return evaluateInto<unary::copy, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_copy_Real32(float x) {
   return evaluate<unary::copy, Checked>(x);
@@ -882,10 +883,10 @@ inline double checked_unary_copy_Real64(double x) {
   return evaluate<unary::copy, Checked>(x);
 }
 inline float *checked_unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::copy, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::copy, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::copy, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::copy, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_zero_Integer8(int8_t x) {
   return evaluate<unary::zero, Plain>(x);
@@ -912,7 +913,7 @@ inline uint64_t unary_zero_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::zero, Plain>(x);
 }
 inline uint16_t *unary_zero_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::zero, Plain>(Real16{x}));
+  return evaluateInto<unary::zero, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_zero_Real32(float x) {
   return evaluate<unary::zero, Plain>(x);
@@ -921,10 +922,10 @@ inline double unary_zero_Real64(double x) {
   return evaluate<unary::zero, Plain>(x);
 }
 inline float *unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::zero, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::zero, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::zero, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::zero, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_zero_Integer8(int8_t x) {
   return evaluate<unary::zero, Checked>(x);
@@ -951,7 +952,7 @@ inline uint64_t checked_unary_zero_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::zero, Checked>(x);
 }
 inline uint16_t *checked_unary_zero_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::zero, Checked>(Real16{x}));
+  return evaluateInto<unary::zero, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_zero_Real32(float x) {
   return evaluate<unary::zero, Checked>(x);
@@ -960,10 +961,10 @@ inline double checked_unary_zero_Real64(double x) {
   return evaluate<unary::zero, Checked>(x);
 }
 inline float *checked_unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::zero, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::zero, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::zero, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::zero, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_one_Integer8(int8_t x) {
   return evaluate<unary::one, Plain>(x);
@@ -990,7 +991,7 @@ inline uint64_t unary_one_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::one, Plain>(x);
 }
 inline uint16_t *unary_one_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::one, Plain>(Real16{x}));
+  return evaluateInto<unary::one, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_one_Real32(float x) {
   return evaluate<unary::one, Plain>(x);
@@ -999,10 +1000,10 @@ inline double unary_one_Real64(double x) {
   return evaluate<unary::one, Plain>(x);
 }
 inline float *unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::one, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::one, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::one, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::one, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_one_Integer8(int8_t x) {
   return evaluate<unary::one, Checked>(x);
@@ -1029,7 +1030,7 @@ inline uint64_t checked_unary_one_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::one, Checked>(x);
 }
 inline uint16_t *checked_unary_one_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::one, Checked>(Real16{x}));
+  return evaluateInto<unary::one, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_one_Real32(float x) {
   return evaluate<unary::one, Checked>(x);
@@ -1038,10 +1039,10 @@ inline double checked_unary_one_Real64(double x) {
   return evaluate<unary::one, Checked>(x);
 }
 inline float *checked_unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::one, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::one, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::one, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::one, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline mint unary_fpexception_Integer8(int8_t x) {
   return evaluate<unary::fpexception, Plain>(x);
@@ -1536,7 +1537,7 @@ inline uint64_t unary_ramp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::ramp, Plain>(x);
 }
 inline uint16_t *unary_ramp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::ramp, Plain>(Real16{x}));
+  return evaluateInto<unary::ramp, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_ramp_Real32(float x) {
   return evaluate<unary::ramp, Plain>(x);
@@ -1545,10 +1546,10 @@ inline double unary_ramp_Real64(double x) {
   return evaluate<unary::ramp, Plain>(x);
 }
 inline float *unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ramp, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ramp, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ramp, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ramp, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_ramp_Integer8(int8_t x) {
   return evaluate<unary::ramp, Checked>(x);
@@ -1575,7 +1576,7 @@ inline uint64_t checked_unary_ramp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::ramp, Checked>(x);
 }
 inline uint16_t *checked_unary_ramp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::ramp, Checked>(Real16{x}));
+  return evaluateInto<unary::ramp, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_ramp_Real32(float x) {
   return evaluate<unary::ramp, Checked>(x);
@@ -1584,10 +1585,10 @@ inline double checked_unary_ramp_Real64(double x) {
   return evaluate<unary::ramp, Checked>(x);
 }
 inline float *checked_unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ramp, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ramp, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ramp, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ramp, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline mint unary_evenq_Integer8(int8_t x) {
   return evaluate<unary::evenq, Plain>(x);
@@ -1770,7 +1771,7 @@ inline uint64_t unary_bit_not_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::bit_not, Plain>(x);
 }
 inline uint16_t *unary_bit_not_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::bit_not, Plain>(Real16{x}));
+  return evaluateInto<unary::bit_not, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_bit_not_Real32(float x) {
   return evaluate<unary::bit_not, Plain>(x);
@@ -1779,10 +1780,10 @@ inline double unary_bit_not_Real64(double x) {
   return evaluate<unary::bit_not, Plain>(x);
 }
 inline float *unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::bit_not, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::bit_not, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_bit_not_Integer8(int8_t x) {
   return evaluate<unary::bit_not, Checked>(x);
@@ -1809,7 +1810,7 @@ inline uint64_t checked_unary_bit_not_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::bit_not, Checked>(x);
 }
 inline uint16_t *checked_unary_bit_not_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::bit_not, Checked>(Real16{x}));
+  return evaluateInto<unary::bit_not, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_bit_not_Real32(float x) {
   return evaluate<unary::bit_not, Checked>(x);
@@ -1818,10 +1819,10 @@ inline double checked_unary_bit_not_Real64(double x) {
   return evaluate<unary::bit_not, Checked>(x);
 }
 inline float *checked_unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::bit_not, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::bit_not, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline mint unary_bit_length_Integer8(int8_t x) {
   return evaluate<unary::bit_length, Plain>(x);
@@ -2004,7 +2005,7 @@ inline uint64_t unary_sqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sqrt, Plain>(x);
 }
 inline uint16_t *unary_sqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sqrt, Plain>(Real16{x}));
+  return evaluateInto<unary::sqrt, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_sqrt_Real32(float x) {
   return evaluate<unary::sqrt, Plain>(x);
@@ -2013,10 +2014,10 @@ inline double unary_sqrt_Real64(double x) {
   return evaluate<unary::sqrt, Plain>(x);
 }
 inline float *unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sqrt, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sqrt, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_sqrt_Integer8(int8_t x) {
   return evaluate<unary::sqrt, Checked>(x);
@@ -2043,7 +2044,7 @@ inline uint64_t checked_unary_sqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sqrt, Checked>(x);
 }
 inline uint16_t *checked_unary_sqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sqrt, Checked>(Real16{x}));
+  return evaluateInto<unary::sqrt, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_sqrt_Real32(float x) {
   return evaluate<unary::sqrt, Checked>(x);
@@ -2052,10 +2053,10 @@ inline double checked_unary_sqrt_Real64(double x) {
   return evaluate<unary::sqrt, Checked>(x);
 }
 inline float *checked_unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_cbrt_Integer8(int8_t x) {
   return evaluate<unary::cbrt, Plain>(x);
@@ -2082,7 +2083,7 @@ inline uint64_t unary_cbrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cbrt, Plain>(x);
 }
 inline uint16_t *unary_cbrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cbrt, Plain>(Real16{x}));
+  return evaluateInto<unary::cbrt, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_cbrt_Real32(float x) {
   return evaluate<unary::cbrt, Plain>(x);
@@ -2091,10 +2092,10 @@ inline double unary_cbrt_Real64(double x) {
   return evaluate<unary::cbrt, Plain>(x);
 }
 inline float *unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cbrt, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cbrt, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_cbrt_Integer8(int8_t x) {
   return evaluate<unary::cbrt, Checked>(x);
@@ -2121,7 +2122,7 @@ inline uint64_t checked_unary_cbrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cbrt, Checked>(x);
 }
 inline uint16_t *checked_unary_cbrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cbrt, Checked>(Real16{x}));
+  return evaluateInto<unary::cbrt, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_cbrt_Real32(float x) {
   return evaluate<unary::cbrt, Checked>(x);
@@ -2130,10 +2131,10 @@ inline double checked_unary_cbrt_Real64(double x) {
   return evaluate<unary::cbrt, Checked>(x);
 }
 inline float *checked_unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cbrt, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cbrt, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_rsqrt_Integer8(int8_t x) {
   return evaluate<unary::rsqrt, Plain>(x);
@@ -2160,7 +2161,7 @@ inline uint64_t unary_rsqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::rsqrt, Plain>(x);
 }
 inline uint16_t *unary_rsqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::rsqrt, Plain>(Real16{x}));
+  return evaluateInto<unary::rsqrt, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_rsqrt_Real32(float x) {
   return evaluate<unary::rsqrt, Plain>(x);
@@ -2169,10 +2170,10 @@ inline double unary_rsqrt_Real64(double x) {
   return evaluate<unary::rsqrt, Plain>(x);
 }
 inline float *unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_rsqrt_Integer8(int8_t x) {
   return evaluate<unary::rsqrt, Checked>(x);
@@ -2199,7 +2200,7 @@ inline uint64_t checked_unary_rsqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::rsqrt, Checked>(x);
 }
 inline uint16_t *checked_unary_rsqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::rsqrt, Checked>(Real16{x}));
+  return evaluateInto<unary::rsqrt, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_rsqrt_Real32(float x) {
   return evaluate<unary::rsqrt, Checked>(x);
@@ -2208,10 +2209,10 @@ inline double checked_unary_rsqrt_Real64(double x) {
   return evaluate<unary::rsqrt, Checked>(x);
 }
 inline float *checked_unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_round_Integer8(int8_t x) {
   return evaluate<unary::round, Plain>(x);
@@ -2247,10 +2248,10 @@ inline mint unary_round_Real64(double x) {
   return evaluate<unary::round, Plain>(x);
 }
 inline float *unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::round, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::round, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::round, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::round, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_round_Integer8(int8_t x) {
   return evaluate<unary::round, Checked>(x);
@@ -2286,10 +2287,10 @@ inline mint checked_unary_round_Real64(double x) {
   return evaluate<unary::round, Checked>(x);
 }
 inline float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::round, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::round, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::round, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::round, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_floor_Integer8(int8_t x) {
   return evaluate<unary::floor, Plain>(x);
@@ -2325,10 +2326,10 @@ inline mint unary_floor_Real64(double x) {
   return evaluate<unary::floor, Plain>(x);
 }
 inline float *unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::floor, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::floor, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::floor, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::floor, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_floor_Integer8(int8_t x) {
   return evaluate<unary::floor, Checked>(x);
@@ -2364,10 +2365,10 @@ inline mint checked_unary_floor_Real64(double x) {
   return evaluate<unary::floor, Checked>(x);
 }
 inline float *checked_unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::floor, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::floor, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::floor, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::floor, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_ceiling_Integer8(int8_t x) {
   return evaluate<unary::ceiling, Plain>(x);
@@ -2403,10 +2404,10 @@ inline mint unary_ceiling_Real64(double x) {
   return evaluate<unary::ceiling, Plain>(x);
 }
 inline float *unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ceiling, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ceiling, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_ceiling_Integer8(int8_t x) {
   return evaluate<unary::ceiling, Checked>(x);
@@ -2442,10 +2443,10 @@ inline mint checked_unary_ceiling_Real64(double x) {
   return evaluate<unary::ceiling, Checked>(x);
 }
 inline float *checked_unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ceiling, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ceiling, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_intpart_Integer8(int8_t x) {
   return evaluate<unary::intpart, Plain>(x);
@@ -2481,10 +2482,10 @@ inline mint unary_intpart_Real64(double x) {
   return evaluate<unary::intpart, Plain>(x);
 }
 inline float *unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::intpart, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::intpart, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::intpart, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::intpart, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_intpart_Integer8(int8_t x) {
   return evaluate<unary::intpart, Checked>(x);
@@ -2520,10 +2521,10 @@ inline mint checked_unary_intpart_Real64(double x) {
   return evaluate<unary::intpart, Checked>(x);
 }
 inline float *checked_unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::intpart, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::intpart, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::intpart, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::intpart, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_fracpart_Integer8(int8_t x) {
   return evaluate<unary::fracpart, Plain>(x);
@@ -2550,7 +2551,7 @@ inline uint64_t unary_fracpart_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fracpart, Plain>(x);
 }
 inline uint16_t *unary_fracpart_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fracpart, Plain>(Real16{x}));
+  return evaluateInto<unary::fracpart, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_fracpart_Real32(float x) {
   return evaluate<unary::fracpart, Plain>(x);
@@ -2559,10 +2560,10 @@ inline double unary_fracpart_Real64(double x) {
   return evaluate<unary::fracpart, Plain>(x);
 }
 inline float *unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fracpart, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fracpart, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_fracpart_Integer8(int8_t x) {
   return evaluate<unary::fracpart, Checked>(x);
@@ -2589,7 +2590,7 @@ inline uint64_t checked_unary_fracpart_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fracpart, Checked>(x);
 }
 inline uint16_t *checked_unary_fracpart_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fracpart, Checked>(Real16{x}));
+  return evaluateInto<unary::fracpart, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_fracpart_Real32(float x) {
   return evaluate<unary::fracpart, Checked>(x);
@@ -2598,10 +2599,10 @@ inline double checked_unary_fracpart_Real64(double x) {
   return evaluate<unary::fracpart, Checked>(x);
 }
 inline float *checked_unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fracpart, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fracpart, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_mod1_Integer8(int8_t x) {
   return evaluate<unary::mod1, Plain>(x);
@@ -2628,7 +2629,7 @@ inline uint64_t unary_mod1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::mod1, Plain>(x);
 }
 inline uint16_t *unary_mod1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::mod1, Plain>(Real16{x}));
+  return evaluateInto<unary::mod1, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_mod1_Real32(float x) {
   return evaluate<unary::mod1, Plain>(x);
@@ -2637,10 +2638,10 @@ inline double unary_mod1_Real64(double x) {
   return evaluate<unary::mod1, Plain>(x);
 }
 inline float *unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::mod1, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::mod1, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::mod1, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::mod1, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_mod1_Integer8(int8_t x) {
   return evaluate<unary::mod1, Checked>(x);
@@ -2667,7 +2668,7 @@ inline uint64_t checked_unary_mod1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::mod1, Checked>(x);
 }
 inline uint16_t *checked_unary_mod1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::mod1, Checked>(Real16{x}));
+  return evaluateInto<unary::mod1, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_mod1_Real32(float x) {
   return evaluate<unary::mod1, Checked>(x);
@@ -2676,10 +2677,10 @@ inline double checked_unary_mod1_Real64(double x) {
   return evaluate<unary::mod1, Checked>(x);
 }
 inline float *checked_unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::mod1, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::mod1, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_exp_Integer8(int8_t x) {
   return evaluate<unary::exp, Plain>(x);
@@ -2706,7 +2707,7 @@ inline uint64_t unary_exp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::exp, Plain>(x);
 }
 inline uint16_t *unary_exp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::exp, Plain>(Real16{x}));
+  return evaluateInto<unary::exp, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_exp_Real32(float x) {
   return evaluate<unary::exp, Plain>(x);
@@ -2715,10 +2716,10 @@ inline double unary_exp_Real64(double x) {
   return evaluate<unary::exp, Plain>(x);
 }
 inline float *unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::exp, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::exp, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::exp, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::exp, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_exp_Integer8(int8_t x) {
   return evaluate<unary::exp, Checked>(x);
@@ -2745,7 +2746,7 @@ inline uint64_t checked_unary_exp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::exp, Checked>(x);
 }
 inline uint16_t *checked_unary_exp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::exp, Checked>(Real16{x}));
+  return evaluateInto<unary::exp, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_exp_Real32(float x) {
   return evaluate<unary::exp, Checked>(x);
@@ -2754,10 +2755,10 @@ inline double checked_unary_exp_Real64(double x) {
   return evaluate<unary::exp, Checked>(x);
 }
 inline float *checked_unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::exp, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::exp, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::exp, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::exp, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_expm1_Integer8(int8_t x) {
   return evaluate<unary::expm1, Plain>(x);
@@ -2784,7 +2785,7 @@ inline uint64_t unary_expm1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::expm1, Plain>(x);
 }
 inline uint16_t *unary_expm1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::expm1, Plain>(Real16{x}));
+  return evaluateInto<unary::expm1, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_expm1_Real32(float x) {
   return evaluate<unary::expm1, Plain>(x);
@@ -2793,10 +2794,10 @@ inline double unary_expm1_Real64(double x) {
   return evaluate<unary::expm1, Plain>(x);
 }
 inline float *unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::expm1, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::expm1, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::expm1, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::expm1, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_expm1_Integer8(int8_t x) {
   return evaluate<unary::expm1, Checked>(x);
@@ -2823,7 +2824,7 @@ inline uint64_t checked_unary_expm1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::expm1, Checked>(x);
 }
 inline uint16_t *checked_unary_expm1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::expm1, Checked>(Real16{x}));
+  return evaluateInto<unary::expm1, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_expm1_Real32(float x) {
   return evaluate<unary::expm1, Checked>(x);
@@ -2832,10 +2833,10 @@ inline double checked_unary_expm1_Real64(double x) {
   return evaluate<unary::expm1, Checked>(x);
 }
 inline float *checked_unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::expm1, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::expm1, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::expm1, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::expm1, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_log_Integer8(int8_t x) {
   return evaluate<unary::log, Plain>(x);
@@ -2862,7 +2863,7 @@ inline uint64_t unary_log_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log, Plain>(x);
 }
 inline uint16_t *unary_log_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log, Plain>(Real16{x}));
+  return evaluateInto<unary::log, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_log_Real32(float x) {
   return evaluate<unary::log, Plain>(x);
@@ -2871,10 +2872,10 @@ inline double unary_log_Real64(double x) {
   return evaluate<unary::log, Plain>(x);
 }
 inline float *unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_log_Integer8(int8_t x) {
   return evaluate<unary::log, Checked>(x);
@@ -2901,7 +2902,7 @@ inline uint64_t checked_unary_log_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log, Checked>(x);
 }
 inline uint16_t *checked_unary_log_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log, Checked>(Real16{x}));
+  return evaluateInto<unary::log, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_log_Real32(float x) {
   return evaluate<unary::log, Checked>(x);
@@ -2910,10 +2911,10 @@ inline double checked_unary_log_Real64(double x) {
   return evaluate<unary::log, Checked>(x);
 }
 inline float *checked_unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_log1p_Integer8(int8_t x) {
   return evaluate<unary::log1p, Plain>(x);
@@ -2940,7 +2941,7 @@ inline uint64_t unary_log1p_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log1p, Plain>(x);
 }
 inline uint16_t *unary_log1p_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log1p, Plain>(Real16{x}));
+  return evaluateInto<unary::log1p, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_log1p_Real32(float x) {
   return evaluate<unary::log1p, Plain>(x);
@@ -2949,10 +2950,10 @@ inline double unary_log1p_Real64(double x) {
   return evaluate<unary::log1p, Plain>(x);
 }
 inline float *unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log1p, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log1p, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log1p, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log1p, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_log1p_Integer8(int8_t x) {
   return evaluate<unary::log1p, Checked>(x);
@@ -2979,7 +2980,7 @@ inline uint64_t checked_unary_log1p_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log1p, Checked>(x);
 }
 inline uint16_t *checked_unary_log1p_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log1p, Checked>(Real16{x}));
+  return evaluateInto<unary::log1p, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_log1p_Real32(float x) {
   return evaluate<unary::log1p, Checked>(x);
@@ -2988,10 +2989,10 @@ inline double checked_unary_log1p_Real64(double x) {
   return evaluate<unary::log1p, Checked>(x);
 }
 inline float *checked_unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log1p, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log1p, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log1p, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log1p, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_log2_Integer8(int8_t x) {
   return evaluate<unary::log2, Plain>(x);
@@ -3018,7 +3019,7 @@ inline uint64_t unary_log2_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log2, Plain>(x);
 }
 inline uint16_t *unary_log2_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log2, Plain>(Real16{x}));
+  return evaluateInto<unary::log2, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_log2_Real32(float x) {
   return evaluate<unary::log2, Plain>(x);
@@ -3027,10 +3028,10 @@ inline double unary_log2_Real64(double x) {
   return evaluate<unary::log2, Plain>(x);
 }
 inline float *unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log2, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log2, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log2, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log2, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_log2_Integer8(int8_t x) {
   return evaluate<unary::log2, Checked>(x);
@@ -3057,7 +3058,7 @@ inline uint64_t checked_unary_log2_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log2, Checked>(x);
 }
 inline uint16_t *checked_unary_log2_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log2, Checked>(Real16{x}));
+  return evaluateInto<unary::log2, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_log2_Real32(float x) {
   return evaluate<unary::log2, Checked>(x);
@@ -3066,10 +3067,10 @@ inline double checked_unary_log2_Real64(double x) {
   return evaluate<unary::log2, Checked>(x);
 }
 inline float *checked_unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log2, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log2, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log2, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log2, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_log10_Integer8(int8_t x) {
   return evaluate<unary::log10, Plain>(x);
@@ -3096,7 +3097,7 @@ inline uint64_t unary_log10_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log10, Plain>(x);
 }
 inline uint16_t *unary_log10_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log10, Plain>(Real16{x}));
+  return evaluateInto<unary::log10, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_log10_Real32(float x) {
   return evaluate<unary::log10, Plain>(x);
@@ -3105,10 +3106,10 @@ inline double unary_log10_Real64(double x) {
   return evaluate<unary::log10, Plain>(x);
 }
 inline float *unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log10, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log10, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log10, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log10, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_log10_Integer8(int8_t x) {
   return evaluate<unary::log10, Checked>(x);
@@ -3135,7 +3136,7 @@ inline uint64_t checked_unary_log10_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log10, Checked>(x);
 }
 inline uint16_t *checked_unary_log10_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log10, Checked>(Real16{x}));
+  return evaluateInto<unary::log10, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_log10_Real32(float x) {
   return evaluate<unary::log10, Checked>(x);
@@ -3144,10 +3145,10 @@ inline double checked_unary_log10_Real64(double x) {
   return evaluate<unary::log10, Checked>(x);
 }
 inline float *checked_unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log10, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log10, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log10, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log10, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_sin_Integer8(int8_t x) {
   return evaluate<unary::sin, Plain>(x);
@@ -3174,7 +3175,7 @@ inline uint64_t unary_sin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sin, Plain>(x);
 }
 inline uint16_t *unary_sin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sin, Plain>(Real16{x}));
+  return evaluateInto<unary::sin, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_sin_Real32(float x) {
   return evaluate<unary::sin, Plain>(x);
@@ -3183,10 +3184,10 @@ inline double unary_sin_Real64(double x) {
   return evaluate<unary::sin, Plain>(x);
 }
 inline float *unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sin, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sin, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sin, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sin, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_sin_Integer8(int8_t x) {
   return evaluate<unary::sin, Checked>(x);
@@ -3213,7 +3214,7 @@ inline uint64_t checked_unary_sin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sin, Checked>(x);
 }
 inline uint16_t *checked_unary_sin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sin, Checked>(Real16{x}));
+  return evaluateInto<unary::sin, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_sin_Real32(float x) {
   return evaluate<unary::sin, Checked>(x);
@@ -3222,10 +3223,10 @@ inline double checked_unary_sin_Real64(double x) {
   return evaluate<unary::sin, Checked>(x);
 }
 inline float *checked_unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sin, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sin, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sin, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sin, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_cos_Integer8(int8_t x) {
   return evaluate<unary::cos, Plain>(x);
@@ -3252,7 +3253,7 @@ inline uint64_t unary_cos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cos, Plain>(x);
 }
 inline uint16_t *unary_cos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cos, Plain>(Real16{x}));
+  return evaluateInto<unary::cos, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_cos_Real32(float x) {
   return evaluate<unary::cos, Plain>(x);
@@ -3261,10 +3262,10 @@ inline double unary_cos_Real64(double x) {
   return evaluate<unary::cos, Plain>(x);
 }
 inline float *unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cos, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cos, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cos, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cos, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_cos_Integer8(int8_t x) {
   return evaluate<unary::cos, Checked>(x);
@@ -3291,7 +3292,7 @@ inline uint64_t checked_unary_cos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cos, Checked>(x);
 }
 inline uint16_t *checked_unary_cos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cos, Checked>(Real16{x}));
+  return evaluateInto<unary::cos, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_cos_Real32(float x) {
   return evaluate<unary::cos, Checked>(x);
@@ -3300,10 +3301,10 @@ inline double checked_unary_cos_Real64(double x) {
   return evaluate<unary::cos, Checked>(x);
 }
 inline float *checked_unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cos, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cos, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cos, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cos, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_tan_Integer8(int8_t x) {
   return evaluate<unary::tan, Plain>(x);
@@ -3330,7 +3331,7 @@ inline uint64_t unary_tan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tan, Plain>(x);
 }
 inline uint16_t *unary_tan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tan, Plain>(Real16{x}));
+  return evaluateInto<unary::tan, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_tan_Real32(float x) {
   return evaluate<unary::tan, Plain>(x);
@@ -3339,10 +3340,10 @@ inline double unary_tan_Real64(double x) {
   return evaluate<unary::tan, Plain>(x);
 }
 inline float *unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tan, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tan, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tan, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tan, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_tan_Integer8(int8_t x) {
   return evaluate<unary::tan, Checked>(x);
@@ -3369,7 +3370,7 @@ inline uint64_t checked_unary_tan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tan, Checked>(x);
 }
 inline uint16_t *checked_unary_tan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tan, Checked>(Real16{x}));
+  return evaluateInto<unary::tan, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_tan_Real32(float x) {
   return evaluate<unary::tan, Checked>(x);
@@ -3378,10 +3379,10 @@ inline double checked_unary_tan_Real64(double x) {
   return evaluate<unary::tan, Checked>(x);
 }
 inline float *checked_unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tan, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tan, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tan, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tan, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_csc_Integer8(int8_t x) {
   return evaluate<unary::csc, Plain>(x);
@@ -3408,7 +3409,7 @@ inline uint64_t unary_csc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csc, Plain>(x);
 }
 inline uint16_t *unary_csc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csc, Plain>(Real16{x}));
+  return evaluateInto<unary::csc, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_csc_Real32(float x) {
   return evaluate<unary::csc, Plain>(x);
@@ -3417,10 +3418,10 @@ inline double unary_csc_Real64(double x) {
   return evaluate<unary::csc, Plain>(x);
 }
 inline float *unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_csc_Integer8(int8_t x) {
   return evaluate<unary::csc, Checked>(x);
@@ -3447,7 +3448,7 @@ inline uint64_t checked_unary_csc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csc, Checked>(x);
 }
 inline uint16_t *checked_unary_csc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csc, Checked>(Real16{x}));
+  return evaluateInto<unary::csc, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_csc_Real32(float x) {
   return evaluate<unary::csc, Checked>(x);
@@ -3456,10 +3457,10 @@ inline double checked_unary_csc_Real64(double x) {
   return evaluate<unary::csc, Checked>(x);
 }
 inline float *checked_unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_sec_Integer8(int8_t x) {
   return evaluate<unary::sec, Plain>(x);
@@ -3486,7 +3487,7 @@ inline uint64_t unary_sec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sec, Plain>(x);
 }
 inline uint16_t *unary_sec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sec, Plain>(Real16{x}));
+  return evaluateInto<unary::sec, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_sec_Real32(float x) {
   return evaluate<unary::sec, Plain>(x);
@@ -3495,10 +3496,10 @@ inline double unary_sec_Real64(double x) {
   return evaluate<unary::sec, Plain>(x);
 }
 inline float *unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sec, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sec, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sec, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sec, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_sec_Integer8(int8_t x) {
   return evaluate<unary::sec, Checked>(x);
@@ -3525,7 +3526,7 @@ inline uint64_t checked_unary_sec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sec, Checked>(x);
 }
 inline uint16_t *checked_unary_sec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sec, Checked>(Real16{x}));
+  return evaluateInto<unary::sec, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_sec_Real32(float x) {
   return evaluate<unary::sec, Checked>(x);
@@ -3534,10 +3535,10 @@ inline double checked_unary_sec_Real64(double x) {
   return evaluate<unary::sec, Checked>(x);
 }
 inline float *checked_unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sec, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sec, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sec, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sec, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_cot_Integer8(int8_t x) {
   return evaluate<unary::cot, Plain>(x);
@@ -3564,7 +3565,7 @@ inline uint64_t unary_cot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cot, Plain>(x);
 }
 inline uint16_t *unary_cot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cot, Plain>(Real16{x}));
+  return evaluateInto<unary::cot, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_cot_Real32(float x) {
   return evaluate<unary::cot, Plain>(x);
@@ -3573,10 +3574,10 @@ inline double unary_cot_Real64(double x) {
   return evaluate<unary::cot, Plain>(x);
 }
 inline float *unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cot, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cot, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cot, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cot, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_cot_Integer8(int8_t x) {
   return evaluate<unary::cot, Checked>(x);
@@ -3603,7 +3604,7 @@ inline uint64_t checked_unary_cot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cot, Checked>(x);
 }
 inline uint16_t *checked_unary_cot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cot, Checked>(Real16{x}));
+  return evaluateInto<unary::cot, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_cot_Real32(float x) {
   return evaluate<unary::cot, Checked>(x);
@@ -3612,10 +3613,10 @@ inline double checked_unary_cot_Real64(double x) {
   return evaluate<unary::cot, Checked>(x);
 }
 inline float *checked_unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cot, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cot, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cot, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cot, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_sinh_Integer8(int8_t x) {
   return evaluate<unary::sinh, Plain>(x);
@@ -3642,7 +3643,7 @@ inline uint64_t unary_sinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinh, Plain>(x);
 }
 inline uint16_t *unary_sinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinh, Plain>(Real16{x}));
+  return evaluateInto<unary::sinh, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_sinh_Real32(float x) {
   return evaluate<unary::sinh, Plain>(x);
@@ -3651,10 +3652,10 @@ inline double unary_sinh_Real64(double x) {
   return evaluate<unary::sinh, Plain>(x);
 }
 inline float *unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_sinh_Integer8(int8_t x) {
   return evaluate<unary::sinh, Checked>(x);
@@ -3681,7 +3682,7 @@ inline uint64_t checked_unary_sinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinh, Checked>(x);
 }
 inline uint16_t *checked_unary_sinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinh, Checked>(Real16{x}));
+  return evaluateInto<unary::sinh, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_sinh_Real32(float x) {
   return evaluate<unary::sinh, Checked>(x);
@@ -3690,10 +3691,10 @@ inline double checked_unary_sinh_Real64(double x) {
   return evaluate<unary::sinh, Checked>(x);
 }
 inline float *checked_unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_cosh_Integer8(int8_t x) {
   return evaluate<unary::cosh, Plain>(x);
@@ -3720,7 +3721,7 @@ inline uint64_t unary_cosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cosh, Plain>(x);
 }
 inline uint16_t *unary_cosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cosh, Plain>(Real16{x}));
+  return evaluateInto<unary::cosh, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_cosh_Real32(float x) {
   return evaluate<unary::cosh, Plain>(x);
@@ -3729,10 +3730,10 @@ inline double unary_cosh_Real64(double x) {
   return evaluate<unary::cosh, Plain>(x);
 }
 inline float *unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cosh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cosh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cosh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cosh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_cosh_Integer8(int8_t x) {
   return evaluate<unary::cosh, Checked>(x);
@@ -3759,7 +3760,7 @@ inline uint64_t checked_unary_cosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cosh, Checked>(x);
 }
 inline uint16_t *checked_unary_cosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cosh, Checked>(Real16{x}));
+  return evaluateInto<unary::cosh, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_cosh_Real32(float x) {
   return evaluate<unary::cosh, Checked>(x);
@@ -3768,10 +3769,10 @@ inline double checked_unary_cosh_Real64(double x) {
   return evaluate<unary::cosh, Checked>(x);
 }
 inline float *checked_unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cosh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cosh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cosh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cosh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_tanh_Integer8(int8_t x) {
   return evaluate<unary::tanh, Plain>(x);
@@ -3798,7 +3799,7 @@ inline uint64_t unary_tanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tanh, Plain>(x);
 }
 inline uint16_t *unary_tanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tanh, Plain>(Real16{x}));
+  return evaluateInto<unary::tanh, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_tanh_Real32(float x) {
   return evaluate<unary::tanh, Plain>(x);
@@ -3807,10 +3808,10 @@ inline double unary_tanh_Real64(double x) {
   return evaluate<unary::tanh, Plain>(x);
 }
 inline float *unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tanh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tanh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tanh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tanh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_tanh_Integer8(int8_t x) {
   return evaluate<unary::tanh, Checked>(x);
@@ -3837,7 +3838,7 @@ inline uint64_t checked_unary_tanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tanh, Checked>(x);
 }
 inline uint16_t *checked_unary_tanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tanh, Checked>(Real16{x}));
+  return evaluateInto<unary::tanh, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_tanh_Real32(float x) {
   return evaluate<unary::tanh, Checked>(x);
@@ -3846,10 +3847,10 @@ inline double checked_unary_tanh_Real64(double x) {
   return evaluate<unary::tanh, Checked>(x);
 }
 inline float *checked_unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tanh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tanh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tanh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tanh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_csch_Integer8(int8_t x) {
   return evaluate<unary::csch, Plain>(x);
@@ -3876,7 +3877,7 @@ inline uint64_t unary_csch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csch, Plain>(x);
 }
 inline uint16_t *unary_csch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csch, Plain>(Real16{x}));
+  return evaluateInto<unary::csch, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_csch_Real32(float x) {
   return evaluate<unary::csch, Plain>(x);
@@ -3885,10 +3886,10 @@ inline double unary_csch_Real64(double x) {
   return evaluate<unary::csch, Plain>(x);
 }
 inline float *unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csch, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csch, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csch, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csch, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_csch_Integer8(int8_t x) {
   return evaluate<unary::csch, Checked>(x);
@@ -3915,7 +3916,7 @@ inline uint64_t checked_unary_csch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csch, Checked>(x);
 }
 inline uint16_t *checked_unary_csch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csch, Checked>(Real16{x}));
+  return evaluateInto<unary::csch, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_csch_Real32(float x) {
   return evaluate<unary::csch, Checked>(x);
@@ -3924,10 +3925,10 @@ inline double checked_unary_csch_Real64(double x) {
   return evaluate<unary::csch, Checked>(x);
 }
 inline float *checked_unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csch, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csch, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csch, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csch, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_sech_Integer8(int8_t x) {
   return evaluate<unary::sech, Plain>(x);
@@ -3954,7 +3955,7 @@ inline uint64_t unary_sech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sech, Plain>(x);
 }
 inline uint16_t *unary_sech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sech, Plain>(Real16{x}));
+  return evaluateInto<unary::sech, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_sech_Real32(float x) {
   return evaluate<unary::sech, Plain>(x);
@@ -3963,10 +3964,10 @@ inline double unary_sech_Real64(double x) {
   return evaluate<unary::sech, Plain>(x);
 }
 inline float *unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sech, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sech, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sech, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sech, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_sech_Integer8(int8_t x) {
   return evaluate<unary::sech, Checked>(x);
@@ -3993,7 +3994,7 @@ inline uint64_t checked_unary_sech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sech, Checked>(x);
 }
 inline uint16_t *checked_unary_sech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sech, Checked>(Real16{x}));
+  return evaluateInto<unary::sech, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_sech_Real32(float x) {
   return evaluate<unary::sech, Checked>(x);
@@ -4002,10 +4003,10 @@ inline double checked_unary_sech_Real64(double x) {
   return evaluate<unary::sech, Checked>(x);
 }
 inline float *checked_unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sech, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sech, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sech, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sech, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_coth_Integer8(int8_t x) {
   return evaluate<unary::coth, Plain>(x);
@@ -4032,7 +4033,7 @@ inline uint64_t unary_coth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::coth, Plain>(x);
 }
 inline uint16_t *unary_coth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::coth, Plain>(Real16{x}));
+  return evaluateInto<unary::coth, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_coth_Real32(float x) {
   return evaluate<unary::coth, Plain>(x);
@@ -4041,10 +4042,10 @@ inline double unary_coth_Real64(double x) {
   return evaluate<unary::coth, Plain>(x);
 }
 inline float *unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::coth, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::coth, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::coth, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::coth, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_coth_Integer8(int8_t x) {
   return evaluate<unary::coth, Checked>(x);
@@ -4071,7 +4072,7 @@ inline uint64_t checked_unary_coth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::coth, Checked>(x);
 }
 inline uint16_t *checked_unary_coth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::coth, Checked>(Real16{x}));
+  return evaluateInto<unary::coth, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_coth_Real32(float x) {
   return evaluate<unary::coth, Checked>(x);
@@ -4080,10 +4081,10 @@ inline double checked_unary_coth_Real64(double x) {
   return evaluate<unary::coth, Checked>(x);
 }
 inline float *checked_unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::coth, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::coth, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::coth, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::coth, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_asin_Integer8(int8_t x) {
   return evaluate<unary::asin, Plain>(x);
@@ -4110,7 +4111,7 @@ inline uint64_t unary_asin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asin, Plain>(x);
 }
 inline uint16_t *unary_asin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asin, Plain>(Real16{x}));
+  return evaluateInto<unary::asin, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_asin_Real32(float x) {
   return evaluate<unary::asin, Plain>(x);
@@ -4119,10 +4120,10 @@ inline double unary_asin_Real64(double x) {
   return evaluate<unary::asin, Plain>(x);
 }
 inline float *unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asin, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asin, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asin, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asin, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_asin_Integer8(int8_t x) {
   return evaluate<unary::asin, Checked>(x);
@@ -4149,7 +4150,7 @@ inline uint64_t checked_unary_asin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asin, Checked>(x);
 }
 inline uint16_t *checked_unary_asin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asin, Checked>(Real16{x}));
+  return evaluateInto<unary::asin, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_asin_Real32(float x) {
   return evaluate<unary::asin, Checked>(x);
@@ -4158,10 +4159,10 @@ inline double checked_unary_asin_Real64(double x) {
   return evaluate<unary::asin, Checked>(x);
 }
 inline float *checked_unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asin, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asin, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asin, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asin, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_acos_Integer8(int8_t x) {
   return evaluate<unary::acos, Plain>(x);
@@ -4188,7 +4189,7 @@ inline uint64_t unary_acos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acos, Plain>(x);
 }
 inline uint16_t *unary_acos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acos, Plain>(Real16{x}));
+  return evaluateInto<unary::acos, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_acos_Real32(float x) {
   return evaluate<unary::acos, Plain>(x);
@@ -4197,10 +4198,10 @@ inline double unary_acos_Real64(double x) {
   return evaluate<unary::acos, Plain>(x);
 }
 inline float *unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acos, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acos, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acos, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acos, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_acos_Integer8(int8_t x) {
   return evaluate<unary::acos, Checked>(x);
@@ -4227,7 +4228,7 @@ inline uint64_t checked_unary_acos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acos, Checked>(x);
 }
 inline uint16_t *checked_unary_acos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acos, Checked>(Real16{x}));
+  return evaluateInto<unary::acos, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_acos_Real32(float x) {
   return evaluate<unary::acos, Checked>(x);
@@ -4236,10 +4237,10 @@ inline double checked_unary_acos_Real64(double x) {
   return evaluate<unary::acos, Checked>(x);
 }
 inline float *checked_unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acos, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acos, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acos, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acos, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_atan_Integer8(int8_t x) {
   return evaluate<unary::atan, Plain>(x);
@@ -4266,7 +4267,7 @@ inline uint64_t unary_atan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atan, Plain>(x);
 }
 inline uint16_t *unary_atan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atan, Plain>(Real16{x}));
+  return evaluateInto<unary::atan, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_atan_Real32(float x) {
   return evaluate<unary::atan, Plain>(x);
@@ -4275,10 +4276,10 @@ inline double unary_atan_Real64(double x) {
   return evaluate<unary::atan, Plain>(x);
 }
 inline float *unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atan, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atan, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atan, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atan, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_atan_Integer8(int8_t x) {
   return evaluate<unary::atan, Checked>(x);
@@ -4305,7 +4306,7 @@ inline uint64_t checked_unary_atan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atan, Checked>(x);
 }
 inline uint16_t *checked_unary_atan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atan, Checked>(Real16{x}));
+  return evaluateInto<unary::atan, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_atan_Real32(float x) {
   return evaluate<unary::atan, Checked>(x);
@@ -4314,10 +4315,10 @@ inline double checked_unary_atan_Real64(double x) {
   return evaluate<unary::atan, Checked>(x);
 }
 inline float *checked_unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atan, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atan, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atan, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atan, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_acsc_Integer8(int8_t x) {
   return evaluate<unary::acsc, Plain>(x);
@@ -4344,7 +4345,7 @@ inline uint64_t unary_acsc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsc, Plain>(x);
 }
 inline uint16_t *unary_acsc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsc, Plain>(Real16{x}));
+  return evaluateInto<unary::acsc, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_acsc_Real32(float x) {
   return evaluate<unary::acsc, Plain>(x);
@@ -4353,10 +4354,10 @@ inline double unary_acsc_Real64(double x) {
   return evaluate<unary::acsc, Plain>(x);
 }
 inline float *unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_acsc_Integer8(int8_t x) {
   return evaluate<unary::acsc, Checked>(x);
@@ -4383,7 +4384,7 @@ inline uint64_t checked_unary_acsc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsc, Checked>(x);
 }
 inline uint16_t *checked_unary_acsc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsc, Checked>(Real16{x}));
+  return evaluateInto<unary::acsc, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_acsc_Real32(float x) {
   return evaluate<unary::acsc, Checked>(x);
@@ -4392,10 +4393,10 @@ inline double checked_unary_acsc_Real64(double x) {
   return evaluate<unary::acsc, Checked>(x);
 }
 inline float *checked_unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_asec_Integer8(int8_t x) {
   return evaluate<unary::asec, Plain>(x);
@@ -4422,7 +4423,7 @@ inline uint64_t unary_asec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asec, Plain>(x);
 }
 inline uint16_t *unary_asec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asec, Plain>(Real16{x}));
+  return evaluateInto<unary::asec, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_asec_Real32(float x) {
   return evaluate<unary::asec, Plain>(x);
@@ -4431,10 +4432,10 @@ inline double unary_asec_Real64(double x) {
   return evaluate<unary::asec, Plain>(x);
 }
 inline float *unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asec, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asec, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asec, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asec, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_asec_Integer8(int8_t x) {
   return evaluate<unary::asec, Checked>(x);
@@ -4461,7 +4462,7 @@ inline uint64_t checked_unary_asec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asec, Checked>(x);
 }
 inline uint16_t *checked_unary_asec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asec, Checked>(Real16{x}));
+  return evaluateInto<unary::asec, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_asec_Real32(float x) {
   return evaluate<unary::asec, Checked>(x);
@@ -4470,10 +4471,10 @@ inline double checked_unary_asec_Real64(double x) {
   return evaluate<unary::asec, Checked>(x);
 }
 inline float *checked_unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asec, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asec, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asec, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asec, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_acot_Integer8(int8_t x) {
   return evaluate<unary::acot, Plain>(x);
@@ -4500,7 +4501,7 @@ inline uint64_t unary_acot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acot, Plain>(x);
 }
 inline uint16_t *unary_acot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acot, Plain>(Real16{x}));
+  return evaluateInto<unary::acot, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_acot_Real32(float x) {
   return evaluate<unary::acot, Plain>(x);
@@ -4509,10 +4510,10 @@ inline double unary_acot_Real64(double x) {
   return evaluate<unary::acot, Plain>(x);
 }
 inline float *unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acot, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acot, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acot, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acot, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_acot_Integer8(int8_t x) {
   return evaluate<unary::acot, Checked>(x);
@@ -4539,7 +4540,7 @@ inline uint64_t checked_unary_acot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acot, Checked>(x);
 }
 inline uint16_t *checked_unary_acot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acot, Checked>(Real16{x}));
+  return evaluateInto<unary::acot, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_acot_Real32(float x) {
   return evaluate<unary::acot, Checked>(x);
@@ -4548,10 +4549,10 @@ inline double checked_unary_acot_Real64(double x) {
   return evaluate<unary::acot, Checked>(x);
 }
 inline float *checked_unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acot, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acot, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acot, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acot, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_asinh_Integer8(int8_t x) {
   return evaluate<unary::asinh, Plain>(x);
@@ -4578,7 +4579,7 @@ inline uint64_t unary_asinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asinh, Plain>(x);
 }
 inline uint16_t *unary_asinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asinh, Plain>(Real16{x}));
+  return evaluateInto<unary::asinh, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_asinh_Real32(float x) {
   return evaluate<unary::asinh, Plain>(x);
@@ -4587,10 +4588,10 @@ inline double unary_asinh_Real64(double x) {
   return evaluate<unary::asinh, Plain>(x);
 }
 inline float *unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asinh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asinh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asinh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asinh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_asinh_Integer8(int8_t x) {
   return evaluate<unary::asinh, Checked>(x);
@@ -4617,7 +4618,7 @@ inline uint64_t checked_unary_asinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asinh, Checked>(x);
 }
 inline uint16_t *checked_unary_asinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asinh, Checked>(Real16{x}));
+  return evaluateInto<unary::asinh, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_asinh_Real32(float x) {
   return evaluate<unary::asinh, Checked>(x);
@@ -4626,10 +4627,10 @@ inline double checked_unary_asinh_Real64(double x) {
   return evaluate<unary::asinh, Checked>(x);
 }
 inline float *checked_unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asinh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asinh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asinh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asinh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_acosh_Integer8(int8_t x) {
   return evaluate<unary::acosh, Plain>(x);
@@ -4656,7 +4657,7 @@ inline uint64_t unary_acosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acosh, Plain>(x);
 }
 inline uint16_t *unary_acosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acosh, Plain>(Real16{x}));
+  return evaluateInto<unary::acosh, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_acosh_Real32(float x) {
   return evaluate<unary::acosh, Plain>(x);
@@ -4665,10 +4666,10 @@ inline double unary_acosh_Real64(double x) {
   return evaluate<unary::acosh, Plain>(x);
 }
 inline float *unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acosh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acosh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acosh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acosh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_acosh_Integer8(int8_t x) {
   return evaluate<unary::acosh, Checked>(x);
@@ -4695,7 +4696,7 @@ inline uint64_t checked_unary_acosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acosh, Checked>(x);
 }
 inline uint16_t *checked_unary_acosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acosh, Checked>(Real16{x}));
+  return evaluateInto<unary::acosh, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_acosh_Real32(float x) {
   return evaluate<unary::acosh, Checked>(x);
@@ -4704,10 +4705,10 @@ inline double checked_unary_acosh_Real64(double x) {
   return evaluate<unary::acosh, Checked>(x);
 }
 inline float *checked_unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acosh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acosh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acosh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acosh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_atanh_Integer8(int8_t x) {
   return evaluate<unary::atanh, Plain>(x);
@@ -4734,7 +4735,7 @@ inline uint64_t unary_atanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atanh, Plain>(x);
 }
 inline uint16_t *unary_atanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atanh, Plain>(Real16{x}));
+  return evaluateInto<unary::atanh, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_atanh_Real32(float x) {
   return evaluate<unary::atanh, Plain>(x);
@@ -4743,10 +4744,10 @@ inline double unary_atanh_Real64(double x) {
   return evaluate<unary::atanh, Plain>(x);
 }
 inline float *unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atanh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atanh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atanh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atanh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_atanh_Integer8(int8_t x) {
   return evaluate<unary::atanh, Checked>(x);
@@ -4773,7 +4774,7 @@ inline uint64_t checked_unary_atanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atanh, Checked>(x);
 }
 inline uint16_t *checked_unary_atanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atanh, Checked>(Real16{x}));
+  return evaluateInto<unary::atanh, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_atanh_Real32(float x) {
   return evaluate<unary::atanh, Checked>(x);
@@ -4782,10 +4783,10 @@ inline double checked_unary_atanh_Real64(double x) {
   return evaluate<unary::atanh, Checked>(x);
 }
 inline float *checked_unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atanh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atanh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atanh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atanh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_acsch_Integer8(int8_t x) {
   return evaluate<unary::acsch, Plain>(x);
@@ -4812,7 +4813,7 @@ inline uint64_t unary_acsch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsch, Plain>(x);
 }
 inline uint16_t *unary_acsch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsch, Plain>(Real16{x}));
+  return evaluateInto<unary::acsch, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_acsch_Real32(float x) {
   return evaluate<unary::acsch, Plain>(x);
@@ -4821,10 +4822,10 @@ inline double unary_acsch_Real64(double x) {
   return evaluate<unary::acsch, Plain>(x);
 }
 inline float *unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsch, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsch, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsch, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsch, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_acsch_Integer8(int8_t x) {
   return evaluate<unary::acsch, Checked>(x);
@@ -4851,7 +4852,7 @@ inline uint64_t checked_unary_acsch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsch, Checked>(x);
 }
 inline uint16_t *checked_unary_acsch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsch, Checked>(Real16{x}));
+  return evaluateInto<unary::acsch, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_acsch_Real32(float x) {
   return evaluate<unary::acsch, Checked>(x);
@@ -4860,10 +4861,10 @@ inline double checked_unary_acsch_Real64(double x) {
   return evaluate<unary::acsch, Checked>(x);
 }
 inline float *checked_unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsch, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsch, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsch, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsch, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_asech_Integer8(int8_t x) {
   return evaluate<unary::asech, Plain>(x);
@@ -4890,7 +4891,7 @@ inline uint64_t unary_asech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asech, Plain>(x);
 }
 inline uint16_t *unary_asech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asech, Plain>(Real16{x}));
+  return evaluateInto<unary::asech, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_asech_Real32(float x) {
   return evaluate<unary::asech, Plain>(x);
@@ -4899,10 +4900,10 @@ inline double unary_asech_Real64(double x) {
   return evaluate<unary::asech, Plain>(x);
 }
 inline float *unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asech, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asech, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asech, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asech, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_asech_Integer8(int8_t x) {
   return evaluate<unary::asech, Checked>(x);
@@ -4929,7 +4930,7 @@ inline uint64_t checked_unary_asech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asech, Checked>(x);
 }
 inline uint16_t *checked_unary_asech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asech, Checked>(Real16{x}));
+  return evaluateInto<unary::asech, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_asech_Real32(float x) {
   return evaluate<unary::asech, Checked>(x);
@@ -4938,10 +4939,10 @@ inline double checked_unary_asech_Real64(double x) {
   return evaluate<unary::asech, Checked>(x);
 }
 inline float *checked_unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asech, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asech, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asech, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asech, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_acoth_Integer8(int8_t x) {
   return evaluate<unary::acoth, Plain>(x);
@@ -4968,7 +4969,7 @@ inline uint64_t unary_acoth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acoth, Plain>(x);
 }
 inline uint16_t *unary_acoth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acoth, Plain>(Real16{x}));
+  return evaluateInto<unary::acoth, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_acoth_Real32(float x) {
   return evaluate<unary::acoth, Plain>(x);
@@ -4977,10 +4978,10 @@ inline double unary_acoth_Real64(double x) {
   return evaluate<unary::acoth, Plain>(x);
 }
 inline float *unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acoth, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acoth, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acoth, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acoth, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_acoth_Integer8(int8_t x) {
   return evaluate<unary::acoth, Checked>(x);
@@ -5007,7 +5008,7 @@ inline uint64_t checked_unary_acoth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acoth, Checked>(x);
 }
 inline uint16_t *checked_unary_acoth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acoth, Checked>(Real16{x}));
+  return evaluateInto<unary::acoth, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_acoth_Real32(float x) {
   return evaluate<unary::acoth, Checked>(x);
@@ -5016,10 +5017,10 @@ inline double checked_unary_acoth_Real64(double x) {
   return evaluate<unary::acoth, Checked>(x);
 }
 inline float *checked_unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acoth, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acoth, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acoth, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acoth, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_sinc_Integer8(int8_t x) {
   return evaluate<unary::sinc, Plain>(x);
@@ -5046,7 +5047,7 @@ inline uint64_t unary_sinc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinc, Plain>(x);
 }
 inline uint16_t *unary_sinc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinc, Plain>(Real16{x}));
+  return evaluateInto<unary::sinc, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_sinc_Real32(float x) {
   return evaluate<unary::sinc, Plain>(x);
@@ -5055,10 +5056,10 @@ inline double unary_sinc_Real64(double x) {
   return evaluate<unary::sinc, Plain>(x);
 }
 inline float *unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_sinc_Integer8(int8_t x) {
   return evaluate<unary::sinc, Checked>(x);
@@ -5085,7 +5086,7 @@ inline uint64_t checked_unary_sinc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinc, Checked>(x);
 }
 inline uint16_t *checked_unary_sinc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinc, Checked>(Real16{x}));
+  return evaluateInto<unary::sinc, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_sinc_Real32(float x) {
   return evaluate<unary::sinc, Checked>(x);
@@ -5094,10 +5095,10 @@ inline double checked_unary_sinc_Real64(double x) {
   return evaluate<unary::sinc, Checked>(x);
 }
 inline float *checked_unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_fibonacci_Integer8(int8_t x) {
   return evaluate<unary::fibonacci, Plain>(x);
@@ -5124,7 +5125,7 @@ inline uint64_t unary_fibonacci_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fibonacci, Plain>(x);
 }
 inline uint16_t *unary_fibonacci_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fibonacci, Plain>(Real16{x}));
+  return evaluateInto<unary::fibonacci, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_fibonacci_Real32(float x) {
   return evaluate<unary::fibonacci, Plain>(x);
@@ -5133,10 +5134,10 @@ inline double unary_fibonacci_Real64(double x) {
   return evaluate<unary::fibonacci, Plain>(x);
 }
 inline float *unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_fibonacci_Integer8(int8_t x) {
   return evaluate<unary::fibonacci, Checked>(x);
@@ -5163,7 +5164,7 @@ inline uint64_t checked_unary_fibonacci_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fibonacci, Checked>(x);
 }
 inline uint16_t *checked_unary_fibonacci_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fibonacci, Checked>(Real16{x}));
+  return evaluateInto<unary::fibonacci, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_fibonacci_Real32(float x) {
   return evaluate<unary::fibonacci, Checked>(x);
@@ -5172,10 +5173,10 @@ inline double checked_unary_fibonacci_Real64(double x) {
   return evaluate<unary::fibonacci, Checked>(x);
 }
 inline float *checked_unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_lucasl_Integer8(int8_t x) {
   return evaluate<unary::lucasl, Plain>(x);
@@ -5202,7 +5203,7 @@ inline uint64_t unary_lucasl_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::lucasl, Plain>(x);
 }
 inline uint16_t *unary_lucasl_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::lucasl, Plain>(Real16{x}));
+  return evaluateInto<unary::lucasl, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_lucasl_Real32(float x) {
   return evaluate<unary::lucasl, Plain>(x);
@@ -5211,10 +5212,10 @@ inline double unary_lucasl_Real64(double x) {
   return evaluate<unary::lucasl, Plain>(x);
 }
 inline float *unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::lucasl, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::lucasl, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_lucasl_Integer8(int8_t x) {
   return evaluate<unary::lucasl, Checked>(x);
@@ -5241,7 +5242,7 @@ inline uint64_t checked_unary_lucasl_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::lucasl, Checked>(x);
 }
 inline uint16_t *checked_unary_lucasl_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::lucasl, Checked>(Real16{x}));
+  return evaluateInto<unary::lucasl, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_lucasl_Real32(float x) {
   return evaluate<unary::lucasl, Checked>(x);
@@ -5250,10 +5251,10 @@ inline double checked_unary_lucasl_Real64(double x) {
   return evaluate<unary::lucasl, Checked>(x);
 }
 inline float *checked_unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::lucasl, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::lucasl, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_gudermannian_Integer8(int8_t x) {
   return evaluate<unary::gudermannian, Plain>(x);
@@ -5280,7 +5281,7 @@ inline uint64_t unary_gudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gudermannian, Plain>(x);
 }
 inline uint16_t *unary_gudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gudermannian, Plain>(Real16{x}));
+  return evaluateInto<unary::gudermannian, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_gudermannian_Real32(float x) {
   return evaluate<unary::gudermannian, Plain>(x);
@@ -5289,10 +5290,10 @@ inline double unary_gudermannian_Real64(double x) {
   return evaluate<unary::gudermannian, Plain>(x);
 }
 inline float *unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_gudermannian_Integer8(int8_t x) {
   return evaluate<unary::gudermannian, Checked>(x);
@@ -5319,7 +5320,7 @@ inline uint64_t checked_unary_gudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gudermannian, Checked>(x);
 }
 inline uint16_t *checked_unary_gudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gudermannian, Checked>(Real16{x}));
+  return evaluateInto<unary::gudermannian, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_gudermannian_Real32(float x) {
   return evaluate<unary::gudermannian, Checked>(x);
@@ -5328,10 +5329,10 @@ inline double checked_unary_gudermannian_Real64(double x) {
   return evaluate<unary::gudermannian, Checked>(x);
 }
 inline float *checked_unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_inversegudermannian_Integer8(int8_t x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
@@ -5358,7 +5359,7 @@ inline uint64_t unary_inversegudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
 }
 inline uint16_t *unary_inversegudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversegudermannian, Plain>(Real16{x}));
+  return evaluateInto<unary::inversegudermannian, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_inversegudermannian_Real32(float x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
@@ -5367,10 +5368,10 @@ inline double unary_inversegudermannian_Real64(double x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
 }
 inline float *unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_inversegudermannian_Integer8(int8_t x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
@@ -5397,7 +5398,7 @@ inline uint64_t checked_unary_inversegudermannian_UnsignedInteger64(uint64_t x) 
   return evaluate<unary::inversegudermannian, Checked>(x);
 }
 inline uint16_t *checked_unary_inversegudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversegudermannian, Checked>(Real16{x}));
+  return evaluateInto<unary::inversegudermannian, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_inversegudermannian_Real32(float x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
@@ -5406,11 +5407,11 @@ inline double checked_unary_inversegudermannian_Real64(double x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
 }
 inline float *checked_unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re,
                                                                double x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_haversine_Integer8(int8_t x) {
   return evaluate<unary::haversine, Plain>(x);
@@ -5437,7 +5438,7 @@ inline uint64_t unary_haversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::haversine, Plain>(x);
 }
 inline uint16_t *unary_haversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::haversine, Plain>(Real16{x}));
+  return evaluateInto<unary::haversine, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_haversine_Real32(float x) {
   return evaluate<unary::haversine, Plain>(x);
@@ -5446,10 +5447,10 @@ inline double unary_haversine_Real64(double x) {
   return evaluate<unary::haversine, Plain>(x);
 }
 inline float *unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::haversine, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::haversine, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::haversine, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::haversine, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_haversine_Integer8(int8_t x) {
   return evaluate<unary::haversine, Checked>(x);
@@ -5476,7 +5477,7 @@ inline uint64_t checked_unary_haversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::haversine, Checked>(x);
 }
 inline uint16_t *checked_unary_haversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::haversine, Checked>(Real16{x}));
+  return evaluateInto<unary::haversine, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_haversine_Real32(float x) {
   return evaluate<unary::haversine, Checked>(x);
@@ -5485,10 +5486,10 @@ inline double checked_unary_haversine_Real64(double x) {
   return evaluate<unary::haversine, Checked>(x);
 }
 inline float *checked_unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::haversine, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::haversine, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::haversine, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::haversine, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_inversehaversine_Integer8(int8_t x) {
   return evaluate<unary::inversehaversine, Plain>(x);
@@ -5515,7 +5516,7 @@ inline uint64_t unary_inversehaversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversehaversine, Plain>(x);
 }
 inline uint16_t *unary_inversehaversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversehaversine, Plain>(Real16{x}));
+  return evaluateInto<unary::inversehaversine, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_inversehaversine_Real32(float x) {
   return evaluate<unary::inversehaversine, Plain>(x);
@@ -5524,10 +5525,10 @@ inline double unary_inversehaversine_Real64(double x) {
   return evaluate<unary::inversehaversine, Plain>(x);
 }
 inline float *unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_inversehaversine_Integer8(int8_t x) {
   return evaluate<unary::inversehaversine, Checked>(x);
@@ -5554,7 +5555,7 @@ inline uint64_t checked_unary_inversehaversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversehaversine, Checked>(x);
 }
 inline uint16_t *checked_unary_inversehaversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversehaversine, Checked>(Real16{x}));
+  return evaluateInto<unary::inversehaversine, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_inversehaversine_Real32(float x) {
   return evaluate<unary::inversehaversine, Checked>(x);
@@ -5563,11 +5564,11 @@ inline double checked_unary_inversehaversine_Real64(double x) {
   return evaluate<unary::inversehaversine, Checked>(x);
 }
 inline float *checked_unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re,
                                                             double x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_erfc_Integer8(int8_t x) {
   return evaluate<unary::erfc, Plain>(x);
@@ -5594,7 +5595,7 @@ inline uint64_t unary_erfc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erfc, Plain>(x);
 }
 inline uint16_t *unary_erfc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erfc, Plain>(Real16{x}));
+  return evaluateInto<unary::erfc, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_erfc_Real32(float x) {
   return evaluate<unary::erfc, Plain>(x);
@@ -5603,10 +5604,10 @@ inline double unary_erfc_Real64(double x) {
   return evaluate<unary::erfc, Plain>(x);
 }
 inline float *unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erfc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erfc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erfc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erfc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_erfc_Integer8(int8_t x) {
   return evaluate<unary::erfc, Checked>(x);
@@ -5633,7 +5634,7 @@ inline uint64_t checked_unary_erfc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erfc, Checked>(x);
 }
 inline uint16_t *checked_unary_erfc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erfc, Checked>(Real16{x}));
+  return evaluateInto<unary::erfc, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_erfc_Real32(float x) {
   return evaluate<unary::erfc, Checked>(x);
@@ -5642,10 +5643,10 @@ inline double checked_unary_erfc_Real64(double x) {
   return evaluate<unary::erfc, Checked>(x);
 }
 inline float *checked_unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erfc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erfc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erfc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erfc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_erf_Integer8(int8_t x) {
   return evaluate<unary::erf, Plain>(x);
@@ -5672,7 +5673,7 @@ inline uint64_t unary_erf_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erf, Plain>(x);
 }
 inline uint16_t *unary_erf_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erf, Plain>(Real16{x}));
+  return evaluateInto<unary::erf, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_erf_Real32(float x) {
   return evaluate<unary::erf, Plain>(x);
@@ -5681,10 +5682,10 @@ inline double unary_erf_Real64(double x) {
   return evaluate<unary::erf, Plain>(x);
 }
 inline float *unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erf, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erf, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erf, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erf, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_erf_Integer8(int8_t x) {
   return evaluate<unary::erf, Checked>(x);
@@ -5711,7 +5712,7 @@ inline uint64_t checked_unary_erf_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erf, Checked>(x);
 }
 inline uint16_t *checked_unary_erf_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erf, Checked>(Real16{x}));
+  return evaluateInto<unary::erf, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_erf_Real32(float x) {
   return evaluate<unary::erf, Checked>(x);
@@ -5720,10 +5721,10 @@ inline double checked_unary_erf_Real64(double x) {
   return evaluate<unary::erf, Checked>(x);
 }
 inline float *checked_unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erf, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erf, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erf, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erf, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_gamma_Integer8(int8_t x) {
   return evaluate<unary::gamma, Plain>(x);
@@ -5750,7 +5751,7 @@ inline uint64_t unary_gamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gamma, Plain>(x);
 }
 inline uint16_t *unary_gamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gamma, Plain>(Real16{x}));
+  return evaluateInto<unary::gamma, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_gamma_Real32(float x) {
   return evaluate<unary::gamma, Plain>(x);
@@ -5759,10 +5760,10 @@ inline double unary_gamma_Real64(double x) {
   return evaluate<unary::gamma, Plain>(x);
 }
 inline float *unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gamma, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gamma, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gamma, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gamma, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_gamma_Integer8(int8_t x) {
   return evaluate<unary::gamma, Checked>(x);
@@ -5789,7 +5790,7 @@ inline uint64_t checked_unary_gamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gamma, Checked>(x);
 }
 inline uint16_t *checked_unary_gamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gamma, Checked>(Real16{x}));
+  return evaluateInto<unary::gamma, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_gamma_Real32(float x) {
   return evaluate<unary::gamma, Checked>(x);
@@ -5798,10 +5799,10 @@ inline double checked_unary_gamma_Real64(double x) {
   return evaluate<unary::gamma, Checked>(x);
 }
 inline float *checked_unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gamma, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gamma, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gamma, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gamma, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_loggamma_Integer8(int8_t x) {
   return evaluate<unary::loggamma, Plain>(x);
@@ -5828,7 +5829,7 @@ inline uint64_t unary_loggamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::loggamma, Plain>(x);
 }
 inline uint16_t *unary_loggamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::loggamma, Plain>(Real16{x}));
+  return evaluateInto<unary::loggamma, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_loggamma_Real32(float x) {
   return evaluate<unary::loggamma, Plain>(x);
@@ -5837,10 +5838,10 @@ inline double unary_loggamma_Real64(double x) {
   return evaluate<unary::loggamma, Plain>(x);
 }
 inline float *unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::loggamma, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::loggamma, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_loggamma_Integer8(int8_t x) {
   return evaluate<unary::loggamma, Checked>(x);
@@ -5867,7 +5868,7 @@ inline uint64_t checked_unary_loggamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::loggamma, Checked>(x);
 }
 inline uint16_t *checked_unary_loggamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::loggamma, Checked>(Real16{x}));
+  return evaluateInto<unary::loggamma, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_loggamma_Real32(float x) {
   return evaluate<unary::loggamma, Checked>(x);
@@ -5876,10 +5877,10 @@ inline double checked_unary_loggamma_Real64(double x) {
   return evaluate<unary::loggamma, Checked>(x);
 }
 inline float *checked_unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::loggamma, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::loggamma, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t unary_logistic_Integer8(int8_t x) {
   return evaluate<unary::logistic, Plain>(x);
@@ -5906,7 +5907,7 @@ inline uint64_t unary_logistic_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::logistic, Plain>(x);
 }
 inline uint16_t *unary_logistic_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::logistic, Plain>(Real16{x}));
+  return evaluateInto<unary::logistic, Plain>(HalfPlace{result}, Real16{x});
 }
 inline float unary_logistic_Real32(float x) {
   return evaluate<unary::logistic, Plain>(x);
@@ -5915,10 +5916,10 @@ inline double unary_logistic_Real64(double x) {
   return evaluate<unary::logistic, Plain>(x);
 }
 inline float *unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::logistic, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::logistic, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::logistic, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::logistic, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t checked_unary_logistic_Integer8(int8_t x) {
   return evaluate<unary::logistic, Checked>(x);
@@ -5945,7 +5946,7 @@ inline uint64_t checked_unary_logistic_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::logistic, Checked>(x);
 }
 inline uint16_t *checked_unary_logistic_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::logistic, Checked>(Real16{x}));
+  return evaluateInto<unary::logistic, Checked>(HalfPlace{result}, Real16{x});
 }
 inline float checked_unary_logistic_Real32(float x) {
   return evaluate<unary::logistic, Checked>(x);
@@ -5954,10 +5955,10 @@ inline double checked_unary_logistic_Real64(double x) {
   return evaluate<unary::logistic, Checked>(x);
 }
 inline float *checked_unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::logistic, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::logistic, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 inline double *checked_unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::logistic, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::logistic, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 inline int8_t binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::plus, Plain>(x, y);
@@ -5984,7 +5985,7 @@ inline uint64_t binary_plus_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::plus, Plain>(x, y);
 }
 inline uint16_t *binary_plus_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::plus, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::plus, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_plus_Real32_Real32(float x, float y) {
   return evaluate<binary::plus, Plain>(x, y);
@@ -5994,11 +5995,11 @@ inline double binary_plus_Real64_Real64(double x, double y) {
 }
 inline float *binary_plus_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::plus, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::plus, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_plus_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::plus, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::plus, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::plus, Checked>(x, y);
@@ -6025,7 +6026,7 @@ inline uint64_t checked_binary_plus_UnsignedInteger64_UnsignedInteger64(uint64_t
   return evaluate<binary::plus, Checked>(x, y);
 }
 inline uint16_t *checked_binary_plus_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::plus, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::plus, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_plus_Real32_Real32(float x, float y) {
   return evaluate<binary::plus, Checked>(x, y);
@@ -6035,11 +6036,11 @@ inline double checked_binary_plus_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_plus_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                               float y_re, float y_im) {
-  return store(re, im, evaluate<binary::plus, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::plus, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_plus_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::plus, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::plus, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_subtract_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::subtract, Plain>(x, y);
@@ -6066,7 +6067,7 @@ inline uint64_t binary_subtract_UnsignedInteger64_UnsignedInteger64(uint64_t x, 
   return evaluate<binary::subtract, Plain>(x, y);
 }
 inline uint16_t *binary_subtract_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::subtract, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::subtract, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_subtract_Real32_Real32(float x, float y) {
   return evaluate<binary::subtract, Plain>(x, y);
@@ -6076,11 +6077,11 @@ inline double binary_subtract_Real64_Real64(double x, double y) {
 }
 inline float *binary_subtract_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                           float y_re, float y_im) {
-  return store(re, im, evaluate<binary::subtract, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::subtract, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_subtract_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                            double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::subtract, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::subtract, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_subtract_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::subtract, Checked>(x, y);
@@ -6107,7 +6108,7 @@ inline uint64_t checked_binary_subtract_UnsignedInteger64_UnsignedInteger64(uint
   return evaluate<binary::subtract, Checked>(x, y);
 }
 inline uint16_t *checked_binary_subtract_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::subtract, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::subtract, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_subtract_Real32_Real32(float x, float y) {
   return evaluate<binary::subtract, Checked>(x, y);
@@ -6117,11 +6118,11 @@ inline double checked_binary_subtract_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_subtract_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                   float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::subtract, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::subtract, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_subtract_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                    double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::subtract, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::subtract, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_times_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::times, Plain>(x, y);
@@ -6148,7 +6149,7 @@ inline uint64_t binary_times_UnsignedInteger64_UnsignedInteger64(uint64_t x, uin
   return evaluate<binary::times, Plain>(x, y);
 }
 inline uint16_t *binary_times_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::times, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::times, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_times_Real32_Real32(float x, float y) {
   return evaluate<binary::times, Plain>(x, y);
@@ -6158,11 +6159,11 @@ inline double binary_times_Real64_Real64(double x, double y) {
 }
 inline float *binary_times_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                        float y_re, float y_im) {
-  return store(re, im, evaluate<binary::times, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::times, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_times_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<binary::times, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::times, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_times_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::times, Checked>(x, y);
@@ -6189,7 +6190,7 @@ inline uint64_t checked_binary_times_UnsignedInteger64_UnsignedInteger64(uint64_
   return evaluate<binary::times, Checked>(x, y);
 }
 inline uint16_t *checked_binary_times_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::times, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::times, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_times_Real32_Real32(float x, float y) {
   return evaluate<binary::times, Checked>(x, y);
@@ -6199,11 +6200,11 @@ inline double checked_binary_times_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_times_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::times, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::times, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_times_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                 double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::times, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::times, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_divide_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::divide, Plain>(x, y);
@@ -6230,7 +6231,7 @@ inline uint64_t binary_divide_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::divide, Plain>(x, y);
 }
 inline uint16_t *binary_divide_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::divide, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::divide, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_divide_Real32_Real32(float x, float y) {
   return evaluate<binary::divide, Plain>(x, y);
@@ -6240,11 +6241,11 @@ inline double binary_divide_Real64_Real64(double x, double y) {
 }
 inline float *binary_divide_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::divide, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::divide, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_divide_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::divide, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::divide, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_divide_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::divide, Checked>(x, y);
@@ -6271,7 +6272,7 @@ inline uint64_t checked_binary_divide_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::divide, Checked>(x, y);
 }
 inline uint16_t *checked_binary_divide_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::divide, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::divide, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_divide_Real32_Real32(float x, float y) {
   return evaluate<binary::divide, Checked>(x, y);
@@ -6281,11 +6282,11 @@ inline double checked_binary_divide_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_divide_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::divide, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::divide, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_divide_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::divide, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::divide, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline mint binary_fpexception_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::fpexception, Plain>(x, y);
@@ -6393,7 +6394,7 @@ inline uint64_t binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint6
   return evaluate<binary::max, Plain>(x, y);
 }
 inline uint16_t *binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::max, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::max, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_max_Real32_Real32(float x, float y) {
   return evaluate<binary::max, Plain>(x, y);
@@ -6403,11 +6404,11 @@ inline double binary_max_Real64_Real64(double x, double y) {
 }
 inline float *binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<binary::max, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::max, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                       double y_re, double y_im) {
-  return store(re, im, evaluate<binary::max, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::max, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_max_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::max, Checked>(x, y);
@@ -6434,7 +6435,7 @@ inline uint64_t checked_binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t 
   return evaluate<binary::max, Checked>(x, y);
 }
 inline uint16_t *checked_binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::max, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::max, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_max_Real32_Real32(float x, float y) {
   return evaluate<binary::max, Checked>(x, y);
@@ -6444,11 +6445,11 @@ inline double checked_binary_max_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<binary::max, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::max, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                               double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::max, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::max, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_min_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::min, Plain>(x, y);
@@ -6475,7 +6476,7 @@ inline uint64_t binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint6
   return evaluate<binary::min, Plain>(x, y);
 }
 inline uint16_t *binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::min, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::min, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_min_Real32_Real32(float x, float y) {
   return evaluate<binary::min, Plain>(x, y);
@@ -6485,11 +6486,11 @@ inline double binary_min_Real64_Real64(double x, double y) {
 }
 inline float *binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<binary::min, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::min, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                       double y_re, double y_im) {
-  return store(re, im, evaluate<binary::min, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::min, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_min_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::min, Checked>(x, y);
@@ -6516,7 +6517,7 @@ inline uint64_t checked_binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t 
   return evaluate<binary::min, Checked>(x, y);
 }
 inline uint16_t *checked_binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::min, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::min, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_min_Real32_Real32(float x, float y) {
   return evaluate<binary::min, Checked>(x, y);
@@ -6526,11 +6527,11 @@ inline double checked_binary_min_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<binary::min, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::min, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                               double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::min, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::min, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_chop_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::chop, Plain>(x, y);
@@ -6557,7 +6558,7 @@ inline uint64_t binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::chop, Plain>(x, y);
 }
 inline uint16_t *binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::chop, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::chop, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_chop_Real32_Real32(float x, float y) {
   return evaluate<binary::chop, Plain>(x, y);
@@ -6567,11 +6568,11 @@ inline double binary_chop_Real64_Real64(double x, double y) {
 }
 inline float *binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::chop, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::chop, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::chop, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::chop, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_chop_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::chop, Checked>(x, y);
@@ -6598,7 +6599,7 @@ inline uint64_t checked_binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t
   return evaluate<binary::chop, Checked>(x, y);
 }
 inline uint16_t *checked_binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::chop, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::chop, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_chop_Real32_Real32(float x, float y) {
   return evaluate<binary::chop, Checked>(x, y);
@@ -6608,11 +6609,11 @@ inline double checked_binary_chop_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                               float y_re, float y_im) {
-  return store(re, im, evaluate<binary::chop, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::chop, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::chop, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::chop, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_abserr_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::abserr, Plain>(x, y);
@@ -6639,7 +6640,7 @@ inline uint64_t binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::abserr, Plain>(x, y);
 }
 inline uint16_t *binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::abserr, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::abserr, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_abserr_Real32_Real32(float x, float y) {
   return evaluate<binary::abserr, Plain>(x, y);
@@ -6649,11 +6650,11 @@ inline double binary_abserr_Real64_Real64(double x, double y) {
 }
 inline float *binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::abserr, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::abserr, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::abserr, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::abserr, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_abserr_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::abserr, Checked>(x, y);
@@ -6680,7 +6681,7 @@ inline uint64_t checked_binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::abserr, Checked>(x, y);
 }
 inline uint16_t *checked_binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::abserr, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::abserr, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_abserr_Real32_Real32(float x, float y) {
   return evaluate<binary::abserr, Checked>(x, y);
@@ -6690,11 +6691,11 @@ inline double checked_binary_abserr_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::abserr, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::abserr, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::abserr, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::abserr, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_relerr_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::relerr, Plain>(x, y);
@@ -6721,7 +6722,7 @@ inline uint64_t binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::relerr, Plain>(x, y);
 }
 inline uint16_t *binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::relerr, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::relerr, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_relerr_Real32_Real32(float x, float y) {
   return evaluate<binary::relerr, Plain>(x, y);
@@ -6731,11 +6732,11 @@ inline double binary_relerr_Real64_Real64(double x, double y) {
 }
 inline float *binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::relerr, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::relerr, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::relerr, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::relerr, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_relerr_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::relerr, Checked>(x, y);
@@ -6762,7 +6763,7 @@ inline uint64_t checked_binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::relerr, Checked>(x, y);
 }
 inline uint16_t *checked_binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::relerr, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::relerr, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_relerr_Real32_Real32(float x, float y) {
   return evaluate<binary::relerr, Checked>(x, y);
@@ -6772,11 +6773,11 @@ inline double checked_binary_relerr_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::relerr, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::relerr, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::relerr, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::relerr, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_maxabs_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::maxabs, Plain>(x, y);
@@ -6803,7 +6804,7 @@ inline uint64_t binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::maxabs, Plain>(x, y);
 }
 inline uint16_t *binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::maxabs, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::maxabs, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_maxabs_Real32_Real32(float x, float y) {
   return evaluate<binary::maxabs, Plain>(x, y);
@@ -6813,11 +6814,11 @@ inline double binary_maxabs_Real64_Real64(double x, double y) {
 }
 inline float *binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::maxabs, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::maxabs, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_maxabs_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::maxabs, Checked>(x, y);
@@ -6844,7 +6845,7 @@ inline uint64_t checked_binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::maxabs, Checked>(x, y);
 }
 inline uint16_t *checked_binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::maxabs, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::maxabs, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_maxabs_Real32_Real32(float x, float y) {
   return evaluate<binary::maxabs, Checked>(x, y);
@@ -6854,11 +6855,11 @@ inline double checked_binary_maxabs_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::maxabs, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::maxabs, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline mint binary_unitize_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::unitize, Plain>(x, y);
@@ -6965,7 +6966,7 @@ inline uint64_t binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::bit_and, Plain>(x, y);
 }
 inline uint16_t *binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_and, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_and, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_bit_and_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_and, Plain>(x, y);
@@ -6975,11 +6976,11 @@ inline double binary_bit_and_Real64_Real64(double x, double y) {
 }
 inline float *binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_and, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_and, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_bit_and_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_and, Checked>(x, y);
@@ -7006,7 +7007,7 @@ inline uint64_t checked_binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint6
   return evaluate<binary::bit_and, Checked>(x, y);
 }
 inline uint16_t *checked_binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_and, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_and, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_bit_and_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_and, Checked>(x, y);
@@ -7016,11 +7017,11 @@ inline double checked_binary_bit_and_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                  float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_and, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                   double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_and, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_bit_or_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_or, Plain>(x, y);
@@ -7047,7 +7048,7 @@ inline uint64_t binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::bit_or, Plain>(x, y);
 }
 inline uint16_t *binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_or, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_or, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_bit_or_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_or, Plain>(x, y);
@@ -7057,11 +7058,11 @@ inline double binary_bit_or_Real64_Real64(double x, double y) {
 }
 inline float *binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_or, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_or, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_bit_or_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_or, Checked>(x, y);
@@ -7088,7 +7089,7 @@ inline uint64_t checked_binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::bit_or, Checked>(x, y);
 }
 inline uint16_t *checked_binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_or, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_or, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_bit_or_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_or, Checked>(x, y);
@@ -7098,11 +7099,11 @@ inline double checked_binary_bit_or_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_or, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_or, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_xor, Plain>(x, y);
@@ -7129,7 +7130,7 @@ inline uint64_t binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::bit_xor, Plain>(x, y);
 }
 inline uint16_t *binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_xor, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_xor, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_bit_xor_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_xor, Plain>(x, y);
@@ -7139,11 +7140,11 @@ inline double binary_bit_xor_Real64_Real64(double x, double y) {
 }
 inline float *binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_xor, Checked>(x, y);
@@ -7170,7 +7171,7 @@ inline uint64_t checked_binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint6
   return evaluate<binary::bit_xor, Checked>(x, y);
 }
 inline uint16_t *checked_binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_xor, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_xor, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_bit_xor_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_xor, Checked>(x, y);
@@ -7180,11 +7181,11 @@ inline double checked_binary_bit_xor_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                  float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                   double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_intexp_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::intexp, Plain>(x, y);
@@ -7211,7 +7212,7 @@ inline uint64_t binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::intexp, Plain>(x, y);
 }
 inline uint16_t *binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intexp, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intexp, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_intexp_Real32_Real32(float x, float y) {
   return evaluate<binary::intexp, Plain>(x, y);
@@ -7221,11 +7222,11 @@ inline double binary_intexp_Real64_Real64(double x, double y) {
 }
 inline float *binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::intexp, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intexp, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intexp, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intexp, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_intexp_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::intexp, Checked>(x, y);
@@ -7252,7 +7253,7 @@ inline uint64_t checked_binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::intexp, Checked>(x, y);
 }
 inline uint16_t *checked_binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intexp, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intexp, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_intexp_Real32_Real32(float x, float y) {
   return evaluate<binary::intexp, Checked>(x, y);
@@ -7262,11 +7263,11 @@ inline double checked_binary_intexp_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::intexp, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intexp, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intexp, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intexp, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_intlen_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::intlen, Plain>(x, y);
@@ -7293,7 +7294,7 @@ inline uint64_t binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::intlen, Plain>(x, y);
 }
 inline uint16_t *binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intlen, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intlen, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_intlen_Real32_Real32(float x, float y) {
   return evaluate<binary::intlen, Plain>(x, y);
@@ -7303,11 +7304,11 @@ inline double binary_intlen_Real64_Real64(double x, double y) {
 }
 inline float *binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::intlen, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intlen, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intlen, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intlen, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_intlen_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::intlen, Checked>(x, y);
@@ -7334,7 +7335,7 @@ inline uint64_t checked_binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::intlen, Checked>(x, y);
 }
 inline uint16_t *checked_binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intlen, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intlen, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_intlen_Real32_Real32(float x, float y) {
   return evaluate<binary::intlen, Checked>(x, y);
@@ -7344,11 +7345,11 @@ inline double checked_binary_intlen_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::intlen, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intlen, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intlen, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intlen, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_shiftleft, Plain>(x, y);
@@ -7375,7 +7376,7 @@ inline uint64_t binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64_
   return evaluate<binary::bit_shiftleft, Plain>(x, y);
 }
 inline uint16_t *binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftleft, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftleft, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_bit_shiftleft_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftleft, Plain>(x, y);
@@ -7385,11 +7386,11 @@ inline double binary_bit_shiftleft_Real64_Real64(double x, double y) {
 }
 inline float *binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                 double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_shiftleft, Checked>(x, y);
@@ -7416,7 +7417,7 @@ inline uint64_t checked_binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64
   return evaluate<binary::bit_shiftleft, Checked>(x, y);
 }
 inline uint16_t *checked_binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftleft, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftleft, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_bit_shiftleft_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftleft, Checked>(x, y);
@@ -7426,12 +7427,12 @@ inline double checked_binary_bit_shiftleft_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                        float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                         double x_re, double x_im,
                                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_shiftright, Plain>(x, y);
@@ -7458,7 +7459,7 @@ inline uint64_t binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::bit_shiftright, Plain>(x, y);
 }
 inline uint16_t *binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftright, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftright, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_bit_shiftright_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftright, Plain>(x, y);
@@ -7468,11 +7469,11 @@ inline double binary_bit_shiftright_Real64_Real64(double x, double y) {
 }
 inline float *binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_shiftright, Checked>(x, y);
@@ -7499,7 +7500,7 @@ inline uint64_t checked_binary_bit_shiftright_UnsignedInteger64_UnsignedInteger6
   return evaluate<binary::bit_shiftright, Checked>(x, y);
 }
 inline uint16_t *checked_binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftright, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftright, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_bit_shiftright_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftright, Checked>(x, y);
@@ -7509,12 +7510,12 @@ inline double checked_binary_bit_shiftright_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                         float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                          double x_re, double x_im,
                                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_root_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::root, Plain>(x, y);
@@ -7541,7 +7542,7 @@ inline uint64_t binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::root, Plain>(x, y);
 }
 inline uint16_t *binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::root, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::root, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_root_Real32_Real32(float x, float y) {
   return evaluate<binary::root, Plain>(x, y);
@@ -7551,11 +7552,11 @@ inline double binary_root_Real64_Real64(double x, double y) {
 }
 inline float *binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::root, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::root, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::root, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::root, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_root_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::root, Checked>(x, y);
@@ -7582,7 +7583,7 @@ inline uint64_t checked_binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t
   return evaluate<binary::root, Checked>(x, y);
 }
 inline uint16_t *checked_binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::root, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::root, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_root_Real32_Real32(float x, float y) {
   return evaluate<binary::root, Checked>(x, y);
@@ -7592,11 +7593,11 @@ inline double checked_binary_root_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                               float y_re, float y_im) {
-  return store(re, im, evaluate<binary::root, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::root, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::root, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::root, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::mod, Plain>(x, y);
@@ -7623,7 +7624,7 @@ inline uint64_t binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint6
   return evaluate<binary::mod, Plain>(x, y);
 }
 inline uint16_t *binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::mod, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::mod, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_mod_Real32_Real32(float x, float y) {
   return evaluate<binary::mod, Plain>(x, y);
@@ -7633,11 +7634,11 @@ inline double binary_mod_Real64_Real64(double x, double y) {
 }
 inline float *binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<binary::mod, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::mod, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                       double y_re, double y_im) {
-  return store(re, im, evaluate<binary::mod, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::mod, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::mod, Checked>(x, y);
@@ -7664,7 +7665,7 @@ inline uint64_t checked_binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t 
   return evaluate<binary::mod, Checked>(x, y);
 }
 inline uint16_t *checked_binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::mod, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::mod, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_mod_Real32_Real32(float x, float y) {
   return evaluate<binary::mod, Checked>(x, y);
@@ -7674,11 +7675,11 @@ inline double checked_binary_mod_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<binary::mod, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::mod, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                               double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::mod, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::mod, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_quotient_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::quotient, Plain>(x, y);
@@ -7715,11 +7716,11 @@ inline mint binary_quotient_Real64_Real64(double x, double y) {
 }
 inline float *binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                           float y_re, float y_im) {
-  return store(re, im, evaluate<binary::quotient, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::quotient, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                            double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::quotient, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::quotient, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_quotient_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::quotient, Checked>(x, y);
@@ -7756,11 +7757,11 @@ inline mint checked_binary_quotient_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                   float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::quotient, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                    double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::quotient, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_log_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::log, Plain>(x, y);
@@ -7787,7 +7788,7 @@ inline uint64_t binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint6
   return evaluate<binary::log, Plain>(x, y);
 }
 inline uint16_t *binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::log, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::log, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_log_Real32_Real32(float x, float y) {
   return evaluate<binary::log, Plain>(x, y);
@@ -7797,11 +7798,11 @@ inline double binary_log_Real64_Real64(double x, double y) {
 }
 inline float *binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<binary::log, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::log, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                       double y_re, double y_im) {
-  return store(re, im, evaluate<binary::log, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::log, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_log_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::log, Checked>(x, y);
@@ -7828,7 +7829,7 @@ inline uint64_t checked_binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t 
   return evaluate<binary::log, Checked>(x, y);
 }
 inline uint16_t *checked_binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::log, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::log, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_log_Real32_Real32(float x, float y) {
   return evaluate<binary::log, Checked>(x, y);
@@ -7838,11 +7839,11 @@ inline double checked_binary_log_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<binary::log, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::log, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                               double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::log, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::log, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_atan2_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::atan2, Plain>(x, y);
@@ -7869,7 +7870,7 @@ inline uint64_t binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, uin
   return evaluate<binary::atan2, Plain>(x, y);
 }
 inline uint16_t *binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::atan2, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::atan2, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_atan2_Real32_Real32(float x, float y) {
   return evaluate<binary::atan2, Plain>(x, y);
@@ -7879,11 +7880,11 @@ inline double binary_atan2_Real64_Real64(double x, double y) {
 }
 inline float *binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                        float y_re, float y_im) {
-  return store(re, im, evaluate<binary::atan2, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::atan2, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<binary::atan2, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::atan2, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_atan2_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::atan2, Checked>(x, y);
@@ -7910,7 +7911,7 @@ inline uint64_t checked_binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_
   return evaluate<binary::atan2, Checked>(x, y);
 }
 inline uint16_t *checked_binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::atan2, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::atan2, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_atan2_Real32_Real32(float x, float y) {
   return evaluate<binary::atan2, Checked>(x, y);
@@ -7920,11 +7921,11 @@ inline double checked_binary_atan2_Real64_Real64(double x, double y) {
 }
 inline float *checked_binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::atan2, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::atan2, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                 double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::atan2, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::atan2, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t binary_pow_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -7951,7 +7952,7 @@ inline int8_t binary_pow_Integer8_UnsignedInteger64(int8_t x, uint64_t y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_Integer8_Real16(uint16_t *result, int8_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_Integer8_Real32(int8_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -7960,11 +7961,11 @@ inline double binary_pow_Integer8_Real64(int8_t x, double y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline float *binary_pow_Integer8_ComplexReal32(float *re, float *im, int8_t x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Integer8_ComplexReal64(double *re, double *im, int8_t x, double y_re,
                                                  double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint8_t binary_pow_UnsignedInteger8_Integer8(uint8_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -7991,7 +7992,7 @@ inline uint8_t binary_pow_UnsignedInteger8_UnsignedInteger64(uint8_t x, uint64_t
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_UnsignedInteger8_Real16(uint16_t *result, uint8_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_UnsignedInteger8_Real32(uint8_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8001,11 +8002,11 @@ inline double binary_pow_UnsignedInteger8_Real64(uint8_t x, double y) {
 }
 inline float *binary_pow_UnsignedInteger8_ComplexReal32(float *re, float *im, uint8_t x, float y_re,
                                                         float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_UnsignedInteger8_ComplexReal64(double *re, double *im, uint8_t x, double y_re,
                                                          double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline int16_t binary_pow_Integer16_Integer8(int16_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8032,7 +8033,7 @@ inline int16_t binary_pow_Integer16_UnsignedInteger64(int16_t x, uint64_t y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_Integer16_Real16(uint16_t *result, int16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_Integer16_Real32(int16_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8041,11 +8042,11 @@ inline double binary_pow_Integer16_Real64(int16_t x, double y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline float *binary_pow_Integer16_ComplexReal32(float *re, float *im, int16_t x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Integer16_ComplexReal64(double *re, double *im, int16_t x, double y_re,
                                                   double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint16_t binary_pow_UnsignedInteger16_Integer8(uint16_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8072,7 +8073,7 @@ inline uint16_t binary_pow_UnsignedInteger16_UnsignedInteger64(uint16_t x, uint6
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_UnsignedInteger16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_UnsignedInteger16_Real32(uint16_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8082,11 +8083,11 @@ inline double binary_pow_UnsignedInteger16_Real64(uint16_t x, double y) {
 }
 inline float *binary_pow_UnsignedInteger16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
                                                          float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_UnsignedInteger16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
                                                           double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline int32_t binary_pow_Integer32_Integer8(int32_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8113,7 +8114,7 @@ inline int32_t binary_pow_Integer32_UnsignedInteger64(int32_t x, uint64_t y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_Integer32_Real16(uint16_t *result, int32_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_Integer32_Real32(int32_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8122,11 +8123,11 @@ inline double binary_pow_Integer32_Real64(int32_t x, double y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline float *binary_pow_Integer32_ComplexReal32(float *re, float *im, int32_t x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Integer32_ComplexReal64(double *re, double *im, int32_t x, double y_re,
                                                   double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint32_t binary_pow_UnsignedInteger32_Integer8(uint32_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8153,7 +8154,7 @@ inline uint32_t binary_pow_UnsignedInteger32_UnsignedInteger64(uint32_t x, uint6
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_UnsignedInteger32_Real16(uint16_t *result, uint32_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_UnsignedInteger32_Real32(uint32_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8163,11 +8164,11 @@ inline double binary_pow_UnsignedInteger32_Real64(uint32_t x, double y) {
 }
 inline float *binary_pow_UnsignedInteger32_ComplexReal32(float *re, float *im, uint32_t x, float y_re,
                                                          float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_UnsignedInteger32_ComplexReal64(double *re, double *im, uint32_t x, double y_re,
                                                           double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline int64_t binary_pow_Integer64_Integer8(int64_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8194,7 +8195,7 @@ inline int64_t binary_pow_Integer64_UnsignedInteger64(int64_t x, uint64_t y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_Integer64_Real16(uint16_t *result, int64_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_Integer64_Real32(int64_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8203,11 +8204,11 @@ inline double binary_pow_Integer64_Real64(int64_t x, double y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline float *binary_pow_Integer64_ComplexReal32(float *re, float *im, int64_t x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Integer64_ComplexReal64(double *re, double *im, int64_t x, double y_re,
                                                   double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint64_t binary_pow_UnsignedInteger64_Integer8(uint64_t x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8234,7 +8235,7 @@ inline uint64_t binary_pow_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint6
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline uint16_t *binary_pow_UnsignedInteger64_Real16(uint16_t *result, uint64_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(x, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, x, Real16{y});
 }
 inline float binary_pow_UnsignedInteger64_Real32(uint64_t x, float y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8244,38 +8245,38 @@ inline double binary_pow_UnsignedInteger64_Real64(uint64_t x, double y) {
 }
 inline float *binary_pow_UnsignedInteger64_ComplexReal32(float *re, float *im, uint64_t x, float y_re,
                                                          float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_UnsignedInteger64_ComplexReal64(double *re, double *im, uint64_t x, double y_re,
                                                           double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint16_t *binary_pow_Real16_Integer8(uint16_t *result, uint16_t x, int8_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_UnsignedInteger8(uint16_t *result, uint16_t x, uint8_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_Integer16(uint16_t *result, uint16_t x, int16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_UnsignedInteger16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_Integer32(uint16_t *result, uint16_t x, int32_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_UnsignedInteger32(uint16_t *result, uint16_t x, uint32_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_Integer64(uint16_t *result, uint16_t x, int64_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_UnsignedInteger64(uint16_t *result, uint16_t x, uint64_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, y));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *binary_pow_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float binary_pow_Real16_Real32(uint16_t x, float y) {
   return evaluate<binary::pow, Plain>(Real16{x}, y);
@@ -8284,11 +8285,11 @@ inline double binary_pow_Real16_Real64(uint16_t x, double y) {
   return evaluate<binary::pow, Plain>(Real16{x}, y);
 }
 inline float *binary_pow_Real16_ComplexReal32(float *re, float *im, uint16_t x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(Real16{x}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, Real16{x}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Real16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
                                                double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(Real16{x}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, Real16{x}, ComplexReal64{y_re, y_im});
 }
 inline float binary_pow_Real32_Integer8(float x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8324,10 +8325,10 @@ inline double binary_pow_Real32_Real64(float x, double y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline float *binary_pow_Real32_ComplexReal32(float *re, float *im, float x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Real32_ComplexReal64(double *re, double *im, float x, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline double binary_pow_Real64_Integer8(double x, int8_t y) {
   return evaluate<binary::pow, Plain>(x, y);
@@ -8363,105 +8364,105 @@ inline double binary_pow_Real64_Real64(double x, double y) {
   return evaluate<binary::pow, Plain>(x, y);
 }
 inline double *binary_pow_Real64_ComplexReal32(double *re, double *im, double x, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_Real64_ComplexReal64(double *re, double *im, double x, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline float *binary_pow_ComplexReal32_Integer8(float *re, float *im, float x_re, float x_im, int8_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_UnsignedInteger8(float *re, float *im, float x_re, float x_im,
                                                         uint8_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_Integer16(float *re, float *im, float x_re, float x_im, int16_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_UnsignedInteger16(float *re, float *im, float x_re, float x_im,
                                                          uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_Integer32(float *re, float *im, float x_re, float x_im, int32_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_UnsignedInteger32(float *re, float *im, float x_re, float x_im,
                                                          uint32_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_Integer64(float *re, float *im, float x_re, float x_im, int64_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_UnsignedInteger64(float *re, float *im, float x_re, float x_im,
                                                          uint64_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_Real16(float *re, float *im, float x_re, float x_im, uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, Real16{y});
 }
 inline float *binary_pow_ComplexReal32_Real32(float *re, float *im, float x_re, float x_im, float y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal32_Real64(double *re, double *im, float x_re, float x_im, double y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *binary_pow_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_ComplexReal32_ComplexReal64(double *re, double *im, float x_re, float x_im,
                                                       double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal32{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline double *binary_pow_ComplexReal64_Integer8(double *re, double *im, double x_re, double x_im,
                                                  int8_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_UnsignedInteger8(double *re, double *im, double x_re, double x_im,
                                                          uint8_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_Integer16(double *re, double *im, double x_re, double x_im,
                                                   int16_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_UnsignedInteger16(double *re, double *im, double x_re, double x_im,
                                                           uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_Integer32(double *re, double *im, double x_re, double x_im,
                                                   int32_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_UnsignedInteger32(double *re, double *im, double x_re, double x_im,
                                                           uint32_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_Integer64(double *re, double *im, double x_re, double x_im,
                                                   int64_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_UnsignedInteger64(double *re, double *im, double x_re, double x_im,
                                                           uint64_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_Real16(double *re, double *im, double x_re, double x_im,
                                                uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, Real16{y}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, Real16{y});
 }
 inline double *binary_pow_ComplexReal64_Real32(double *re, double *im, double x_re, double x_im, float y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_Real64(double *re, double *im, double x_re, double x_im, double y) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *binary_pow_ComplexReal64_ComplexReal32(double *re, double *im, double x_re, double x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *binary_pow_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                       double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_binary_pow_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8488,7 +8489,7 @@ inline int8_t checked_binary_pow_Integer8_UnsignedInteger64(int8_t x, uint64_t y
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_Integer8_Real16(uint16_t *result, int8_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_Integer8_Real32(int8_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8498,11 +8499,11 @@ inline double checked_binary_pow_Integer8_Real64(int8_t x, double y) {
 }
 inline float *checked_binary_pow_Integer8_ComplexReal32(float *re, float *im, int8_t x, float y_re,
                                                         float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Integer8_ComplexReal64(double *re, double *im, int8_t x, double y_re,
                                                          double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint8_t checked_binary_pow_UnsignedInteger8_Integer8(uint8_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8529,7 +8530,7 @@ inline uint8_t checked_binary_pow_UnsignedInteger8_UnsignedInteger64(uint8_t x, 
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_UnsignedInteger8_Real16(uint16_t *result, uint8_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_UnsignedInteger8_Real32(uint8_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8539,11 +8540,11 @@ inline double checked_binary_pow_UnsignedInteger8_Real64(uint8_t x, double y) {
 }
 inline float *checked_binary_pow_UnsignedInteger8_ComplexReal32(float *re, float *im, uint8_t x,
                                                                 float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_UnsignedInteger8_ComplexReal64(double *re, double *im, uint8_t x,
                                                                  double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline int16_t checked_binary_pow_Integer16_Integer8(int16_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8570,7 +8571,7 @@ inline int16_t checked_binary_pow_Integer16_UnsignedInteger64(int16_t x, uint64_
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_Integer16_Real16(uint16_t *result, int16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_Integer16_Real32(int16_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8580,11 +8581,11 @@ inline double checked_binary_pow_Integer16_Real64(int16_t x, double y) {
 }
 inline float *checked_binary_pow_Integer16_ComplexReal32(float *re, float *im, int16_t x, float y_re,
                                                          float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Integer16_ComplexReal64(double *re, double *im, int16_t x, double y_re,
                                                           double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint16_t checked_binary_pow_UnsignedInteger16_Integer8(uint16_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8611,7 +8612,7 @@ inline uint16_t checked_binary_pow_UnsignedInteger16_UnsignedInteger64(uint16_t 
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_UnsignedInteger16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_UnsignedInteger16_Real32(uint16_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8621,11 +8622,11 @@ inline double checked_binary_pow_UnsignedInteger16_Real64(uint16_t x, double y) 
 }
 inline float *checked_binary_pow_UnsignedInteger16_ComplexReal32(float *re, float *im, uint16_t x,
                                                                  float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_UnsignedInteger16_ComplexReal64(double *re, double *im, uint16_t x,
                                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline int32_t checked_binary_pow_Integer32_Integer8(int32_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8652,7 +8653,7 @@ inline int32_t checked_binary_pow_Integer32_UnsignedInteger64(int32_t x, uint64_
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_Integer32_Real16(uint16_t *result, int32_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_Integer32_Real32(int32_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8662,11 +8663,11 @@ inline double checked_binary_pow_Integer32_Real64(int32_t x, double y) {
 }
 inline float *checked_binary_pow_Integer32_ComplexReal32(float *re, float *im, int32_t x, float y_re,
                                                          float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Integer32_ComplexReal64(double *re, double *im, int32_t x, double y_re,
                                                           double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint32_t checked_binary_pow_UnsignedInteger32_Integer8(uint32_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8693,7 +8694,7 @@ inline uint32_t checked_binary_pow_UnsignedInteger32_UnsignedInteger64(uint32_t 
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_UnsignedInteger32_Real16(uint16_t *result, uint32_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_UnsignedInteger32_Real32(uint32_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8703,11 +8704,11 @@ inline double checked_binary_pow_UnsignedInteger32_Real64(uint32_t x, double y) 
 }
 inline float *checked_binary_pow_UnsignedInteger32_ComplexReal32(float *re, float *im, uint32_t x,
                                                                  float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_UnsignedInteger32_ComplexReal64(double *re, double *im, uint32_t x,
                                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline int64_t checked_binary_pow_Integer64_Integer8(int64_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8734,7 +8735,7 @@ inline int64_t checked_binary_pow_Integer64_UnsignedInteger64(int64_t x, uint64_
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_Integer64_Real16(uint16_t *result, int64_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_Integer64_Real32(int64_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8744,11 +8745,11 @@ inline double checked_binary_pow_Integer64_Real64(int64_t x, double y) {
 }
 inline float *checked_binary_pow_Integer64_ComplexReal32(float *re, float *im, int64_t x, float y_re,
                                                          float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Integer64_ComplexReal64(double *re, double *im, int64_t x, double y_re,
                                                           double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint64_t checked_binary_pow_UnsignedInteger64_Integer8(uint64_t x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8775,7 +8776,7 @@ inline uint64_t checked_binary_pow_UnsignedInteger64_UnsignedInteger64(uint64_t 
   return evaluate<binary::pow, Checked>(x, y);
 }
 inline uint16_t *checked_binary_pow_UnsignedInteger64_Real16(uint16_t *result, uint64_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(x, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, x, Real16{y});
 }
 inline float checked_binary_pow_UnsignedInteger64_Real32(uint64_t x, float y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8785,38 +8786,38 @@ inline double checked_binary_pow_UnsignedInteger64_Real64(uint64_t x, double y) 
 }
 inline float *checked_binary_pow_UnsignedInteger64_ComplexReal32(float *re, float *im, uint64_t x,
                                                                  float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_UnsignedInteger64_ComplexReal64(double *re, double *im, uint64_t x,
                                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline uint16_t *checked_binary_pow_Real16_Integer8(uint16_t *result, uint16_t x, int8_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_UnsignedInteger8(uint16_t *result, uint16_t x, uint8_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_Integer16(uint16_t *result, uint16_t x, int16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_UnsignedInteger16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_Integer32(uint16_t *result, uint16_t x, int32_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_UnsignedInteger32(uint16_t *result, uint16_t x, uint32_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_Integer64(uint16_t *result, uint16_t x, int64_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_UnsignedInteger64(uint16_t *result, uint16_t x, uint64_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, y));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, y);
 }
 inline uint16_t *checked_binary_pow_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::pow, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 inline float checked_binary_pow_Real16_Real32(uint16_t x, float y) {
   return evaluate<binary::pow, Checked>(Real16{x}, y);
@@ -8826,11 +8827,11 @@ inline double checked_binary_pow_Real16_Real64(uint16_t x, double y) {
 }
 inline float *checked_binary_pow_Real16_ComplexReal32(float *re, float *im, uint16_t x, float y_re,
                                                       float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(Real16{x}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, Real16{x}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Real16_ComplexReal64(double *re, double *im, uint16_t x, double y_re,
                                                        double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(Real16{x}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, Real16{x}, ComplexReal64{y_re, y_im});
 }
 inline float checked_binary_pow_Real32_Integer8(float x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8867,11 +8868,11 @@ inline double checked_binary_pow_Real32_Real64(float x, double y) {
 }
 inline float *checked_binary_pow_Real32_ComplexReal32(float *re, float *im, float x, float y_re,
                                                       float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Real32_ComplexReal64(double *re, double *im, float x, double y_re,
                                                        double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline double checked_binary_pow_Real64_Integer8(double x, int8_t y) {
   return evaluate<binary::pow, Checked>(x, y);
@@ -8908,115 +8909,115 @@ inline double checked_binary_pow_Real64_Real64(double x, double y) {
 }
 inline double *checked_binary_pow_Real64_ComplexReal32(double *re, double *im, double x, float y_re,
                                                        float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_Real64_ComplexReal64(double *re, double *im, double x, double y_re,
                                                        double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(x, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, x, ComplexReal64{y_re, y_im});
 }
 inline float *checked_binary_pow_ComplexReal32_Integer8(float *re, float *im, float x_re, float x_im,
                                                         int8_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_UnsignedInteger8(float *re, float *im, float x_re,
                                                                 float x_im, uint8_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_Integer16(float *re, float *im, float x_re, float x_im,
                                                          int16_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_UnsignedInteger16(float *re, float *im, float x_re,
                                                                  float x_im, uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_Integer32(float *re, float *im, float x_re, float x_im,
                                                          int32_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_UnsignedInteger32(float *re, float *im, float x_re,
                                                                  float x_im, uint32_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_Integer64(float *re, float *im, float x_re, float x_im,
                                                          int64_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_UnsignedInteger64(float *re, float *im, float x_re,
                                                                  float x_im, uint64_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_Real16(float *re, float *im, float x_re, float x_im,
                                                       uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, Real16{y});
 }
 inline float *checked_binary_pow_ComplexReal32_Real32(float *re, float *im, float x_re, float x_im,
                                                       float y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal32_Real64(double *re, double *im, float x_re, float x_im,
                                                        double y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, y);
 }
 inline float *checked_binary_pow_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_ComplexReal32_ComplexReal64(double *re, double *im, float x_re,
                                                               float x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal32{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline double *checked_binary_pow_ComplexReal64_Integer8(double *re, double *im, double x_re, double x_im,
                                                          int8_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_UnsignedInteger8(double *re, double *im, double x_re,
                                                                  double x_im, uint8_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_Integer16(double *re, double *im, double x_re, double x_im,
                                                           int16_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_UnsignedInteger16(double *re, double *im, double x_re,
                                                                   double x_im, uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_Integer32(double *re, double *im, double x_re, double x_im,
                                                           int32_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_UnsignedInteger32(double *re, double *im, double x_re,
                                                                   double x_im, uint32_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_Integer64(double *re, double *im, double x_re, double x_im,
                                                           int64_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_UnsignedInteger64(double *re, double *im, double x_re,
                                                                   double x_im, uint64_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_Real16(double *re, double *im, double x_re, double x_im,
                                                        uint16_t y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, Real16{y}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, Real16{y});
 }
 inline double *checked_binary_pow_ComplexReal64_Real32(double *re, double *im, double x_re, double x_im,
                                                        float y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_Real64(double *re, double *im, double x_re, double x_im,
                                                        double y) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, y));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, y);
 }
 inline double *checked_binary_pow_ComplexReal64_ComplexReal32(double *re, double *im, double x_re,
                                                               double x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_binary_pow_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                               double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::pow, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::pow, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axpy, Plain>(a, x, y);
@@ -9047,7 +9048,7 @@ inline uint64_t ternary_axpy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger
   return evaluate<ternary::axpy, Plain>(a, x, y);
 }
 inline uint16_t *ternary_axpy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::axpy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axpy, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float ternary_axpy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axpy, Plain>(a, x, y);
@@ -9058,13 +9059,13 @@ inline double ternary_axpy_Real64_Real64_Real64(double a, double x, double y) {
 inline float *ternary_axpy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                      float a_im, float x_re, float x_im,
                                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::axpy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                       double a_im, double x_re,
                                                                       double x_im, double y_re,
                                                                       double y_im) {
-  return store(re, im, evaluate<ternary::axpy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axpy, Checked>(a, x, y);
@@ -9100,7 +9101,7 @@ inline uint64_t checked_ternary_axpy_UnsignedInteger64_UnsignedInteger64_Unsigne
 }
 inline uint16_t *checked_ternary_axpy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
                                                            uint16_t y) {
-  return store(result, evaluate<ternary::axpy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axpy, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float checked_ternary_axpy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axpy, Checked>(a, x, y);
@@ -9112,13 +9113,13 @@ inline float *checked_ternary_axpy_ComplexReal32_ComplexReal32_ComplexReal32(flo
                                                                              float a_re, float a_im,
                                                                              float x_re, float x_im,
                                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                               double a_re, double a_im,
                                                                               double x_re, double x_im,
                                                                               double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axmy, Plain>(a, x, y);
@@ -9149,7 +9150,7 @@ inline uint64_t ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger
   return evaluate<ternary::axmy, Plain>(a, x, y);
 }
 inline uint16_t *ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::axmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axmy, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axmy, Plain>(a, x, y);
@@ -9160,13 +9161,13 @@ inline double ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
 inline float *ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                      float a_im, float x_re, float x_im,
                                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                       double a_im, double x_re,
                                                                       double x_im, double y_re,
                                                                       double y_im) {
-  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axmy, Checked>(a, x, y);
@@ -9202,7 +9203,7 @@ inline uint64_t checked_ternary_axmy_UnsignedInteger64_UnsignedInteger64_Unsigne
 }
 inline uint16_t *checked_ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
                                                            uint16_t y) {
-  return store(result, evaluate<ternary::axmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axmy, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float checked_ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axmy, Checked>(a, x, y);
@@ -9214,13 +9215,13 @@ inline float *checked_ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(flo
                                                                              float a_re, float a_im,
                                                                              float x_re, float x_im,
                                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                               double a_re, double a_im,
                                                                               double x_re, double x_im,
                                                                               double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::ymax, Plain>(a, x, y);
@@ -9251,7 +9252,7 @@ inline uint64_t ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger
   return evaluate<ternary::ymax, Plain>(a, x, y);
 }
 inline uint16_t *ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::ymax, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::ymax, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::ymax, Plain>(a, x, y);
@@ -9262,13 +9263,13 @@ inline double ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
 inline float *ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                      float a_im, float x_re, float x_im,
                                                                      float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                       double a_im, double x_re,
                                                                       double x_im, double y_re,
                                                                       double y_im) {
-  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::ymax, Checked>(a, x, y);
@@ -9304,7 +9305,7 @@ inline uint64_t checked_ternary_ymax_UnsignedInteger64_UnsignedInteger64_Unsigne
 }
 inline uint16_t *checked_ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
                                                            uint16_t y) {
-  return store(result, evaluate<ternary::ymax, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::ymax, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float checked_ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::ymax, Checked>(a, x, y);
@@ -9316,13 +9317,13 @@ inline float *checked_ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(flo
                                                                              float a_re, float a_im,
                                                                              float x_re, float x_im,
                                                                              float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                               double a_re, double a_im,
                                                                               double x_re, double x_im,
                                                                               double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::adxmy, Plain>(a, x, y);
@@ -9353,7 +9354,7 @@ inline uint64_t ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedIntege
   return evaluate<ternary::adxmy, Plain>(a, x, y);
 }
 inline uint16_t *ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::adxmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::adxmy, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::adxmy, Plain>(a, x, y);
@@ -9364,13 +9365,13 @@ inline double ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) {
 inline float *ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                       float a_im, float x_re, float x_im,
                                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                        double a_im, double x_re,
                                                                        double x_im, double y_re,
                                                                        double y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t checked_ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::adxmy, Checked>(a, x, y);
@@ -9406,7 +9407,7 @@ inline uint64_t checked_ternary_adxmy_UnsignedInteger64_UnsignedInteger64_Unsign
 }
 inline uint16_t *checked_ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x,
                                                             uint16_t y) {
-  return store(result, evaluate<ternary::adxmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::adxmy, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 inline float checked_ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::adxmy, Checked>(a, x, y);
@@ -9418,13 +9419,13 @@ inline float *checked_ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(fl
                                                                               float a_re, float a_im,
                                                                               float x_re, float x_im,
                                                                               float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 inline double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                                double a_re, double a_im,
                                                                                double x_re, double x_im,
                                                                                double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 inline int8_t integer_safe_cast_Integer8_Integer8(int8_t x) {
   return evaluateCast<Integer8, Integer8>(x);

@@ -93,14 +93,30 @@ template <class Op, class Form, class... T> inline auto evaluate(T... x) {
   return result;
 }
 
-inline uint16_t *store(uint16_t *result, Real16 x) {
-  *result = x.bits;
-  return result;
-}
-template <class R> R *store(R *re, R *im, Complex<R> z) {
-  *re = z.re;
-  *im = z.im;
-  return re;
+// Where a result goes that comes back through leading pointers.
+struct HalfPlace {
+  uint16_t *bits;
+  uint16_t *first() const { return bits; }
+  void store(Real16 x) const { *bits = x.bits; }
+};
+template <class R> struct ComplexPlace {
+  R *re, *im;
+  R *first() const { return re; }
+  void store(Complex<R> z) const {
+    *re = z.re;
+    *im = z.im;
+  }
+};
+template <class R> ComplexPlace(R *, R *) -> ComplexPlace<R>;
+
+// The same for such a result. A call that raises stores nothing, in any style: its pointers may lead nowhere.
+template <class Op, class Form, class Place, class... T> inline auto evaluateInto(Place place, T... x) {
+  error code = error::none;
+  const auto result = compute<Op, Form>(code, x...);
+  if (code != error::none) [[unlikely]]
+    return raised(code, place.first());
+  place.store(result);
+  return place.first();
 }
 
 } // namespace torvane

@@ -4,128 +4,20 @@
 // Of every call: the plain form raises only what both forms raise; the checked form raises what the plain one
 // does, else what the cell adds for the value; without a code both forms agree to the bit. Of every cell:
 // each of its codes is met, and so is success.
-#include "scalar/half.h"
-#include "scalar/operator_traits.h"
-#include "support/raised.h"
+#include "typed_call.h"
 
-#include <array>
-#include <cmath>
-#include <cstring>
+#include "scalar/operator_traits.h"
+
 #include <gtest/gtest.h>
-#include <limits>
-#include <map>
 #include <set>
 #include <string>
 #include <torvane/scalars.h>
-#include <tuple>
 #include <vector>
 
 using namespace torvane;
 using namespace torvane::test;
 
 namespace {
-
-// ---- samples --------------------------------------------------------------------------------------
-
-template <class R> std::vector<R> realSamples() {
-  using Limits = std::numeric_limits<R>;
-  std::vector<R> values;
-  for (const R x :
-       {R(0), R(0.3), R(0.5), R(1), R(1.5), R(2), R(3), R(8), R(100), R(1000), R(3e9), Limits::denorm_min(),
-        Limits::min(), Limits::max(), Limits::infinity(), Limits::quiet_NaN()})
-    values.insert(values.end(), {x, -x});
-  return values;
-}
-
-template <class T> std::vector<T> samples() {
-  std::vector<T> values;
-  if constexpr (isComplex<T>) {
-    const std::vector<RealPartOf<T>> parts = realSamples<RealPartOf<T>>();
-    for (const auto re : parts)
-      for (const auto im : parts) values.push_back({re, im});
-  } else if constexpr (isHalf<T>) {
-    for (const float x :
-         {0.0f, 0.3f, 0.5f, 1.0f, 1.5f, 2.0f, 3.0f, 8.0f, 100.0f, 60000.0f, 1e-7f, HUGE_VALF, NAN})
-      values.insert(values.end(), {narrow(x), Real16{static_cast<uint16_t>(narrow(x).bits | 0x8000)}});
-  } else if constexpr (isReal<T>) {
-    values = realSamples<T>();
-  } else {
-    using Limits = std::numeric_limits<T>;
-    for (const T x :
-         {T(0), T(1), T(2), T(3), T(4), T(5), T(7), T(8), T(10), T(16), T(48), T(100), T(127), Limits::max(),
-          T(Limits::max() - 1), T(Limits::max() / 2 + 1), T(Limits::max() / 2), T(Limits::max() / 16)})
-      values.insert(values.end(), {x, static_cast<T>(0 - x), static_cast<T>(~x)});
-    values.push_back(Limits::min());
-  }
-  return values;
-}
-
-// Complex pairs of all samples are too many; a stride through them meets every value.
-template <class T> std::vector<T> secondSamples(size_t turn) {
-  const std::vector<T> all = samples<T>();
-  if (!isComplex<T>) return all;
-  std::vector<T> some;
-  for (size_t k = turn % 31; k < all.size(); k += 31) some.push_back(all[k]);
-  for (const T z : {T{}, all[2], all[10], all.back()}) some.push_back(z);
-  return some;
-}
-
-// ---- calls ----------------------------------------------------------------------------------------
-
-template <class T> auto partsOf(T x) {
-  if constexpr (isComplex<T>)
-    return std::tuple(x.re, x.im);
-  else if constexpr (isHalf<T>)
-    return std::tuple(x.bits);
-  else
-    return std::tuple(x);
-}
-
-struct Called {
-  mint code = 0;
-  mint valueCode = 0; // 6 or 9 for an infinite or NaN value
-  std::array<unsigned char, 16> bytes = {};
-};
-
-mint valueCodeOf(double x) { return std::isnan(x) ? 9 : std::isinf(x) ? 6 : 0; }
-
-template <class P> void note(Called &called, const P *parts, size_t count) {
-  for (size_t k = 0; k < count; ++k) {
-    double value = 0;
-    if constexpr (std::is_same_v<P, uint16_t>)
-      value = double(widen(Real16{parts[k]}));
-    else if constexpr (std::is_floating_point_v<P>)
-      value = double(parts[k]);
-    if (called.valueCode == 0) called.valueCode = valueCodeOf(value);
-  }
-  std::memcpy(called.bytes.data(), parts, count * sizeof(P));
-}
-
-template <class R, class... A, class... T> Called call(R (*entry)(A...), T... x) {
-  const auto arguments = std::tuple_cat(partsOf(x)...);
-  Called called;
-  if constexpr (std::is_pointer_v<R>) {
-    using Part = std::remove_pointer_t<R>;
-    Part parts[2] = {};
-    constexpr bool isPair = sizeof...(A) == std::tuple_size_v<decltype(arguments)> + 2;
-    called.code = raisedBy([&] {
-      if constexpr (isPair)
-        std::apply(entry, std::tuple_cat(std::tuple(parts, parts + 1), arguments));
-      else
-        std::apply(entry, std::tuple_cat(std::tuple(parts), arguments));
-    });
-    note(called, parts, isPair ? 2 : 1);
-  } else {
-    R value = 0;
-    called.code = raisedBy([&] { value = std::apply(entry, arguments); });
-    if constexpr (!std::is_same_v<R, uint16_t>) {
-      note(called, &value, 1);
-    } else {
-      std::memcpy(called.bytes.data(), &value, sizeof value);
-    }
-  }
-  return called;
-}
 
 // ---- cells ----------------------------------------------------------------------------------------
 
@@ -264,6 +156,24 @@ TEST(Checks, OfEveryTernaryCellAreMetAndNoOthers) {
   }
 #include "scalar/operators.def"
 #undef ONE
+}
+
+// Powers of two types stand in the cell of their result.
+template <class X, class Y, class Entry>
+void checkPower(const char *x, const char *y, Entry *plain, Entry *checked) {
+  Cell cell(std::string("binary_pow_") + x + "_" + y, kChecks<binary::pow, X, Y>);
+  size_t turn = 0;
+  for (const X a : samples<X>())
+    for (const Y b : secondSamples<Y>(++turn))
+      ASSERT_NO_FATAL_FAILURE(cell.meet(call(plain, a, b), call(checked, a, b)));
+}
+
+TEST(Checks, OfEveryPairOfAPowerAreThoseOfItsResult) {
+#define PAIR(X, Y) checkPower<X, Y>(#X, #Y, ENTRIES(binary_pow_##X##_##Y));
+#define ROW(X) TORVANE_FOR_EACH_SECOND_SCALAR(PAIR, X)
+  TORVANE_FOR_EACH_SCALAR(ROW)
+#undef ROW
+#undef PAIR
 }
 
 // One row of the table of checks stands for a group of functions. Not each of them has a point outside its

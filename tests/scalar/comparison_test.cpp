@@ -128,7 +128,7 @@ template <class R> bool isPairOf(R value, R x, R y, bool isMax) {
             value = isChecked ? checked_binary_unitize_##T##_##T(x, y) : binary_unitize_##T##_##T(x, y);     \
           });                                                                                                \
           ASSERT_EQ(code, y < 0 ? 14 : isChecked ? classified(x) : 0) << x << " " << y;                      \
-          if (code == 0 && x == x && y == y) ASSERT_EQ(value, std::fabs(x) >= y) << x << " " << y;           \
+          if (code == 0) ASSERT_EQ(value, std::fabs(x) >= y) << x << " " << y; /* a NaN is below */          \
         }                                                                                                    \
   }
 REAL_PAIRS(Real64, double)

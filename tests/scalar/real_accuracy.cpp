@@ -226,13 +226,14 @@ void logToBase(mpfr_ptr result, mpfr_ptr base, mpfr_ptr x) {
   mpfr_div(result, result, denominator, MPFR_RNDN);
 }
 void atan2(mpfr_ptr result, mpfr_ptr x, mpfr_ptr y) { mpfr_atan2(result, x, y, MPFR_RNDN); }
+void pow(mpfr_ptr result, mpfr_ptr x, mpfr_ptr y) { mpfr_pow(result, x, y, MPFR_RNDN); }
 
 struct PairOracle {
   const char *name;
   ExactPair exact;
   bool takesNegatives;
 };
-const PairOracle kPairOracles[] = {{"log", logToBase, false}, {"atan2", atan2, true}};
+const PairOracle kPairOracles[] = {{"log", logToBase, false}, {"atan2", atan2, true}, {"pow", pow, false}};
 
 // ---- points ----
 

@@ -59,6 +59,7 @@ inline std::vector<RealPairFunction> realPairFunctions() {
    checked_binary_##typed##_Real16_Real16},
 #include "scalar/rows/exponential.def"
 #include "scalar/rows/inverse.def"
+#include "scalar/rows/powers.def"
 #undef TORVANE_UNARY
 #undef TORVANE_BINARY
   };

@@ -383,9 +383,35 @@ TEST(RealValues, FormulasAreThoseOfTheDefinitions) {
     EXPECT_EQ(at("gudermannian", x), 2 * std::atan(std::tanh(x / 2)));
     EXPECT_EQ(at("sinc", x), std::sin(x) / x);
     EXPECT_EQ(at("logistic", x), x > 0 ? 1 / (std::exp(-x) + 1) : std::exp(x) / (std::exp(x) + 1));
+    EXPECT_EQ(at("csc", x), 1 / std::sin(x));
     EXPECT_EQ(at("sec", x), 1 / std::cos(x));
+    EXPECT_EQ(at("cot", x), 1 / std::tan(x));
+    EXPECT_EQ(at("csch", x), 1 / std::sinh(x));
+    EXPECT_EQ(at("sech", x), 1 / std::cosh(x));
+    EXPECT_EQ(at("coth", x), 1 / std::tanh(x));
+    EXPECT_EQ(at("acot", x), std::atan(1 / x));
     EXPECT_EQ(at("acsch", x), std::asinh(1 / x));
   }
+}
+
+TEST(RealValues, FormulasOfBoundedDomainsAreThoseOfTheDefinitions) {
+  for (const double x : steps(0.0078125, 1, 0.0078125))
+    for (const double sign : {1.0, -1.0}) {
+      const double beyond = sign / x;
+      EXPECT_EQ(at("acsc", beyond), std::asin(1 / beyond));
+      EXPECT_EQ(at("asec", beyond), std::acos(1 / beyond));
+      EXPECT_EQ(at("acoth", beyond), std::atanh(1 / beyond));
+      EXPECT_EQ(at("asech", x), std::acosh(1 / x));
+      EXPECT_EQ(at("rsqrt", x), 1 / std::sqrt(x));
+      EXPECT_EQ(at("inversehaversine", x), 2 * std::asin(std::sqrt(x)));
+      EXPECT_EQ(at("inversegudermannian", sign * x), 2 * std::atanh(std::tan(sign * x / 2)));
+    }
+}
+
+TEST(RealValues, LogarithmToABaseIsTheQuotientOfTwo) {
+  for (const double base : steps(0.125, 12, 0.375))
+    for (const double x : steps(0.0625, 20, 0.4375))
+      EXPECT_EQ(at("log", base, x), std::log(x) / std::log(base)) << base << " " << x;
 }
 
 // Every pattern: the Real32 function of the widened value, cut off; the checked form classifies what is left.

@@ -210,6 +210,26 @@ TEST(Remainder, NeverEqualsTheDivisor) {
   EXPECT_EQ(binary_mod_Real64_Real64(1e-20, -3.0), 0.0);
 }
 
+// An infinite divisor keeps what has its sign; else the sum is the divisor itself, which becomes 0. A remainder
+// of 0 keeps the dividend's sign.
+template <class R> void expectSignedRemainders(R (*mod)(R, R)) {
+  const R infinity = std::numeric_limits<R>::infinity();
+  EXPECT_EQ(mod(R(1), infinity), R(1));
+  EXPECT_EQ(mod(R(-1), -infinity), R(-1));
+  EXPECT_TRUE(sameReal(mod(R(-1), infinity), R(0)));
+  EXPECT_TRUE(sameReal(mod(R(1), -infinity), R(0)));
+  EXPECT_TRUE(sameReal(mod(R(-6), R(3)), R(-0.0)));
+  EXPECT_TRUE(sameReal(mod(R(6), R(-3)), R(0)));
+  EXPECT_TRUE(sameReal(mod(R(-0.0), R(3)), R(-0.0)));
+}
+
+TEST(Remainder, OfInfiniteDivisorsAndOfZero) {
+  expectSignedRemainders<double>(binary_mod_Real64_Real64);
+  expectSignedRemainders<double>(checked_binary_mod_Real64_Real64);
+  expectSignedRemainders<float>(binary_mod_Real32_Real32);
+  EXPECT_EQ(binary_mod_Real64_Real64(-1e-20, 1.0), 0.0);
+}
+
 // A checked remainder of reals tests nothing but the divisor.
 TEST(Remainder, OfRealsPassesNaNs) {
   double r = 0;

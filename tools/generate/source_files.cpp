@@ -38,7 +38,8 @@ void writeUnits(Files &files, const std::string &folder, const std::string &incl
 // The entries once more as inline functions of a namespace, over the very bodies that the library compiles.
 void writeInlineHeader(Files &files, const std::vector<ExportGroup> &entries) {
   std::string text = std::string("// The typed entries as inline functions, for C++20: torvane::inlined::<name> is the export <name>.\n"
-                                 "// A failing one still raises through the library.\n//\n// ") +
+                                 "// A failing one still raises through the library. To give the export's values to the bit, compile\n"
+                                 "// with -ffp-contract=off: a fused product is not rounded.\n//\n// ") +
                      kGeneratedNote +
                      "\n#ifndef TORVANE_SCALARS_INLINE_HPP\n#define TORVANE_SCALARS_INLINE_HPP\n\n";
   std::string family;
@@ -60,12 +61,12 @@ void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries) {
       " *\n * Integers, Real32 and Real64 pass and return by value. Real16 passes as its 16-bit pattern and\n"
       " * comes back through a leading pointer, which is also returned. Complexes pass as (re, im) and come\n"
       " * back through leading pointers to the two parts, the first of which is returned. Results may share\n"
-      " * storage with nothing. A failing entry raises its code (failure.h) and in style 1 returns an\n"
-      " * arbitrary value. Codes before a semicolon are raised by both forms; codes 1 of checked forms "
-      "stand\n"
-      " * for a result outside its integer type or equal to the most negative value, 6 and 9 for an "
-      "infinite\n"
-      " * and a NaN result. All entries are pure and may be called from any thread.",
+      " * storage with nothing. A failing entry raises its code (failure.h) and stores nothing; in style 1 it\n"
+      " * returns an arbitrary value, or its first pointer. Codes before a semicolon are raised by both forms;\n"
+      " * codes 1 of checked forms stand for a result outside its integer type or equal to the most negative\n"
+      " * value, 6 and 9 for an infinite and a NaN result. All entries are pure and may be called from any\n"
+      " * thread. Compilers that inline them find the same entries in scalars_inline.hpp (C++20) and, as LLVM\n"
+      " * bitcode, in torvane_scalars.bc.",
       entries);
   writeUnits(files, "src/scalar", "", "scalars.h", entries);
   writeInlineHeader(files, entries);

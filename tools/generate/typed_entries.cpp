@@ -42,16 +42,17 @@ const ScalarType kScalarTypes[] = {
 
 // ---- operands and results -----------------------------------------------------------------------
 
-void addOperand(DerivedExport &entry, const ScalarType &type, const std::string &name) {
+void addOperand(DerivedExport &entry, std::string &arguments, const ScalarType &type,
+                const std::string &name) {
   auto &parameters = entry.signature.parameters;
-  entry.definition += ", ";
+  arguments += ", ";
   if (type.typeClass == TypeClass::complex) {
     parameters.push_back({type.part, name + "_re"});
     parameters.push_back({type.part, name + "_im"});
-    entry.definition += type.name + "{" + name + "_re, " + name + "_im}";
+    arguments += type.name + "{" + name + "_re, " + name + "_im}";
   } else {
     parameters.push_back({type.part, name});
-    entry.definition += type.isPattern ? "Real16{" + name + "}" : name;
+    arguments += type.isPattern ? "Real16{" + name + "}" : name;
   }
 }
 
@@ -94,50 +95,52 @@ bool yieldsWord(TypedResult rule, const ScalarType &type) {
   return false;
 }
 
-// Sets the result's convention: by value, or through leading pointers the first of which comes back.
-void setResult(DerivedExport &entry, const ScalarType &type) {
+// Sets the result's convention, by value or through leading pointers the first of which comes back, and the
+// body by it. `functor` is that of the call with its form, `operands` has a comma before each.
+void setResult(DerivedExport &entry, const ScalarType &type, const std::string &functor,
+               const std::string &operands) {
   Signature &signature = entry.signature;
   const Type pointer = {type.part.c + " *", "ptr", ""};
   if (type.typeClass == TypeClass::complex) {
     signature.result = pointer;
     signature.parameters.insert(signature.parameters.begin(), {{pointer, "re"}, {pointer, "im"}});
-    entry.definition = "return store(re, im, " + entry.definition + ");";
+    entry.definition = "return evaluateInto<" + functor + ">(ComplexPlace{re, im}" + operands + ");";
   } else if (type.isPattern) {
     signature.result = pointer;
     signature.parameters.insert(signature.parameters.begin(), {pointer, "result"});
-    entry.definition = "return store(result, " + entry.definition + ");";
+    entry.definition = "return evaluateInto<" + functor + ">(HalfPlace{result}" + operands + ");";
   } else {
     signature.result = type.part;
-    entry.definition = "return " + entry.definition + ";";
+    entry.definition = "return evaluate<" + functor + ">(" + operands.substr(2) + ");";
   }
 }
+
+const ScalarType kWordType = {"", kWord, TypeClass::signedInteger, false, 4};
 
 struct Operand {
   const ScalarType *type;
   const char *name;
 };
 
+const ScalarType &resultType(TypedResult rule, const std::vector<Operand> &operands) {
+  const ScalarType &type = *operands[0].type;
+  if (yieldsWord(rule, type)) return kWordType;
+  if (rule == TypedResult::realPart) return realPartOf(type);
+  return rule == TypedResult::power ? powerType(type, *operands[1].type) : type;
+}
+
 DerivedExport makeEntry(const char *arity, const char *typed, TypedResult rule, bool checked,
                         const std::vector<Operand> &operands) {
   DerivedExport entry;
   entry.signature.family = "typed";
   entry.signature.name = std::string(checked ? "checked_" : "") + arity + "_" + typed;
+  std::string arguments;
   for (const Operand &operand : operands) {
     entry.signature.name += "_" + operand.type->name;
-    addOperand(entry, *operand.type, operand.name);
+    addOperand(entry, arguments, *operand.type, operand.name);
   }
-  const std::string functor = std::string(arity) + "::" + typed;
-  entry.definition = "evaluate<" + functor + ", " + (checked ? "Checked" : "Plain") + ">(" +
-                     entry.definition.substr(2) + ")";
-  const ScalarType &type = *operands[0].type;
-  if (yieldsWord(rule, type)) {
-    entry.signature.result = kWord;
-    entry.definition = "return " + entry.definition + ";";
-  } else if (rule == TypedResult::realPart) {
-    setResult(entry, realPartOf(type));
-  } else {
-    setResult(entry, rule == TypedResult::power ? powerType(type, *operands[1].type) : type);
-  }
+  const std::string functor = std::string(arity) + "::" + typed + (checked ? ", Checked" : ", Plain");
+  setResult(entry, resultType(rule, operands), functor, arguments);
   return entry;
 }
 

@@ -29,7 +29,7 @@ uint64_t unary_minus_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::minus, Plain>(x);
 }
 uint16_t *unary_minus_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::minus, Plain>(Real16{x}));
+  return evaluateInto<unary::minus, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_minus_Real32(float x) {
   return evaluate<unary::minus, Plain>(x);
@@ -38,10 +38,10 @@ double unary_minus_Real64(double x) {
   return evaluate<unary::minus, Plain>(x);
 }
 float *unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::minus, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::minus, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::minus, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::minus, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_minus_Integer8(int8_t x) {
   return evaluate<unary::minus, Checked>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_minus_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::minus, Checked>(x);
 }
 uint16_t *checked_unary_minus_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::minus, Checked>(Real16{x}));
+  return evaluateInto<unary::minus, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_minus_Real32(float x) {
   return evaluate<unary::minus, Checked>(x);
@@ -77,10 +77,10 @@ double checked_unary_minus_Real64(double x) {
   return evaluate<unary::minus, Checked>(x);
 }
 float *checked_unary_minus_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::minus, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::minus, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_minus_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::minus, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::minus, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_square_Integer8(int8_t x) {
@@ -108,7 +108,7 @@ uint64_t unary_square_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::square, Plain>(x);
 }
 uint16_t *unary_square_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::square, Plain>(Real16{x}));
+  return evaluateInto<unary::square, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_square_Real32(float x) {
   return evaluate<unary::square, Plain>(x);
@@ -117,10 +117,10 @@ double unary_square_Real64(double x) {
   return evaluate<unary::square, Plain>(x);
 }
 float *unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::square, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::square, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::square, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::square, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_square_Integer8(int8_t x) {
   return evaluate<unary::square, Checked>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_square_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::square, Checked>(x);
 }
 uint16_t *checked_unary_square_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::square, Checked>(Real16{x}));
+  return evaluateInto<unary::square, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_square_Real32(float x) {
   return evaluate<unary::square, Checked>(x);
@@ -156,10 +156,10 @@ double checked_unary_square_Real64(double x) {
   return evaluate<unary::square, Checked>(x);
 }
 float *checked_unary_square_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::square, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::square, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_square_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::square, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::square, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_recip_Integer8(int8_t x) {
@@ -187,7 +187,7 @@ uint64_t unary_recip_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::recip, Plain>(x);
 }
 uint16_t *unary_recip_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::recip, Plain>(Real16{x}));
+  return evaluateInto<unary::recip, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_recip_Real32(float x) {
   return evaluate<unary::recip, Plain>(x);
@@ -196,10 +196,10 @@ double unary_recip_Real64(double x) {
   return evaluate<unary::recip, Plain>(x);
 }
 float *unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::recip, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::recip, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::recip, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_recip_Integer8(int8_t x) {
   return evaluate<unary::recip, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_recip_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::recip, Checked>(x);
 }
 uint16_t *checked_unary_recip_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::recip, Checked>(Real16{x}));
+  return evaluateInto<unary::recip, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_recip_Real32(float x) {
   return evaluate<unary::recip, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_recip_Real64(double x) {
   return evaluate<unary::recip, Checked>(x);
 }
 float *checked_unary_recip_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::recip, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_recip_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::recip, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::recip, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
@@ -266,7 +266,7 @@ uint64_t binary_plus_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y)
   return evaluate<binary::plus, Plain>(x, y);
 }
 uint16_t *binary_plus_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::plus, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::plus, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_plus_Real32_Real32(float x, float y) {
   return evaluate<binary::plus, Plain>(x, y);
@@ -276,11 +276,11 @@ double binary_plus_Real64_Real64(double x, double y) {
 }
 float *binary_plus_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                float y_im) {
-  return store(re, im, evaluate<binary::plus, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::plus, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_plus_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                 double y_re, double y_im) {
-  return store(re, im, evaluate<binary::plus, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::plus, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_plus_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::plus, Checked>(x, y);
@@ -307,7 +307,7 @@ uint64_t checked_binary_plus_UnsignedInteger64_UnsignedInteger64(uint64_t x, uin
   return evaluate<binary::plus, Checked>(x, y);
 }
 uint16_t *checked_binary_plus_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::plus, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::plus, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_plus_Real32_Real32(float x, float y) {
   return evaluate<binary::plus, Checked>(x, y);
@@ -317,11 +317,11 @@ double checked_binary_plus_Real64_Real64(double x, double y) {
 }
 float *checked_binary_plus_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                        float y_re, float y_im) {
-  return store(re, im, evaluate<binary::plus, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::plus, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_plus_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<binary::plus, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::plus, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_subtract_Integer8_Integer8(int8_t x, int8_t y) {
@@ -349,7 +349,7 @@ uint64_t binary_subtract_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_
   return evaluate<binary::subtract, Plain>(x, y);
 }
 uint16_t *binary_subtract_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::subtract, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::subtract, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_subtract_Real32_Real32(float x, float y) {
   return evaluate<binary::subtract, Plain>(x, y);
@@ -359,11 +359,11 @@ double binary_subtract_Real64_Real64(double x, double y) {
 }
 float *binary_subtract_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                    float y_re, float y_im) {
-  return store(re, im, evaluate<binary::subtract, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::subtract, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_subtract_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                     double y_re, double y_im) {
-  return store(re, im, evaluate<binary::subtract, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::subtract, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_subtract_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::subtract, Checked>(x, y);
@@ -390,7 +390,7 @@ uint64_t checked_binary_subtract_UnsignedInteger64_UnsignedInteger64(uint64_t x,
   return evaluate<binary::subtract, Checked>(x, y);
 }
 uint16_t *checked_binary_subtract_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::subtract, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::subtract, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_subtract_Real32_Real32(float x, float y) {
   return evaluate<binary::subtract, Checked>(x, y);
@@ -400,11 +400,11 @@ double checked_binary_subtract_Real64_Real64(double x, double y) {
 }
 float *checked_binary_subtract_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                            float y_re, float y_im) {
-  return store(re, im, evaluate<binary::subtract, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::subtract, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_subtract_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                             double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::subtract, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::subtract, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_times_Integer8_Integer8(int8_t x, int8_t y) {
@@ -432,7 +432,7 @@ uint64_t binary_times_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y
   return evaluate<binary::times, Plain>(x, y);
 }
 uint16_t *binary_times_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::times, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::times, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_times_Real32_Real32(float x, float y) {
   return evaluate<binary::times, Plain>(x, y);
@@ -442,11 +442,11 @@ double binary_times_Real64_Real64(double x, double y) {
 }
 float *binary_times_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                 float y_im) {
-  return store(re, im, evaluate<binary::times, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::times, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_times_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                  double y_re, double y_im) {
-  return store(re, im, evaluate<binary::times, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::times, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_times_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::times, Checked>(x, y);
@@ -473,7 +473,7 @@ uint64_t checked_binary_times_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::times, Checked>(x, y);
 }
 uint16_t *checked_binary_times_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::times, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::times, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_times_Real32_Real32(float x, float y) {
   return evaluate<binary::times, Checked>(x, y);
@@ -483,11 +483,11 @@ double checked_binary_times_Real64_Real64(double x, double y) {
 }
 float *checked_binary_times_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::times, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::times, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_times_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::times, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::times, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_divide_Integer8_Integer8(int8_t x, int8_t y) {
@@ -515,7 +515,7 @@ uint64_t binary_divide_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::divide, Plain>(x, y);
 }
 uint16_t *binary_divide_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::divide, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::divide, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_divide_Real32_Real32(float x, float y) {
   return evaluate<binary::divide, Plain>(x, y);
@@ -525,11 +525,11 @@ double binary_divide_Real64_Real64(double x, double y) {
 }
 float *binary_divide_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::divide, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::divide, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_divide_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::divide, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::divide, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_divide_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::divide, Checked>(x, y);
@@ -556,7 +556,7 @@ uint64_t checked_binary_divide_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::divide, Checked>(x, y);
 }
 uint16_t *checked_binary_divide_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::divide, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::divide, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_divide_Real32_Real32(float x, float y) {
   return evaluate<binary::divide, Checked>(x, y);
@@ -566,11 +566,11 @@ double checked_binary_divide_Real64_Real64(double x, double y) {
 }
 float *checked_binary_divide_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::divide, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::divide, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_divide_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::divide, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::divide, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
@@ -601,7 +601,7 @@ uint64_t ternary_axpy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint
   return evaluate<ternary::axpy, Plain>(a, x, y);
 }
 uint16_t *ternary_axpy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::axpy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axpy, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float ternary_axpy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axpy, Plain>(a, x, y);
@@ -612,12 +612,12 @@ double ternary_axpy_Real64_Real64_Real64(double a, double x, double y) {
 float *ternary_axpy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re, float a_im,
                                                               float x_re, float x_im, float y_re,
                                                               float y_im) {
-  return store(re, im, evaluate<ternary::axpy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                double a_im, double x_re, double x_im,
                                                                double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::axpy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_ternary_axpy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axpy, Checked>(a, x, y);
@@ -648,7 +648,7 @@ uint64_t checked_ternary_axpy_UnsignedInteger64_UnsignedInteger64_UnsignedIntege
   return evaluate<ternary::axpy, Checked>(a, x, y);
 }
 uint16_t *checked_ternary_axpy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::axpy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axpy, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float checked_ternary_axpy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axpy, Checked>(a, x, y);
@@ -659,13 +659,13 @@ double checked_ternary_axpy_Real64_Real64_Real64(double a, double x, double y) {
 float *checked_ternary_axpy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                       float a_im, float x_re, float x_im,
                                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_ternary_axpy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                        double a_im, double x_re,
                                                                        double x_im, double y_re,
                                                                        double y_im) {
-  return store(re, im, evaluate<ternary::axpy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axpy, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
@@ -696,7 +696,7 @@ uint64_t ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint
   return evaluate<ternary::axmy, Plain>(a, x, y);
 }
 uint16_t *ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::axmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axmy, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axmy, Plain>(a, x, y);
@@ -707,12 +707,12 @@ double ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
 float *ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re, float a_im,
                                                               float x_re, float x_im, float y_re,
                                                               float y_im) {
-  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                double a_im, double x_re, double x_im,
                                                                double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::axmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_ternary_axmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::axmy, Checked>(a, x, y);
@@ -743,7 +743,7 @@ uint64_t checked_ternary_axmy_UnsignedInteger64_UnsignedInteger64_UnsignedIntege
   return evaluate<ternary::axmy, Checked>(a, x, y);
 }
 uint16_t *checked_ternary_axmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::axmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::axmy, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float checked_ternary_axmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::axmy, Checked>(a, x, y);
@@ -754,13 +754,13 @@ double checked_ternary_axmy_Real64_Real64_Real64(double a, double x, double y) {
 float *checked_ternary_axmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                       float a_im, float x_re, float x_im,
                                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_ternary_axmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                        double a_im, double x_re,
                                                                        double x_im, double y_re,
                                                                        double y_im) {
-  return store(re, im, evaluate<ternary::axmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::axmy, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
@@ -791,7 +791,7 @@ uint64_t ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uint
   return evaluate<ternary::ymax, Plain>(a, x, y);
 }
 uint16_t *ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::ymax, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::ymax, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::ymax, Plain>(a, x, y);
@@ -802,12 +802,12 @@ double ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
 float *ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re, float a_im,
                                                               float x_re, float x_im, float y_re,
                                                               float y_im) {
-  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                double a_im, double x_re, double x_im,
                                                                double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::ymax, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_ternary_ymax_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::ymax, Checked>(a, x, y);
@@ -838,7 +838,7 @@ uint64_t checked_ternary_ymax_UnsignedInteger64_UnsignedInteger64_UnsignedIntege
   return evaluate<ternary::ymax, Checked>(a, x, y);
 }
 uint16_t *checked_ternary_ymax_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::ymax, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::ymax, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float checked_ternary_ymax_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::ymax, Checked>(a, x, y);
@@ -849,13 +849,13 @@ double checked_ternary_ymax_Real64_Real64_Real64(double a, double x, double y) {
 float *checked_ternary_ymax_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                       float a_im, float x_re, float x_im,
                                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_ternary_ymax_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                        double a_im, double x_re,
                                                                        double x_im, double y_re,
                                                                        double y_im) {
-  return store(re, im, evaluate<ternary::ymax, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::ymax, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
@@ -886,7 +886,7 @@ uint64_t ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteger64(uin
   return evaluate<ternary::adxmy, Plain>(a, x, y);
 }
 uint16_t *ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::adxmy, Plain>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::adxmy, Plain>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::adxmy, Plain>(a, x, y);
@@ -897,12 +897,12 @@ double ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) {
 float *ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                float a_im, float x_re, float x_im,
                                                                float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Plain>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im, double a_re,
                                                                 double a_im, double x_re, double x_im,
                                                                 double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Plain>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Plain>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_ternary_adxmy_Integer8_Integer8_Integer8(int8_t a, int8_t x, int8_t y) {
   return evaluate<ternary::adxmy, Checked>(a, x, y);
@@ -936,7 +936,7 @@ uint64_t checked_ternary_adxmy_UnsignedInteger64_UnsignedInteger64_UnsignedInteg
   return evaluate<ternary::adxmy, Checked>(a, x, y);
 }
 uint16_t *checked_ternary_adxmy_Real16_Real16_Real16(uint16_t *result, uint16_t a, uint16_t x, uint16_t y) {
-  return store(result, evaluate<ternary::adxmy, Checked>(Real16{a}, Real16{x}, Real16{y}));
+  return evaluateInto<ternary::adxmy, Checked>(HalfPlace{result}, Real16{a}, Real16{x}, Real16{y});
 }
 float checked_ternary_adxmy_Real32_Real32_Real32(float a, float x, float y) {
   return evaluate<ternary::adxmy, Checked>(a, x, y);
@@ -947,11 +947,11 @@ double checked_ternary_adxmy_Real64_Real64_Real64(double a, double x, double y) 
 float *checked_ternary_adxmy_ComplexReal32_ComplexReal32_ComplexReal32(float *re, float *im, float a_re,
                                                                        float a_im, float x_re, float x_im,
                                                                        float y_re, float y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Checked>(ComplexPlace{re, im}, ComplexReal32{a_re, a_im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_ternary_adxmy_ComplexReal64_ComplexReal64_ComplexReal64(double *re, double *im,
                                                                         double a_re, double a_im,
                                                                         double x_re, double x_im,
                                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<ternary::adxmy, Checked>(ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<ternary::adxmy, Checked>(ComplexPlace{re, im}, ComplexReal64{a_re, a_im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }

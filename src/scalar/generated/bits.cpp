@@ -187,7 +187,7 @@ uint64_t unary_bit_not_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::bit_not, Plain>(x);
 }
 uint16_t *unary_bit_not_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::bit_not, Plain>(Real16{x}));
+  return evaluateInto<unary::bit_not, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_bit_not_Real32(float x) {
   return evaluate<unary::bit_not, Plain>(x);
@@ -196,10 +196,10 @@ double unary_bit_not_Real64(double x) {
   return evaluate<unary::bit_not, Plain>(x);
 }
 float *unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::bit_not, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::bit_not, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_bit_not_Integer8(int8_t x) {
   return evaluate<unary::bit_not, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_bit_not_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::bit_not, Checked>(x);
 }
 uint16_t *checked_unary_bit_not_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::bit_not, Checked>(Real16{x}));
+  return evaluateInto<unary::bit_not, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_bit_not_Real32(float x) {
   return evaluate<unary::bit_not, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_bit_not_Real64(double x) {
   return evaluate<unary::bit_not, Checked>(x);
 }
 float *checked_unary_bit_not_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::bit_not, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_bit_not_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::bit_not, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::bit_not, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 mint unary_bit_length_Integer8(int8_t x) {
@@ -424,7 +424,7 @@ uint64_t binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t
   return evaluate<binary::bit_and, Plain>(x, y);
 }
 uint16_t *binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_and, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_and, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_bit_and_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_and, Plain>(x, y);
@@ -434,11 +434,11 @@ double binary_bit_and_Real64_Real64(double x, double y) {
 }
 float *binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                   float y_im) {
-  return store(re, im, evaluate<binary::bit_and, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                    double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_and, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_bit_and_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_and, Checked>(x, y);
@@ -465,7 +465,7 @@ uint64_t checked_binary_bit_and_UnsignedInteger64_UnsignedInteger64(uint64_t x, 
   return evaluate<binary::bit_and, Checked>(x, y);
 }
 uint16_t *checked_binary_bit_and_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_and, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_and, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_bit_and_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_and, Checked>(x, y);
@@ -475,11 +475,11 @@ double checked_binary_bit_and_Real64_Real64(double x, double y) {
 }
 float *checked_binary_bit_and_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                           float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_and, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_bit_and_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                            double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_and, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_and, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_bit_or_Integer8_Integer8(int8_t x, int8_t y) {
@@ -507,7 +507,7 @@ uint64_t binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::bit_or, Plain>(x, y);
 }
 uint16_t *binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_or, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_or, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_bit_or_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_or, Plain>(x, y);
@@ -517,11 +517,11 @@ double binary_bit_or_Real64_Real64(double x, double y) {
 }
 float *binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::bit_or, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_or, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_bit_or_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_or, Checked>(x, y);
@@ -548,7 +548,7 @@ uint64_t checked_binary_bit_or_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::bit_or, Checked>(x, y);
 }
 uint16_t *checked_binary_bit_or_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_or, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_or, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_bit_or_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_or, Checked>(x, y);
@@ -558,11 +558,11 @@ double checked_binary_bit_or_Real64_Real64(double x, double y) {
 }
 float *checked_binary_bit_or_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_or, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_bit_or_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_or, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_or, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y) {
@@ -590,7 +590,7 @@ uint64_t binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t
   return evaluate<binary::bit_xor, Plain>(x, y);
 }
 uint16_t *binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_xor, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_xor, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_bit_xor_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_xor, Plain>(x, y);
@@ -600,11 +600,11 @@ double binary_bit_xor_Real64_Real64(double x, double y) {
 }
 float *binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                   float y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                    double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_bit_xor_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_xor, Checked>(x, y);
@@ -631,7 +631,7 @@ uint64_t checked_binary_bit_xor_UnsignedInteger64_UnsignedInteger64(uint64_t x, 
   return evaluate<binary::bit_xor, Checked>(x, y);
 }
 uint16_t *checked_binary_bit_xor_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_xor, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_xor, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_bit_xor_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_xor, Checked>(x, y);
@@ -641,11 +641,11 @@ double checked_binary_bit_xor_Real64_Real64(double x, double y) {
 }
 float *checked_binary_bit_xor_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                           float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_bit_xor_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                            double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_xor, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_xor, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_intexp_Integer8_Integer8(int8_t x, int8_t y) {
@@ -673,7 +673,7 @@ uint64_t binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::intexp, Plain>(x, y);
 }
 uint16_t *binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intexp, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intexp, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_intexp_Real32_Real32(float x, float y) {
   return evaluate<binary::intexp, Plain>(x, y);
@@ -683,11 +683,11 @@ double binary_intexp_Real64_Real64(double x, double y) {
 }
 float *binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::intexp, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intexp, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intexp, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intexp, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_intexp_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::intexp, Checked>(x, y);
@@ -714,7 +714,7 @@ uint64_t checked_binary_intexp_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::intexp, Checked>(x, y);
 }
 uint16_t *checked_binary_intexp_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intexp, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intexp, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_intexp_Real32_Real32(float x, float y) {
   return evaluate<binary::intexp, Checked>(x, y);
@@ -724,11 +724,11 @@ double checked_binary_intexp_Real64_Real64(double x, double y) {
 }
 float *checked_binary_intexp_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::intexp, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intexp, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_intexp_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intexp, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intexp, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_intlen_Integer8_Integer8(int8_t x, int8_t y) {
@@ -756,7 +756,7 @@ uint64_t binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::intlen, Plain>(x, y);
 }
 uint16_t *binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intlen, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intlen, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_intlen_Real32_Real32(float x, float y) {
   return evaluate<binary::intlen, Plain>(x, y);
@@ -766,11 +766,11 @@ double binary_intlen_Real64_Real64(double x, double y) {
 }
 float *binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::intlen, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intlen, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intlen, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intlen, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_intlen_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::intlen, Checked>(x, y);
@@ -797,7 +797,7 @@ uint64_t checked_binary_intlen_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::intlen, Checked>(x, y);
 }
 uint16_t *checked_binary_intlen_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::intlen, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::intlen, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_intlen_Real32_Real32(float x, float y) {
   return evaluate<binary::intlen, Checked>(x, y);
@@ -807,11 +807,11 @@ double checked_binary_intlen_Real64_Real64(double x, double y) {
 }
 float *checked_binary_intlen_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::intlen, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::intlen, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_intlen_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::intlen, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::intlen, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y) {
@@ -839,7 +839,7 @@ uint64_t binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::bit_shiftleft, Plain>(x, y);
 }
 uint16_t *binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftleft, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftleft, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_bit_shiftleft_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftleft, Plain>(x, y);
@@ -849,11 +849,11 @@ double binary_bit_shiftleft_Real64_Real64(double x, double y) {
 }
 float *binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_bit_shiftleft_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_shiftleft, Checked>(x, y);
@@ -880,7 +880,7 @@ uint64_t checked_binary_bit_shiftleft_UnsignedInteger64_UnsignedInteger64(uint64
   return evaluate<binary::bit_shiftleft, Checked>(x, y);
 }
 uint16_t *checked_binary_bit_shiftleft_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftleft, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftleft, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_bit_shiftleft_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftleft, Checked>(x, y);
@@ -890,11 +890,11 @@ double checked_binary_bit_shiftleft_Real64_Real64(double x, double y) {
 }
 float *checked_binary_bit_shiftleft_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                 float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_bit_shiftleft_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                  double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftleft, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftleft, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y) {
@@ -922,7 +922,7 @@ uint64_t binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::bit_shiftright, Plain>(x, y);
 }
 uint16_t *binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftright, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftright, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_bit_shiftright_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftright, Plain>(x, y);
@@ -932,11 +932,11 @@ double binary_bit_shiftright_Real64_Real64(double x, double y) {
 }
 float *binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_bit_shiftright_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::bit_shiftright, Checked>(x, y);
@@ -963,7 +963,7 @@ uint64_t checked_binary_bit_shiftright_UnsignedInteger64_UnsignedInteger64(uint6
   return evaluate<binary::bit_shiftright, Checked>(x, y);
 }
 uint16_t *checked_binary_bit_shiftright_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::bit_shiftright, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::bit_shiftright, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_bit_shiftright_Real32_Real32(float x, float y) {
   return evaluate<binary::bit_shiftright, Checked>(x, y);
@@ -973,9 +973,9 @@ double checked_binary_bit_shiftright_Real64_Real64(double x, double y) {
 }
 float *checked_binary_bit_shiftright_ComplexReal32_ComplexReal32(float *re, float *im, float x_re,
                                                                  float x_im, float y_re, float y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_bit_shiftright_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                                   double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::bit_shiftright, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::bit_shiftright, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }

@@ -29,7 +29,7 @@ uint64_t unary_sin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sin, Plain>(x);
 }
 uint16_t *unary_sin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sin, Plain>(Real16{x}));
+  return evaluateInto<unary::sin, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_sin_Real32(float x) {
   return evaluate<unary::sin, Plain>(x);
@@ -38,10 +38,10 @@ double unary_sin_Real64(double x) {
   return evaluate<unary::sin, Plain>(x);
 }
 float *unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sin, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sin, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sin, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sin, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_sin_Integer8(int8_t x) {
   return evaluate<unary::sin, Checked>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_sin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sin, Checked>(x);
 }
 uint16_t *checked_unary_sin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sin, Checked>(Real16{x}));
+  return evaluateInto<unary::sin, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_sin_Real32(float x) {
   return evaluate<unary::sin, Checked>(x);
@@ -77,10 +77,10 @@ double checked_unary_sin_Real64(double x) {
   return evaluate<unary::sin, Checked>(x);
 }
 float *checked_unary_sin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sin, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sin, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sin, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sin, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_cos_Integer8(int8_t x) {
@@ -108,7 +108,7 @@ uint64_t unary_cos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cos, Plain>(x);
 }
 uint16_t *unary_cos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cos, Plain>(Real16{x}));
+  return evaluateInto<unary::cos, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_cos_Real32(float x) {
   return evaluate<unary::cos, Plain>(x);
@@ -117,10 +117,10 @@ double unary_cos_Real64(double x) {
   return evaluate<unary::cos, Plain>(x);
 }
 float *unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cos, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cos, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cos, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cos, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_cos_Integer8(int8_t x) {
   return evaluate<unary::cos, Checked>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_cos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cos, Checked>(x);
 }
 uint16_t *checked_unary_cos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cos, Checked>(Real16{x}));
+  return evaluateInto<unary::cos, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_cos_Real32(float x) {
   return evaluate<unary::cos, Checked>(x);
@@ -156,10 +156,10 @@ double checked_unary_cos_Real64(double x) {
   return evaluate<unary::cos, Checked>(x);
 }
 float *checked_unary_cos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cos, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cos, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_cos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cos, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cos, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_tan_Integer8(int8_t x) {
@@ -187,7 +187,7 @@ uint64_t unary_tan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tan, Plain>(x);
 }
 uint16_t *unary_tan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tan, Plain>(Real16{x}));
+  return evaluateInto<unary::tan, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_tan_Real32(float x) {
   return evaluate<unary::tan, Plain>(x);
@@ -196,10 +196,10 @@ double unary_tan_Real64(double x) {
   return evaluate<unary::tan, Plain>(x);
 }
 float *unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tan, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tan, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tan, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tan, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_tan_Integer8(int8_t x) {
   return evaluate<unary::tan, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_tan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tan, Checked>(x);
 }
 uint16_t *checked_unary_tan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tan, Checked>(Real16{x}));
+  return evaluateInto<unary::tan, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_tan_Real32(float x) {
   return evaluate<unary::tan, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_tan_Real64(double x) {
   return evaluate<unary::tan, Checked>(x);
 }
 float *checked_unary_tan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tan, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tan, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_tan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tan, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tan, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_csc_Integer8(int8_t x) {
@@ -266,7 +266,7 @@ uint64_t unary_csc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csc, Plain>(x);
 }
 uint16_t *unary_csc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csc, Plain>(Real16{x}));
+  return evaluateInto<unary::csc, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_csc_Real32(float x) {
   return evaluate<unary::csc, Plain>(x);
@@ -275,10 +275,10 @@ double unary_csc_Real64(double x) {
   return evaluate<unary::csc, Plain>(x);
 }
 float *unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_csc_Integer8(int8_t x) {
   return evaluate<unary::csc, Checked>(x);
@@ -305,7 +305,7 @@ uint64_t checked_unary_csc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csc, Checked>(x);
 }
 uint16_t *checked_unary_csc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csc, Checked>(Real16{x}));
+  return evaluateInto<unary::csc, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_csc_Real32(float x) {
   return evaluate<unary::csc, Checked>(x);
@@ -314,10 +314,10 @@ double checked_unary_csc_Real64(double x) {
   return evaluate<unary::csc, Checked>(x);
 }
 float *checked_unary_csc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_csc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_sec_Integer8(int8_t x) {
@@ -345,7 +345,7 @@ uint64_t unary_sec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sec, Plain>(x);
 }
 uint16_t *unary_sec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sec, Plain>(Real16{x}));
+  return evaluateInto<unary::sec, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_sec_Real32(float x) {
   return evaluate<unary::sec, Plain>(x);
@@ -354,10 +354,10 @@ double unary_sec_Real64(double x) {
   return evaluate<unary::sec, Plain>(x);
 }
 float *unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sec, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sec, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sec, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sec, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_sec_Integer8(int8_t x) {
   return evaluate<unary::sec, Checked>(x);
@@ -384,7 +384,7 @@ uint64_t checked_unary_sec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sec, Checked>(x);
 }
 uint16_t *checked_unary_sec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sec, Checked>(Real16{x}));
+  return evaluateInto<unary::sec, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_sec_Real32(float x) {
   return evaluate<unary::sec, Checked>(x);
@@ -393,10 +393,10 @@ double checked_unary_sec_Real64(double x) {
   return evaluate<unary::sec, Checked>(x);
 }
 float *checked_unary_sec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sec, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sec, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sec, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sec, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_cot_Integer8(int8_t x) {
@@ -424,7 +424,7 @@ uint64_t unary_cot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cot, Plain>(x);
 }
 uint16_t *unary_cot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cot, Plain>(Real16{x}));
+  return evaluateInto<unary::cot, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_cot_Real32(float x) {
   return evaluate<unary::cot, Plain>(x);
@@ -433,10 +433,10 @@ double unary_cot_Real64(double x) {
   return evaluate<unary::cot, Plain>(x);
 }
 float *unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cot, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cot, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cot, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cot, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_cot_Integer8(int8_t x) {
   return evaluate<unary::cot, Checked>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_cot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cot, Checked>(x);
 }
 uint16_t *checked_unary_cot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cot, Checked>(Real16{x}));
+  return evaluateInto<unary::cot, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_cot_Real32(float x) {
   return evaluate<unary::cot, Checked>(x);
@@ -472,10 +472,10 @@ double checked_unary_cot_Real64(double x) {
   return evaluate<unary::cot, Checked>(x);
 }
 float *checked_unary_cot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cot, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cot, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_cot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cot, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cot, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_sinh_Integer8(int8_t x) {
@@ -503,7 +503,7 @@ uint64_t unary_sinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinh, Plain>(x);
 }
 uint16_t *unary_sinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinh, Plain>(Real16{x}));
+  return evaluateInto<unary::sinh, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_sinh_Real32(float x) {
   return evaluate<unary::sinh, Plain>(x);
@@ -512,10 +512,10 @@ double unary_sinh_Real64(double x) {
   return evaluate<unary::sinh, Plain>(x);
 }
 float *unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_sinh_Integer8(int8_t x) {
   return evaluate<unary::sinh, Checked>(x);
@@ -542,7 +542,7 @@ uint64_t checked_unary_sinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinh, Checked>(x);
 }
 uint16_t *checked_unary_sinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinh, Checked>(Real16{x}));
+  return evaluateInto<unary::sinh, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_sinh_Real32(float x) {
   return evaluate<unary::sinh, Checked>(x);
@@ -551,10 +551,10 @@ double checked_unary_sinh_Real64(double x) {
   return evaluate<unary::sinh, Checked>(x);
 }
 float *checked_unary_sinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_cosh_Integer8(int8_t x) {
@@ -582,7 +582,7 @@ uint64_t unary_cosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cosh, Plain>(x);
 }
 uint16_t *unary_cosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cosh, Plain>(Real16{x}));
+  return evaluateInto<unary::cosh, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_cosh_Real32(float x) {
   return evaluate<unary::cosh, Plain>(x);
@@ -591,10 +591,10 @@ double unary_cosh_Real64(double x) {
   return evaluate<unary::cosh, Plain>(x);
 }
 float *unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cosh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cosh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cosh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cosh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_cosh_Integer8(int8_t x) {
   return evaluate<unary::cosh, Checked>(x);
@@ -621,7 +621,7 @@ uint64_t checked_unary_cosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cosh, Checked>(x);
 }
 uint16_t *checked_unary_cosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cosh, Checked>(Real16{x}));
+  return evaluateInto<unary::cosh, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_cosh_Real32(float x) {
   return evaluate<unary::cosh, Checked>(x);
@@ -630,10 +630,10 @@ double checked_unary_cosh_Real64(double x) {
   return evaluate<unary::cosh, Checked>(x);
 }
 float *checked_unary_cosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cosh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cosh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_cosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cosh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cosh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_tanh_Integer8(int8_t x) {
@@ -661,7 +661,7 @@ uint64_t unary_tanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tanh, Plain>(x);
 }
 uint16_t *unary_tanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tanh, Plain>(Real16{x}));
+  return evaluateInto<unary::tanh, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_tanh_Real32(float x) {
   return evaluate<unary::tanh, Plain>(x);
@@ -670,10 +670,10 @@ double unary_tanh_Real64(double x) {
   return evaluate<unary::tanh, Plain>(x);
 }
 float *unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tanh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tanh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tanh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tanh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_tanh_Integer8(int8_t x) {
   return evaluate<unary::tanh, Checked>(x);
@@ -700,7 +700,7 @@ uint64_t checked_unary_tanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::tanh, Checked>(x);
 }
 uint16_t *checked_unary_tanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::tanh, Checked>(Real16{x}));
+  return evaluateInto<unary::tanh, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_tanh_Real32(float x) {
   return evaluate<unary::tanh, Checked>(x);
@@ -709,10 +709,10 @@ double checked_unary_tanh_Real64(double x) {
   return evaluate<unary::tanh, Checked>(x);
 }
 float *checked_unary_tanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::tanh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::tanh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_tanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::tanh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::tanh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_csch_Integer8(int8_t x) {
@@ -740,7 +740,7 @@ uint64_t unary_csch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csch, Plain>(x);
 }
 uint16_t *unary_csch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csch, Plain>(Real16{x}));
+  return evaluateInto<unary::csch, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_csch_Real32(float x) {
   return evaluate<unary::csch, Plain>(x);
@@ -749,10 +749,10 @@ double unary_csch_Real64(double x) {
   return evaluate<unary::csch, Plain>(x);
 }
 float *unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csch, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csch, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csch, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csch, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_csch_Integer8(int8_t x) {
   return evaluate<unary::csch, Checked>(x);
@@ -779,7 +779,7 @@ uint64_t checked_unary_csch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::csch, Checked>(x);
 }
 uint16_t *checked_unary_csch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::csch, Checked>(Real16{x}));
+  return evaluateInto<unary::csch, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_csch_Real32(float x) {
   return evaluate<unary::csch, Checked>(x);
@@ -788,10 +788,10 @@ double checked_unary_csch_Real64(double x) {
   return evaluate<unary::csch, Checked>(x);
 }
 float *checked_unary_csch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::csch, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::csch, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_csch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::csch, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::csch, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_sech_Integer8(int8_t x) {
@@ -819,7 +819,7 @@ uint64_t unary_sech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sech, Plain>(x);
 }
 uint16_t *unary_sech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sech, Plain>(Real16{x}));
+  return evaluateInto<unary::sech, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_sech_Real32(float x) {
   return evaluate<unary::sech, Plain>(x);
@@ -828,10 +828,10 @@ double unary_sech_Real64(double x) {
   return evaluate<unary::sech, Plain>(x);
 }
 float *unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sech, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sech, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sech, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sech, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_sech_Integer8(int8_t x) {
   return evaluate<unary::sech, Checked>(x);
@@ -858,7 +858,7 @@ uint64_t checked_unary_sech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sech, Checked>(x);
 }
 uint16_t *checked_unary_sech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sech, Checked>(Real16{x}));
+  return evaluateInto<unary::sech, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_sech_Real32(float x) {
   return evaluate<unary::sech, Checked>(x);
@@ -867,10 +867,10 @@ double checked_unary_sech_Real64(double x) {
   return evaluate<unary::sech, Checked>(x);
 }
 float *checked_unary_sech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sech, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sech, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sech, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sech, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_coth_Integer8(int8_t x) {
@@ -898,7 +898,7 @@ uint64_t unary_coth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::coth, Plain>(x);
 }
 uint16_t *unary_coth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::coth, Plain>(Real16{x}));
+  return evaluateInto<unary::coth, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_coth_Real32(float x) {
   return evaluate<unary::coth, Plain>(x);
@@ -907,10 +907,10 @@ double unary_coth_Real64(double x) {
   return evaluate<unary::coth, Plain>(x);
 }
 float *unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::coth, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::coth, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::coth, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::coth, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_coth_Integer8(int8_t x) {
   return evaluate<unary::coth, Checked>(x);
@@ -937,7 +937,7 @@ uint64_t checked_unary_coth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::coth, Checked>(x);
 }
 uint16_t *checked_unary_coth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::coth, Checked>(Real16{x}));
+  return evaluateInto<unary::coth, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_coth_Real32(float x) {
   return evaluate<unary::coth, Checked>(x);
@@ -946,8 +946,8 @@ double checked_unary_coth_Real64(double x) {
   return evaluate<unary::coth, Checked>(x);
 }
 float *checked_unary_coth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::coth, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::coth, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_coth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::coth, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::coth, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }

@@ -424,7 +424,7 @@ uint64_t unary_ramp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::ramp, Plain>(x);
 }
 uint16_t *unary_ramp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::ramp, Plain>(Real16{x}));
+  return evaluateInto<unary::ramp, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_ramp_Real32(float x) {
   return evaluate<unary::ramp, Plain>(x);
@@ -433,10 +433,10 @@ double unary_ramp_Real64(double x) {
   return evaluate<unary::ramp, Plain>(x);
 }
 float *unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ramp, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ramp, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ramp, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ramp, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_ramp_Integer8(int8_t x) {
   return evaluate<unary::ramp, Checked>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_ramp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::ramp, Checked>(x);
 }
 uint16_t *checked_unary_ramp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::ramp, Checked>(Real16{x}));
+  return evaluateInto<unary::ramp, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_ramp_Real32(float x) {
   return evaluate<unary::ramp, Checked>(x);
@@ -472,10 +472,10 @@ double checked_unary_ramp_Real64(double x) {
   return evaluate<unary::ramp, Checked>(x);
 }
 float *checked_unary_ramp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ramp, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ramp, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_ramp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ramp, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ramp, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t binary_max_Integer8_Integer8(int8_t x, int8_t y) {
@@ -503,7 +503,7 @@ uint64_t binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) 
   return evaluate<binary::max, Plain>(x, y);
 }
 uint16_t *binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::max, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::max, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_max_Real32_Real32(float x, float y) {
   return evaluate<binary::max, Plain>(x, y);
@@ -513,11 +513,11 @@ double binary_max_Real64_Real64(double x, double y) {
 }
 float *binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                               float y_im) {
-  return store(re, im, evaluate<binary::max, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::max, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                double y_re, double y_im) {
-  return store(re, im, evaluate<binary::max, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::max, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_max_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::max, Checked>(x, y);
@@ -544,7 +544,7 @@ uint64_t checked_binary_max_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::max, Checked>(x, y);
 }
 uint16_t *checked_binary_max_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::max, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::max, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_max_Real32_Real32(float x, float y) {
   return evaluate<binary::max, Checked>(x, y);
@@ -554,11 +554,11 @@ double checked_binary_max_Real64_Real64(double x, double y) {
 }
 float *checked_binary_max_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::max, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::max, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_max_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::max, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::max, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_min_Integer8_Integer8(int8_t x, int8_t y) {
@@ -586,7 +586,7 @@ uint64_t binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) 
   return evaluate<binary::min, Plain>(x, y);
 }
 uint16_t *binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::min, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::min, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_min_Real32_Real32(float x, float y) {
   return evaluate<binary::min, Plain>(x, y);
@@ -596,11 +596,11 @@ double binary_min_Real64_Real64(double x, double y) {
 }
 float *binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                               float y_im) {
-  return store(re, im, evaluate<binary::min, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::min, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                double y_re, double y_im) {
-  return store(re, im, evaluate<binary::min, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::min, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_min_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::min, Checked>(x, y);
@@ -627,7 +627,7 @@ uint64_t checked_binary_min_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::min, Checked>(x, y);
 }
 uint16_t *checked_binary_min_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::min, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::min, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_min_Real32_Real32(float x, float y) {
   return evaluate<binary::min, Checked>(x, y);
@@ -637,11 +637,11 @@ double checked_binary_min_Real64_Real64(double x, double y) {
 }
 float *checked_binary_min_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::min, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::min, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_min_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::min, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::min, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_chop_Integer8_Integer8(int8_t x, int8_t y) {
@@ -669,7 +669,7 @@ uint64_t binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y)
   return evaluate<binary::chop, Plain>(x, y);
 }
 uint16_t *binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::chop, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::chop, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_chop_Real32_Real32(float x, float y) {
   return evaluate<binary::chop, Plain>(x, y);
@@ -679,11 +679,11 @@ double binary_chop_Real64_Real64(double x, double y) {
 }
 float *binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                float y_im) {
-  return store(re, im, evaluate<binary::chop, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::chop, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                 double y_re, double y_im) {
-  return store(re, im, evaluate<binary::chop, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::chop, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_chop_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::chop, Checked>(x, y);
@@ -710,7 +710,7 @@ uint64_t checked_binary_chop_UnsignedInteger64_UnsignedInteger64(uint64_t x, uin
   return evaluate<binary::chop, Checked>(x, y);
 }
 uint16_t *checked_binary_chop_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::chop, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::chop, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_chop_Real32_Real32(float x, float y) {
   return evaluate<binary::chop, Checked>(x, y);
@@ -720,11 +720,11 @@ double checked_binary_chop_Real64_Real64(double x, double y) {
 }
 float *checked_binary_chop_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                        float y_re, float y_im) {
-  return store(re, im, evaluate<binary::chop, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::chop, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_chop_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<binary::chop, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::chop, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_abserr_Integer8_Integer8(int8_t x, int8_t y) {
@@ -752,7 +752,7 @@ uint64_t binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::abserr, Plain>(x, y);
 }
 uint16_t *binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::abserr, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::abserr, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_abserr_Real32_Real32(float x, float y) {
   return evaluate<binary::abserr, Plain>(x, y);
@@ -762,11 +762,11 @@ double binary_abserr_Real64_Real64(double x, double y) {
 }
 float *binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::abserr, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::abserr, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::abserr, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::abserr, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_abserr_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::abserr, Checked>(x, y);
@@ -793,7 +793,7 @@ uint64_t checked_binary_abserr_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::abserr, Checked>(x, y);
 }
 uint16_t *checked_binary_abserr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::abserr, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::abserr, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_abserr_Real32_Real32(float x, float y) {
   return evaluate<binary::abserr, Checked>(x, y);
@@ -803,11 +803,11 @@ double checked_binary_abserr_Real64_Real64(double x, double y) {
 }
 float *checked_binary_abserr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::abserr, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::abserr, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_abserr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::abserr, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::abserr, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_relerr_Integer8_Integer8(int8_t x, int8_t y) {
@@ -835,7 +835,7 @@ uint64_t binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::relerr, Plain>(x, y);
 }
 uint16_t *binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::relerr, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::relerr, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_relerr_Real32_Real32(float x, float y) {
   return evaluate<binary::relerr, Plain>(x, y);
@@ -845,11 +845,11 @@ double binary_relerr_Real64_Real64(double x, double y) {
 }
 float *binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::relerr, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::relerr, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::relerr, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::relerr, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_relerr_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::relerr, Checked>(x, y);
@@ -876,7 +876,7 @@ uint64_t checked_binary_relerr_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::relerr, Checked>(x, y);
 }
 uint16_t *checked_binary_relerr_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::relerr, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::relerr, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_relerr_Real32_Real32(float x, float y) {
   return evaluate<binary::relerr, Checked>(x, y);
@@ -886,11 +886,11 @@ double checked_binary_relerr_Real64_Real64(double x, double y) {
 }
 float *checked_binary_relerr_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::relerr, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::relerr, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_relerr_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::relerr, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::relerr, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_maxabs_Integer8_Integer8(int8_t x, int8_t y) {
@@ -918,7 +918,7 @@ uint64_t binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t 
   return evaluate<binary::maxabs, Plain>(x, y);
 }
 uint16_t *binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::maxabs, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::maxabs, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_maxabs_Real32_Real32(float x, float y) {
   return evaluate<binary::maxabs, Plain>(x, y);
@@ -928,11 +928,11 @@ double binary_maxabs_Real64_Real64(double x, double y) {
 }
 float *binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                  float y_im) {
-  return store(re, im, evaluate<binary::maxabs, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                   double y_re, double y_im) {
-  return store(re, im, evaluate<binary::maxabs, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_maxabs_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::maxabs, Checked>(x, y);
@@ -959,7 +959,7 @@ uint64_t checked_binary_maxabs_UnsignedInteger64_UnsignedInteger64(uint64_t x, u
   return evaluate<binary::maxabs, Checked>(x, y);
 }
 uint16_t *checked_binary_maxabs_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::maxabs, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::maxabs, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_maxabs_Real32_Real32(float x, float y) {
   return evaluate<binary::maxabs, Checked>(x, y);
@@ -969,11 +969,11 @@ double checked_binary_maxabs_Real64_Real64(double x, double y) {
 }
 float *checked_binary_maxabs_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                          float y_re, float y_im) {
-  return store(re, im, evaluate<binary::maxabs, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_maxabs_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                           double y_re, double y_im) {
-  return store(re, im, evaluate<binary::maxabs, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::maxabs, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 mint binary_unitize_Integer8_Integer8(int8_t x, int8_t y) {

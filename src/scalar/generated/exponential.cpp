@@ -29,7 +29,7 @@ uint64_t unary_exp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::exp, Plain>(x);
 }
 uint16_t *unary_exp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::exp, Plain>(Real16{x}));
+  return evaluateInto<unary::exp, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_exp_Real32(float x) {
   return evaluate<unary::exp, Plain>(x);
@@ -38,10 +38,10 @@ double unary_exp_Real64(double x) {
   return evaluate<unary::exp, Plain>(x);
 }
 float *unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::exp, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::exp, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::exp, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::exp, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_exp_Integer8(int8_t x) {
   return evaluate<unary::exp, Checked>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_exp_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::exp, Checked>(x);
 }
 uint16_t *checked_unary_exp_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::exp, Checked>(Real16{x}));
+  return evaluateInto<unary::exp, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_exp_Real32(float x) {
   return evaluate<unary::exp, Checked>(x);
@@ -77,10 +77,10 @@ double checked_unary_exp_Real64(double x) {
   return evaluate<unary::exp, Checked>(x);
 }
 float *checked_unary_exp_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::exp, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::exp, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_exp_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::exp, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::exp, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_expm1_Integer8(int8_t x) {
@@ -108,7 +108,7 @@ uint64_t unary_expm1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::expm1, Plain>(x);
 }
 uint16_t *unary_expm1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::expm1, Plain>(Real16{x}));
+  return evaluateInto<unary::expm1, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_expm1_Real32(float x) {
   return evaluate<unary::expm1, Plain>(x);
@@ -117,10 +117,10 @@ double unary_expm1_Real64(double x) {
   return evaluate<unary::expm1, Plain>(x);
 }
 float *unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::expm1, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::expm1, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::expm1, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::expm1, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_expm1_Integer8(int8_t x) {
   return evaluate<unary::expm1, Checked>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_expm1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::expm1, Checked>(x);
 }
 uint16_t *checked_unary_expm1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::expm1, Checked>(Real16{x}));
+  return evaluateInto<unary::expm1, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_expm1_Real32(float x) {
   return evaluate<unary::expm1, Checked>(x);
@@ -156,10 +156,10 @@ double checked_unary_expm1_Real64(double x) {
   return evaluate<unary::expm1, Checked>(x);
 }
 float *checked_unary_expm1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::expm1, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::expm1, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_expm1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::expm1, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::expm1, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_log_Integer8(int8_t x) {
@@ -187,7 +187,7 @@ uint64_t unary_log_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log, Plain>(x);
 }
 uint16_t *unary_log_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log, Plain>(Real16{x}));
+  return evaluateInto<unary::log, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_log_Real32(float x) {
   return evaluate<unary::log, Plain>(x);
@@ -196,10 +196,10 @@ double unary_log_Real64(double x) {
   return evaluate<unary::log, Plain>(x);
 }
 float *unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_log_Integer8(int8_t x) {
   return evaluate<unary::log, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_log_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log, Checked>(x);
 }
 uint16_t *checked_unary_log_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log, Checked>(Real16{x}));
+  return evaluateInto<unary::log, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_log_Real32(float x) {
   return evaluate<unary::log, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_log_Real64(double x) {
   return evaluate<unary::log, Checked>(x);
 }
 float *checked_unary_log_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_log_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_log1p_Integer8(int8_t x) {
@@ -266,7 +266,7 @@ uint64_t unary_log1p_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log1p, Plain>(x);
 }
 uint16_t *unary_log1p_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log1p, Plain>(Real16{x}));
+  return evaluateInto<unary::log1p, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_log1p_Real32(float x) {
   return evaluate<unary::log1p, Plain>(x);
@@ -275,10 +275,10 @@ double unary_log1p_Real64(double x) {
   return evaluate<unary::log1p, Plain>(x);
 }
 float *unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log1p, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log1p, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log1p, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log1p, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_log1p_Integer8(int8_t x) {
   return evaluate<unary::log1p, Checked>(x);
@@ -305,7 +305,7 @@ uint64_t checked_unary_log1p_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log1p, Checked>(x);
 }
 uint16_t *checked_unary_log1p_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log1p, Checked>(Real16{x}));
+  return evaluateInto<unary::log1p, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_log1p_Real32(float x) {
   return evaluate<unary::log1p, Checked>(x);
@@ -314,10 +314,10 @@ double checked_unary_log1p_Real64(double x) {
   return evaluate<unary::log1p, Checked>(x);
 }
 float *checked_unary_log1p_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log1p, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log1p, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_log1p_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log1p, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log1p, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_log2_Integer8(int8_t x) {
@@ -345,7 +345,7 @@ uint64_t unary_log2_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log2, Plain>(x);
 }
 uint16_t *unary_log2_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log2, Plain>(Real16{x}));
+  return evaluateInto<unary::log2, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_log2_Real32(float x) {
   return evaluate<unary::log2, Plain>(x);
@@ -354,10 +354,10 @@ double unary_log2_Real64(double x) {
   return evaluate<unary::log2, Plain>(x);
 }
 float *unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log2, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log2, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log2, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log2, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_log2_Integer8(int8_t x) {
   return evaluate<unary::log2, Checked>(x);
@@ -384,7 +384,7 @@ uint64_t checked_unary_log2_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log2, Checked>(x);
 }
 uint16_t *checked_unary_log2_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log2, Checked>(Real16{x}));
+  return evaluateInto<unary::log2, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_log2_Real32(float x) {
   return evaluate<unary::log2, Checked>(x);
@@ -393,10 +393,10 @@ double checked_unary_log2_Real64(double x) {
   return evaluate<unary::log2, Checked>(x);
 }
 float *checked_unary_log2_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log2, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log2, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_log2_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log2, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log2, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_log10_Integer8(int8_t x) {
@@ -424,7 +424,7 @@ uint64_t unary_log10_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log10, Plain>(x);
 }
 uint16_t *unary_log10_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log10, Plain>(Real16{x}));
+  return evaluateInto<unary::log10, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_log10_Real32(float x) {
   return evaluate<unary::log10, Plain>(x);
@@ -433,10 +433,10 @@ double unary_log10_Real64(double x) {
   return evaluate<unary::log10, Plain>(x);
 }
 float *unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log10, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log10, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log10, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log10, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_log10_Integer8(int8_t x) {
   return evaluate<unary::log10, Checked>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_log10_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::log10, Checked>(x);
 }
 uint16_t *checked_unary_log10_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::log10, Checked>(Real16{x}));
+  return evaluateInto<unary::log10, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_log10_Real32(float x) {
   return evaluate<unary::log10, Checked>(x);
@@ -472,10 +472,10 @@ double checked_unary_log10_Real64(double x) {
   return evaluate<unary::log10, Checked>(x);
 }
 float *checked_unary_log10_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::log10, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::log10, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_log10_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::log10, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::log10, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t binary_log_Integer8_Integer8(int8_t x, int8_t y) {
@@ -503,7 +503,7 @@ uint64_t binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) 
   return evaluate<binary::log, Plain>(x, y);
 }
 uint16_t *binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::log, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::log, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_log_Real32_Real32(float x, float y) {
   return evaluate<binary::log, Plain>(x, y);
@@ -513,11 +513,11 @@ double binary_log_Real64_Real64(double x, double y) {
 }
 float *binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                               float y_im) {
-  return store(re, im, evaluate<binary::log, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::log, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                double y_re, double y_im) {
-  return store(re, im, evaluate<binary::log, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::log, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_log_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::log, Checked>(x, y);
@@ -544,7 +544,7 @@ uint64_t checked_binary_log_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::log, Checked>(x, y);
 }
 uint16_t *checked_binary_log_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::log, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::log, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_log_Real32_Real32(float x, float y) {
   return evaluate<binary::log, Checked>(x, y);
@@ -554,9 +554,9 @@ double checked_binary_log_Real64_Real64(double x, double y) {
 }
 float *checked_binary_log_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::log, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::log, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_log_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::log, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::log, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }

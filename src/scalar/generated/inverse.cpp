@@ -29,7 +29,7 @@ uint64_t unary_asin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asin, Plain>(x);
 }
 uint16_t *unary_asin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asin, Plain>(Real16{x}));
+  return evaluateInto<unary::asin, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_asin_Real32(float x) {
   return evaluate<unary::asin, Plain>(x);
@@ -38,10 +38,10 @@ double unary_asin_Real64(double x) {
   return evaluate<unary::asin, Plain>(x);
 }
 float *unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asin, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asin, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asin, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asin, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_asin_Integer8(int8_t x) {
   return evaluate<unary::asin, Checked>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_asin_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asin, Checked>(x);
 }
 uint16_t *checked_unary_asin_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asin, Checked>(Real16{x}));
+  return evaluateInto<unary::asin, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_asin_Real32(float x) {
   return evaluate<unary::asin, Checked>(x);
@@ -77,10 +77,10 @@ double checked_unary_asin_Real64(double x) {
   return evaluate<unary::asin, Checked>(x);
 }
 float *checked_unary_asin_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asin, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asin, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_asin_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asin, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asin, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_acos_Integer8(int8_t x) {
@@ -108,7 +108,7 @@ uint64_t unary_acos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acos, Plain>(x);
 }
 uint16_t *unary_acos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acos, Plain>(Real16{x}));
+  return evaluateInto<unary::acos, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_acos_Real32(float x) {
   return evaluate<unary::acos, Plain>(x);
@@ -117,10 +117,10 @@ double unary_acos_Real64(double x) {
   return evaluate<unary::acos, Plain>(x);
 }
 float *unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acos, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acos, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acos, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acos, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_acos_Integer8(int8_t x) {
   return evaluate<unary::acos, Checked>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_acos_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acos, Checked>(x);
 }
 uint16_t *checked_unary_acos_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acos, Checked>(Real16{x}));
+  return evaluateInto<unary::acos, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_acos_Real32(float x) {
   return evaluate<unary::acos, Checked>(x);
@@ -156,10 +156,10 @@ double checked_unary_acos_Real64(double x) {
   return evaluate<unary::acos, Checked>(x);
 }
 float *checked_unary_acos_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acos, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acos, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_acos_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acos, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acos, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_atan_Integer8(int8_t x) {
@@ -187,7 +187,7 @@ uint64_t unary_atan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atan, Plain>(x);
 }
 uint16_t *unary_atan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atan, Plain>(Real16{x}));
+  return evaluateInto<unary::atan, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_atan_Real32(float x) {
   return evaluate<unary::atan, Plain>(x);
@@ -196,10 +196,10 @@ double unary_atan_Real64(double x) {
   return evaluate<unary::atan, Plain>(x);
 }
 float *unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atan, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atan, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atan, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atan, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_atan_Integer8(int8_t x) {
   return evaluate<unary::atan, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_atan_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atan, Checked>(x);
 }
 uint16_t *checked_unary_atan_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atan, Checked>(Real16{x}));
+  return evaluateInto<unary::atan, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_atan_Real32(float x) {
   return evaluate<unary::atan, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_atan_Real64(double x) {
   return evaluate<unary::atan, Checked>(x);
 }
 float *checked_unary_atan_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atan, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atan, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_atan_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atan, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atan, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_acsc_Integer8(int8_t x) {
@@ -266,7 +266,7 @@ uint64_t unary_acsc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsc, Plain>(x);
 }
 uint16_t *unary_acsc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsc, Plain>(Real16{x}));
+  return evaluateInto<unary::acsc, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_acsc_Real32(float x) {
   return evaluate<unary::acsc, Plain>(x);
@@ -275,10 +275,10 @@ double unary_acsc_Real64(double x) {
   return evaluate<unary::acsc, Plain>(x);
 }
 float *unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_acsc_Integer8(int8_t x) {
   return evaluate<unary::acsc, Checked>(x);
@@ -305,7 +305,7 @@ uint64_t checked_unary_acsc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsc, Checked>(x);
 }
 uint16_t *checked_unary_acsc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsc, Checked>(Real16{x}));
+  return evaluateInto<unary::acsc, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_acsc_Real32(float x) {
   return evaluate<unary::acsc, Checked>(x);
@@ -314,10 +314,10 @@ double checked_unary_acsc_Real64(double x) {
   return evaluate<unary::acsc, Checked>(x);
 }
 float *checked_unary_acsc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_acsc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_asec_Integer8(int8_t x) {
@@ -345,7 +345,7 @@ uint64_t unary_asec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asec, Plain>(x);
 }
 uint16_t *unary_asec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asec, Plain>(Real16{x}));
+  return evaluateInto<unary::asec, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_asec_Real32(float x) {
   return evaluate<unary::asec, Plain>(x);
@@ -354,10 +354,10 @@ double unary_asec_Real64(double x) {
   return evaluate<unary::asec, Plain>(x);
 }
 float *unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asec, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asec, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asec, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asec, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_asec_Integer8(int8_t x) {
   return evaluate<unary::asec, Checked>(x);
@@ -384,7 +384,7 @@ uint64_t checked_unary_asec_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asec, Checked>(x);
 }
 uint16_t *checked_unary_asec_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asec, Checked>(Real16{x}));
+  return evaluateInto<unary::asec, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_asec_Real32(float x) {
   return evaluate<unary::asec, Checked>(x);
@@ -393,10 +393,10 @@ double checked_unary_asec_Real64(double x) {
   return evaluate<unary::asec, Checked>(x);
 }
 float *checked_unary_asec_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asec, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asec, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_asec_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asec, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asec, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_acot_Integer8(int8_t x) {
@@ -424,7 +424,7 @@ uint64_t unary_acot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acot, Plain>(x);
 }
 uint16_t *unary_acot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acot, Plain>(Real16{x}));
+  return evaluateInto<unary::acot, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_acot_Real32(float x) {
   return evaluate<unary::acot, Plain>(x);
@@ -433,10 +433,10 @@ double unary_acot_Real64(double x) {
   return evaluate<unary::acot, Plain>(x);
 }
 float *unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acot, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acot, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acot, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acot, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_acot_Integer8(int8_t x) {
   return evaluate<unary::acot, Checked>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_acot_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acot, Checked>(x);
 }
 uint16_t *checked_unary_acot_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acot, Checked>(Real16{x}));
+  return evaluateInto<unary::acot, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_acot_Real32(float x) {
   return evaluate<unary::acot, Checked>(x);
@@ -472,10 +472,10 @@ double checked_unary_acot_Real64(double x) {
   return evaluate<unary::acot, Checked>(x);
 }
 float *checked_unary_acot_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acot, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acot, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_acot_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acot, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acot, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_asinh_Integer8(int8_t x) {
@@ -503,7 +503,7 @@ uint64_t unary_asinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asinh, Plain>(x);
 }
 uint16_t *unary_asinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asinh, Plain>(Real16{x}));
+  return evaluateInto<unary::asinh, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_asinh_Real32(float x) {
   return evaluate<unary::asinh, Plain>(x);
@@ -512,10 +512,10 @@ double unary_asinh_Real64(double x) {
   return evaluate<unary::asinh, Plain>(x);
 }
 float *unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asinh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asinh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asinh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asinh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_asinh_Integer8(int8_t x) {
   return evaluate<unary::asinh, Checked>(x);
@@ -542,7 +542,7 @@ uint64_t checked_unary_asinh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asinh, Checked>(x);
 }
 uint16_t *checked_unary_asinh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asinh, Checked>(Real16{x}));
+  return evaluateInto<unary::asinh, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_asinh_Real32(float x) {
   return evaluate<unary::asinh, Checked>(x);
@@ -551,10 +551,10 @@ double checked_unary_asinh_Real64(double x) {
   return evaluate<unary::asinh, Checked>(x);
 }
 float *checked_unary_asinh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asinh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asinh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_asinh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asinh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asinh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_acosh_Integer8(int8_t x) {
@@ -582,7 +582,7 @@ uint64_t unary_acosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acosh, Plain>(x);
 }
 uint16_t *unary_acosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acosh, Plain>(Real16{x}));
+  return evaluateInto<unary::acosh, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_acosh_Real32(float x) {
   return evaluate<unary::acosh, Plain>(x);
@@ -591,10 +591,10 @@ double unary_acosh_Real64(double x) {
   return evaluate<unary::acosh, Plain>(x);
 }
 float *unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acosh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acosh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acosh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acosh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_acosh_Integer8(int8_t x) {
   return evaluate<unary::acosh, Checked>(x);
@@ -621,7 +621,7 @@ uint64_t checked_unary_acosh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acosh, Checked>(x);
 }
 uint16_t *checked_unary_acosh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acosh, Checked>(Real16{x}));
+  return evaluateInto<unary::acosh, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_acosh_Real32(float x) {
   return evaluate<unary::acosh, Checked>(x);
@@ -630,10 +630,10 @@ double checked_unary_acosh_Real64(double x) {
   return evaluate<unary::acosh, Checked>(x);
 }
 float *checked_unary_acosh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acosh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acosh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_acosh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acosh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acosh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_atanh_Integer8(int8_t x) {
@@ -661,7 +661,7 @@ uint64_t unary_atanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atanh, Plain>(x);
 }
 uint16_t *unary_atanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atanh, Plain>(Real16{x}));
+  return evaluateInto<unary::atanh, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_atanh_Real32(float x) {
   return evaluate<unary::atanh, Plain>(x);
@@ -670,10 +670,10 @@ double unary_atanh_Real64(double x) {
   return evaluate<unary::atanh, Plain>(x);
 }
 float *unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atanh, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atanh, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atanh, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atanh, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_atanh_Integer8(int8_t x) {
   return evaluate<unary::atanh, Checked>(x);
@@ -700,7 +700,7 @@ uint64_t checked_unary_atanh_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::atanh, Checked>(x);
 }
 uint16_t *checked_unary_atanh_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::atanh, Checked>(Real16{x}));
+  return evaluateInto<unary::atanh, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_atanh_Real32(float x) {
   return evaluate<unary::atanh, Checked>(x);
@@ -709,10 +709,10 @@ double checked_unary_atanh_Real64(double x) {
   return evaluate<unary::atanh, Checked>(x);
 }
 float *checked_unary_atanh_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::atanh, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::atanh, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_atanh_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::atanh, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::atanh, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_acsch_Integer8(int8_t x) {
@@ -740,7 +740,7 @@ uint64_t unary_acsch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsch, Plain>(x);
 }
 uint16_t *unary_acsch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsch, Plain>(Real16{x}));
+  return evaluateInto<unary::acsch, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_acsch_Real32(float x) {
   return evaluate<unary::acsch, Plain>(x);
@@ -749,10 +749,10 @@ double unary_acsch_Real64(double x) {
   return evaluate<unary::acsch, Plain>(x);
 }
 float *unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsch, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsch, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsch, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsch, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_acsch_Integer8(int8_t x) {
   return evaluate<unary::acsch, Checked>(x);
@@ -779,7 +779,7 @@ uint64_t checked_unary_acsch_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acsch, Checked>(x);
 }
 uint16_t *checked_unary_acsch_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acsch, Checked>(Real16{x}));
+  return evaluateInto<unary::acsch, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_acsch_Real32(float x) {
   return evaluate<unary::acsch, Checked>(x);
@@ -788,10 +788,10 @@ double checked_unary_acsch_Real64(double x) {
   return evaluate<unary::acsch, Checked>(x);
 }
 float *checked_unary_acsch_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acsch, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acsch, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_acsch_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acsch, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acsch, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_asech_Integer8(int8_t x) {
@@ -819,7 +819,7 @@ uint64_t unary_asech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asech, Plain>(x);
 }
 uint16_t *unary_asech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asech, Plain>(Real16{x}));
+  return evaluateInto<unary::asech, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_asech_Real32(float x) {
   return evaluate<unary::asech, Plain>(x);
@@ -828,10 +828,10 @@ double unary_asech_Real64(double x) {
   return evaluate<unary::asech, Plain>(x);
 }
 float *unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asech, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asech, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asech, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asech, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_asech_Integer8(int8_t x) {
   return evaluate<unary::asech, Checked>(x);
@@ -858,7 +858,7 @@ uint64_t checked_unary_asech_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::asech, Checked>(x);
 }
 uint16_t *checked_unary_asech_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::asech, Checked>(Real16{x}));
+  return evaluateInto<unary::asech, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_asech_Real32(float x) {
   return evaluate<unary::asech, Checked>(x);
@@ -867,10 +867,10 @@ double checked_unary_asech_Real64(double x) {
   return evaluate<unary::asech, Checked>(x);
 }
 float *checked_unary_asech_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::asech, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::asech, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_asech_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::asech, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::asech, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_acoth_Integer8(int8_t x) {
@@ -898,7 +898,7 @@ uint64_t unary_acoth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acoth, Plain>(x);
 }
 uint16_t *unary_acoth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acoth, Plain>(Real16{x}));
+  return evaluateInto<unary::acoth, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_acoth_Real32(float x) {
   return evaluate<unary::acoth, Plain>(x);
@@ -907,10 +907,10 @@ double unary_acoth_Real64(double x) {
   return evaluate<unary::acoth, Plain>(x);
 }
 float *unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acoth, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acoth, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acoth, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acoth, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_acoth_Integer8(int8_t x) {
   return evaluate<unary::acoth, Checked>(x);
@@ -937,7 +937,7 @@ uint64_t checked_unary_acoth_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::acoth, Checked>(x);
 }
 uint16_t *checked_unary_acoth_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::acoth, Checked>(Real16{x}));
+  return evaluateInto<unary::acoth, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_acoth_Real32(float x) {
   return evaluate<unary::acoth, Checked>(x);
@@ -946,10 +946,10 @@ double checked_unary_acoth_Real64(double x) {
   return evaluate<unary::acoth, Checked>(x);
 }
 float *checked_unary_acoth_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::acoth, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::acoth, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_acoth_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::acoth, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::acoth, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t binary_atan2_Integer8_Integer8(int8_t x, int8_t y) {
@@ -977,7 +977,7 @@ uint64_t binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y
   return evaluate<binary::atan2, Plain>(x, y);
 }
 uint16_t *binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::atan2, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::atan2, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_atan2_Real32_Real32(float x, float y) {
   return evaluate<binary::atan2, Plain>(x, y);
@@ -987,11 +987,11 @@ double binary_atan2_Real64_Real64(double x, double y) {
 }
 float *binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                 float y_im) {
-  return store(re, im, evaluate<binary::atan2, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::atan2, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                  double y_re, double y_im) {
-  return store(re, im, evaluate<binary::atan2, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::atan2, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_atan2_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::atan2, Checked>(x, y);
@@ -1018,7 +1018,7 @@ uint64_t checked_binary_atan2_UnsignedInteger64_UnsignedInteger64(uint64_t x, ui
   return evaluate<binary::atan2, Checked>(x, y);
 }
 uint16_t *checked_binary_atan2_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::atan2, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::atan2, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_atan2_Real32_Real32(float x, float y) {
   return evaluate<binary::atan2, Checked>(x, y);
@@ -1028,9 +1028,9 @@ double checked_binary_atan2_Real64_Real64(double x, double y) {
 }
 float *checked_binary_atan2_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                         float y_re, float y_im) {
-  return store(re, im, evaluate<binary::atan2, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::atan2, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_atan2_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                          double y_re, double y_im) {
-  return store(re, im, evaluate<binary::atan2, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::atan2, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }

@@ -29,7 +29,7 @@ uint64_t unary_abs_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abs, Plain>(x);
 }
 uint16_t *unary_abs_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abs, Plain>(Real16{x}));
+  return evaluateInto<unary::abs, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_abs_Real32(float x) {
   return evaluate<unary::abs, Plain>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_abs_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abs, Checked>(x);
 }
 uint16_t *checked_unary_abs_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abs, Checked>(Real16{x}));
+  return evaluateInto<unary::abs, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_abs_Real32(float x) {
   return evaluate<unary::abs, Checked>(x);
@@ -108,7 +108,7 @@ uint64_t unary_abssquare_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abssquare, Plain>(x);
 }
 uint16_t *unary_abssquare_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abssquare, Plain>(Real16{x}));
+  return evaluateInto<unary::abssquare, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_abssquare_Real32(float x) {
   return evaluate<unary::abssquare, Plain>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_abssquare_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::abssquare, Checked>(x);
 }
 uint16_t *checked_unary_abssquare_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::abssquare, Checked>(Real16{x}));
+  return evaluateInto<unary::abssquare, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_abssquare_Real32(float x) {
   return evaluate<unary::abssquare, Checked>(x);
@@ -187,7 +187,7 @@ uint64_t unary_arg_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::arg, Plain>(x);
 }
 uint16_t *unary_arg_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::arg, Plain>(Real16{x}));
+  return evaluateInto<unary::arg, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_arg_Real32(float x) {
   return evaluate<unary::arg, Plain>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_arg_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::arg, Checked>(x);
 }
 uint16_t *checked_unary_arg_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::arg, Checked>(Real16{x}));
+  return evaluateInto<unary::arg, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_arg_Real32(float x) {
   return evaluate<unary::arg, Checked>(x);
@@ -266,7 +266,7 @@ uint64_t unary_conj_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::conj, Plain>(x);
 }
 uint16_t *unary_conj_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::conj, Plain>(Real16{x}));
+  return evaluateInto<unary::conj, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_conj_Real32(float x) {
   return evaluate<unary::conj, Plain>(x);
@@ -275,10 +275,10 @@ double unary_conj_Real64(double x) {
   return evaluate<unary::conj, Plain>(x);
 }
 float *unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::conj, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::conj, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::conj, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::conj, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_conj_Integer8(int8_t x) {
   return evaluate<unary::conj, Checked>(x);
@@ -305,7 +305,7 @@ uint64_t checked_unary_conj_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::conj, Checked>(x);
 }
 uint16_t *checked_unary_conj_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::conj, Checked>(Real16{x}));
+  return evaluateInto<unary::conj, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_conj_Real32(float x) {
   return evaluate<unary::conj, Checked>(x);
@@ -314,10 +314,10 @@ double checked_unary_conj_Real64(double x) {
   return evaluate<unary::conj, Checked>(x);
 }
 float *checked_unary_conj_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::conj, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::conj, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_conj_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::conj, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::conj, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_im_Integer8(int8_t x) {
@@ -345,7 +345,7 @@ uint64_t unary_im_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::im, Plain>(x);
 }
 uint16_t *unary_im_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::im, Plain>(Real16{x}));
+  return evaluateInto<unary::im, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_im_Real32(float x) {
   return evaluate<unary::im, Plain>(x);
@@ -384,7 +384,7 @@ uint64_t checked_unary_im_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::im, Checked>(x);
 }
 uint16_t *checked_unary_im_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::im, Checked>(Real16{x}));
+  return evaluateInto<unary::im, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_im_Real32(float x) {
   return evaluate<unary::im, Checked>(x);
@@ -424,7 +424,7 @@ uint64_t unary_re_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::re, Plain>(x);
 }
 uint16_t *unary_re_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::re, Plain>(Real16{x}));
+  return evaluateInto<unary::re, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_re_Real32(float x) {
   return evaluate<unary::re, Plain>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_re_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::re, Checked>(x);
 }
 uint16_t *checked_unary_re_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::re, Checked>(Real16{x}));
+  return evaluateInto<unary::re, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_re_Real32(float x) {
   return evaluate<unary::re, Checked>(x);
@@ -512,10 +512,10 @@ mint unary_sign_Real64(double x) {
   return evaluate<unary::sign, Plain>(x);
 }
 float *unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sign, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sign, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sign, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sign, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 mint checked_unary_sign_Integer8(int8_t x) {
   return evaluate<unary::sign, Checked>(x);
@@ -551,10 +551,10 @@ mint checked_unary_sign_Real64(double x) {
   return evaluate<unary::sign, Checked>(x);
 }
 float *checked_unary_sign_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sign, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sign, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sign_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sign, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sign, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_copy_Integer8(int8_t x) {
@@ -582,7 +582,7 @@ uint64_t unary_copy_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::copy, Plain>(x);
 }
 uint16_t *unary_copy_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::copy, Plain>(Real16{x}));
+  return evaluateInto<unary::copy, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_copy_Real32(float x) {
   return evaluate<unary::copy, Plain>(x);
@@ -591,10 +591,10 @@ double unary_copy_Real64(double x) {
   return evaluate<unary::copy, Plain>(x);
 }
 float *unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::copy, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::copy, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::copy, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::copy, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_copy_Integer8(int8_t x) {
   return evaluate<unary::copy, Checked>(x);
@@ -621,7 +621,7 @@ uint64_t checked_unary_copy_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::copy, Checked>(x);
 }
 uint16_t *checked_unary_copy_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::copy, Checked>(Real16{x}));
+  return evaluateInto<unary::copy, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_copy_Real32(float x) {
   return evaluate<unary::copy, Checked>(x);
@@ -630,10 +630,10 @@ double checked_unary_copy_Real64(double x) {
   return evaluate<unary::copy, Checked>(x);
 }
 float *checked_unary_copy_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::copy, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::copy, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_copy_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::copy, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::copy, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_zero_Integer8(int8_t x) {
@@ -661,7 +661,7 @@ uint64_t unary_zero_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::zero, Plain>(x);
 }
 uint16_t *unary_zero_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::zero, Plain>(Real16{x}));
+  return evaluateInto<unary::zero, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_zero_Real32(float x) {
   return evaluate<unary::zero, Plain>(x);
@@ -670,10 +670,10 @@ double unary_zero_Real64(double x) {
   return evaluate<unary::zero, Plain>(x);
 }
 float *unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::zero, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::zero, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::zero, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::zero, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_zero_Integer8(int8_t x) {
   return evaluate<unary::zero, Checked>(x);
@@ -700,7 +700,7 @@ uint64_t checked_unary_zero_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::zero, Checked>(x);
 }
 uint16_t *checked_unary_zero_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::zero, Checked>(Real16{x}));
+  return evaluateInto<unary::zero, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_zero_Real32(float x) {
   return evaluate<unary::zero, Checked>(x);
@@ -709,10 +709,10 @@ double checked_unary_zero_Real64(double x) {
   return evaluate<unary::zero, Checked>(x);
 }
 float *checked_unary_zero_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::zero, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::zero, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_zero_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::zero, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::zero, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_one_Integer8(int8_t x) {
@@ -740,7 +740,7 @@ uint64_t unary_one_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::one, Plain>(x);
 }
 uint16_t *unary_one_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::one, Plain>(Real16{x}));
+  return evaluateInto<unary::one, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_one_Real32(float x) {
   return evaluate<unary::one, Plain>(x);
@@ -749,10 +749,10 @@ double unary_one_Real64(double x) {
   return evaluate<unary::one, Plain>(x);
 }
 float *unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::one, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::one, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::one, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::one, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_one_Integer8(int8_t x) {
   return evaluate<unary::one, Checked>(x);
@@ -779,7 +779,7 @@ uint64_t checked_unary_one_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::one, Checked>(x);
 }
 uint16_t *checked_unary_one_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::one, Checked>(Real16{x}));
+  return evaluateInto<unary::one, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_one_Real32(float x) {
   return evaluate<unary::one, Checked>(x);
@@ -788,10 +788,10 @@ double checked_unary_one_Real64(double x) {
   return evaluate<unary::one, Checked>(x);
 }
 float *checked_unary_one_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::one, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::one, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_one_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::one, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::one, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 mint unary_fpexception_Integer8(int8_t x) {

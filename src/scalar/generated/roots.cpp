@@ -29,7 +29,7 @@ uint64_t unary_sqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sqrt, Plain>(x);
 }
 uint16_t *unary_sqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sqrt, Plain>(Real16{x}));
+  return evaluateInto<unary::sqrt, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_sqrt_Real32(float x) {
   return evaluate<unary::sqrt, Plain>(x);
@@ -38,10 +38,10 @@ double unary_sqrt_Real64(double x) {
   return evaluate<unary::sqrt, Plain>(x);
 }
 float *unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sqrt, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sqrt, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_sqrt_Integer8(int8_t x) {
   return evaluate<unary::sqrt, Checked>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_sqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sqrt, Checked>(x);
 }
 uint16_t *checked_unary_sqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sqrt, Checked>(Real16{x}));
+  return evaluateInto<unary::sqrt, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_sqrt_Real32(float x) {
   return evaluate<unary::sqrt, Checked>(x);
@@ -77,10 +77,10 @@ double checked_unary_sqrt_Real64(double x) {
   return evaluate<unary::sqrt, Checked>(x);
 }
 float *checked_unary_sqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sqrt, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sqrt, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_cbrt_Integer8(int8_t x) {
@@ -108,7 +108,7 @@ uint64_t unary_cbrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cbrt, Plain>(x);
 }
 uint16_t *unary_cbrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cbrt, Plain>(Real16{x}));
+  return evaluateInto<unary::cbrt, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_cbrt_Real32(float x) {
   return evaluate<unary::cbrt, Plain>(x);
@@ -117,10 +117,10 @@ double unary_cbrt_Real64(double x) {
   return evaluate<unary::cbrt, Plain>(x);
 }
 float *unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cbrt, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cbrt, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_cbrt_Integer8(int8_t x) {
   return evaluate<unary::cbrt, Checked>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_cbrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::cbrt, Checked>(x);
 }
 uint16_t *checked_unary_cbrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::cbrt, Checked>(Real16{x}));
+  return evaluateInto<unary::cbrt, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_cbrt_Real32(float x) {
   return evaluate<unary::cbrt, Checked>(x);
@@ -156,10 +156,10 @@ double checked_unary_cbrt_Real64(double x) {
   return evaluate<unary::cbrt, Checked>(x);
 }
 float *checked_unary_cbrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::cbrt, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_cbrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::cbrt, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::cbrt, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_rsqrt_Integer8(int8_t x) {
@@ -187,7 +187,7 @@ uint64_t unary_rsqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::rsqrt, Plain>(x);
 }
 uint16_t *unary_rsqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::rsqrt, Plain>(Real16{x}));
+  return evaluateInto<unary::rsqrt, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_rsqrt_Real32(float x) {
   return evaluate<unary::rsqrt, Plain>(x);
@@ -196,10 +196,10 @@ double unary_rsqrt_Real64(double x) {
   return evaluate<unary::rsqrt, Plain>(x);
 }
 float *unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_rsqrt_Integer8(int8_t x) {
   return evaluate<unary::rsqrt, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_rsqrt_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::rsqrt, Checked>(x);
 }
 uint16_t *checked_unary_rsqrt_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::rsqrt, Checked>(Real16{x}));
+  return evaluateInto<unary::rsqrt, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_rsqrt_Real32(float x) {
   return evaluate<unary::rsqrt, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_rsqrt_Real64(double x) {
   return evaluate<unary::rsqrt, Checked>(x);
 }
 float *checked_unary_rsqrt_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_rsqrt_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::rsqrt, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::rsqrt, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t binary_root_Integer8_Integer8(int8_t x, int8_t y) {
@@ -266,7 +266,7 @@ uint64_t binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y)
   return evaluate<binary::root, Plain>(x, y);
 }
 uint16_t *binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::root, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::root, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_root_Real32_Real32(float x, float y) {
   return evaluate<binary::root, Plain>(x, y);
@@ -276,11 +276,11 @@ double binary_root_Real64_Real64(double x, double y) {
 }
 float *binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                                float y_im) {
-  return store(re, im, evaluate<binary::root, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::root, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                 double y_re, double y_im) {
-  return store(re, im, evaluate<binary::root, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::root, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_root_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::root, Checked>(x, y);
@@ -307,7 +307,7 @@ uint64_t checked_binary_root_UnsignedInteger64_UnsignedInteger64(uint64_t x, uin
   return evaluate<binary::root, Checked>(x, y);
 }
 uint16_t *checked_binary_root_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::root, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::root, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_root_Real32_Real32(float x, float y) {
   return evaluate<binary::root, Checked>(x, y);
@@ -317,9 +317,9 @@ double checked_binary_root_Real64_Real64(double x, double y) {
 }
 float *checked_binary_root_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                        float y_re, float y_im) {
-  return store(re, im, evaluate<binary::root, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::root, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_root_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                         double y_re, double y_im) {
-  return store(re, im, evaluate<binary::root, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::root, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }

@@ -38,10 +38,10 @@ mint unary_round_Real64(double x) {
   return evaluate<unary::round, Plain>(x);
 }
 float *unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::round, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::round, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::round, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::round, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_round_Integer8(int8_t x) {
   return evaluate<unary::round, Checked>(x);
@@ -77,10 +77,10 @@ mint checked_unary_round_Real64(double x) {
   return evaluate<unary::round, Checked>(x);
 }
 float *checked_unary_round_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::round, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::round, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_round_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::round, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::round, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_floor_Integer8(int8_t x) {
@@ -117,10 +117,10 @@ mint unary_floor_Real64(double x) {
   return evaluate<unary::floor, Plain>(x);
 }
 float *unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::floor, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::floor, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::floor, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::floor, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_floor_Integer8(int8_t x) {
   return evaluate<unary::floor, Checked>(x);
@@ -156,10 +156,10 @@ mint checked_unary_floor_Real64(double x) {
   return evaluate<unary::floor, Checked>(x);
 }
 float *checked_unary_floor_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::floor, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::floor, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_floor_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::floor, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::floor, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_ceiling_Integer8(int8_t x) {
@@ -196,10 +196,10 @@ mint unary_ceiling_Real64(double x) {
   return evaluate<unary::ceiling, Plain>(x);
 }
 float *unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ceiling, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ceiling, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_ceiling_Integer8(int8_t x) {
   return evaluate<unary::ceiling, Checked>(x);
@@ -235,10 +235,10 @@ mint checked_unary_ceiling_Real64(double x) {
   return evaluate<unary::ceiling, Checked>(x);
 }
 float *checked_unary_ceiling_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::ceiling, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_ceiling_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::ceiling, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::ceiling, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_intpart_Integer8(int8_t x) {
@@ -275,10 +275,10 @@ mint unary_intpart_Real64(double x) {
   return evaluate<unary::intpart, Plain>(x);
 }
 float *unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::intpart, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::intpart, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::intpart, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::intpart, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_intpart_Integer8(int8_t x) {
   return evaluate<unary::intpart, Checked>(x);
@@ -314,10 +314,10 @@ mint checked_unary_intpart_Real64(double x) {
   return evaluate<unary::intpart, Checked>(x);
 }
 float *checked_unary_intpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::intpart, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::intpart, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_intpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::intpart, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::intpart, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_fracpart_Integer8(int8_t x) {
@@ -345,7 +345,7 @@ uint64_t unary_fracpart_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fracpart, Plain>(x);
 }
 uint16_t *unary_fracpart_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fracpart, Plain>(Real16{x}));
+  return evaluateInto<unary::fracpart, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_fracpart_Real32(float x) {
   return evaluate<unary::fracpart, Plain>(x);
@@ -354,10 +354,10 @@ double unary_fracpart_Real64(double x) {
   return evaluate<unary::fracpart, Plain>(x);
 }
 float *unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fracpart, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fracpart, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_fracpart_Integer8(int8_t x) {
   return evaluate<unary::fracpart, Checked>(x);
@@ -384,7 +384,7 @@ uint64_t checked_unary_fracpart_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fracpart, Checked>(x);
 }
 uint16_t *checked_unary_fracpart_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fracpart, Checked>(Real16{x}));
+  return evaluateInto<unary::fracpart, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_fracpart_Real32(float x) {
   return evaluate<unary::fracpart, Checked>(x);
@@ -393,10 +393,10 @@ double checked_unary_fracpart_Real64(double x) {
   return evaluate<unary::fracpart, Checked>(x);
 }
 float *checked_unary_fracpart_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fracpart, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_fracpart_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fracpart, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fracpart, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_mod1_Integer8(int8_t x) {
@@ -424,7 +424,7 @@ uint64_t unary_mod1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::mod1, Plain>(x);
 }
 uint16_t *unary_mod1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::mod1, Plain>(Real16{x}));
+  return evaluateInto<unary::mod1, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_mod1_Real32(float x) {
   return evaluate<unary::mod1, Plain>(x);
@@ -433,10 +433,10 @@ double unary_mod1_Real64(double x) {
   return evaluate<unary::mod1, Plain>(x);
 }
 float *unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::mod1, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::mod1, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::mod1, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::mod1, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_mod1_Integer8(int8_t x) {
   return evaluate<unary::mod1, Checked>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_mod1_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::mod1, Checked>(x);
 }
 uint16_t *checked_unary_mod1_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::mod1, Checked>(Real16{x}));
+  return evaluateInto<unary::mod1, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_mod1_Real32(float x) {
   return evaluate<unary::mod1, Checked>(x);
@@ -472,10 +472,10 @@ double checked_unary_mod1_Real64(double x) {
   return evaluate<unary::mod1, Checked>(x);
 }
 float *checked_unary_mod1_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::mod1, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_mod1_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::mod1, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::mod1, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
@@ -503,7 +503,7 @@ uint64_t binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint64_t y) 
   return evaluate<binary::mod, Plain>(x, y);
 }
 uint16_t *binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::mod, Plain>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::mod, Plain>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float binary_mod_Real32_Real32(float x, float y) {
   return evaluate<binary::mod, Plain>(x, y);
@@ -513,11 +513,11 @@ double binary_mod_Real64_Real64(double x, double y) {
 }
 float *binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im, float y_re,
                                               float y_im) {
-  return store(re, im, evaluate<binary::mod, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::mod, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                double y_re, double y_im) {
-  return store(re, im, evaluate<binary::mod, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::mod, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_mod_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::mod, Checked>(x, y);
@@ -544,7 +544,7 @@ uint64_t checked_binary_mod_UnsignedInteger64_UnsignedInteger64(uint64_t x, uint
   return evaluate<binary::mod, Checked>(x, y);
 }
 uint16_t *checked_binary_mod_Real16_Real16(uint16_t *result, uint16_t x, uint16_t y) {
-  return store(result, evaluate<binary::mod, Checked>(Real16{x}, Real16{y}));
+  return evaluateInto<binary::mod, Checked>(HalfPlace{result}, Real16{x}, Real16{y});
 }
 float checked_binary_mod_Real32_Real32(float x, float y) {
   return evaluate<binary::mod, Checked>(x, y);
@@ -554,11 +554,11 @@ double checked_binary_mod_Real64_Real64(double x, double y) {
 }
 float *checked_binary_mod_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                       float y_re, float y_im) {
-  return store(re, im, evaluate<binary::mod, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::mod, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_mod_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                        double y_re, double y_im) {
-  return store(re, im, evaluate<binary::mod, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::mod, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 
 int8_t binary_quotient_Integer8_Integer8(int8_t x, int8_t y) {
@@ -596,11 +596,11 @@ mint binary_quotient_Real64_Real64(double x, double y) {
 }
 float *binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                    float y_re, float y_im) {
-  return store(re, im, evaluate<binary::quotient, Plain>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::quotient, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re, double x_im,
                                                     double y_re, double y_im) {
-  return store(re, im, evaluate<binary::quotient, Plain>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::quotient, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }
 int8_t checked_binary_quotient_Integer8_Integer8(int8_t x, int8_t y) {
   return evaluate<binary::quotient, Checked>(x, y);
@@ -637,9 +637,9 @@ mint checked_binary_quotient_Real64_Real64(double x, double y) {
 }
 float *checked_binary_quotient_ComplexReal32_ComplexReal32(float *re, float *im, float x_re, float x_im,
                                                            float y_re, float y_im) {
-  return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im}));
+  return evaluateInto<binary::quotient, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im}, ComplexReal32{y_re, y_im});
 }
 double *checked_binary_quotient_ComplexReal64_ComplexReal64(double *re, double *im, double x_re,
                                                             double x_im, double y_re, double y_im) {
-  return store(re, im, evaluate<binary::quotient, Checked>(ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im}));
+  return evaluateInto<binary::quotient, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im}, ComplexReal64{y_re, y_im});
 }

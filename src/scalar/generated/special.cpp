@@ -29,7 +29,7 @@ uint64_t unary_sinc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinc, Plain>(x);
 }
 uint16_t *unary_sinc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinc, Plain>(Real16{x}));
+  return evaluateInto<unary::sinc, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_sinc_Real32(float x) {
   return evaluate<unary::sinc, Plain>(x);
@@ -38,10 +38,10 @@ double unary_sinc_Real64(double x) {
   return evaluate<unary::sinc, Plain>(x);
 }
 float *unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_sinc_Integer8(int8_t x) {
   return evaluate<unary::sinc, Checked>(x);
@@ -68,7 +68,7 @@ uint64_t checked_unary_sinc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::sinc, Checked>(x);
 }
 uint16_t *checked_unary_sinc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::sinc, Checked>(Real16{x}));
+  return evaluateInto<unary::sinc, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_sinc_Real32(float x) {
   return evaluate<unary::sinc, Checked>(x);
@@ -77,10 +77,10 @@ double checked_unary_sinc_Real64(double x) {
   return evaluate<unary::sinc, Checked>(x);
 }
 float *checked_unary_sinc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::sinc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::sinc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_sinc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::sinc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::sinc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_fibonacci_Integer8(int8_t x) {
@@ -108,7 +108,7 @@ uint64_t unary_fibonacci_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fibonacci, Plain>(x);
 }
 uint16_t *unary_fibonacci_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fibonacci, Plain>(Real16{x}));
+  return evaluateInto<unary::fibonacci, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_fibonacci_Real32(float x) {
   return evaluate<unary::fibonacci, Plain>(x);
@@ -117,10 +117,10 @@ double unary_fibonacci_Real64(double x) {
   return evaluate<unary::fibonacci, Plain>(x);
 }
 float *unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_fibonacci_Integer8(int8_t x) {
   return evaluate<unary::fibonacci, Checked>(x);
@@ -147,7 +147,7 @@ uint64_t checked_unary_fibonacci_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::fibonacci, Checked>(x);
 }
 uint16_t *checked_unary_fibonacci_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::fibonacci, Checked>(Real16{x}));
+  return evaluateInto<unary::fibonacci, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_fibonacci_Real32(float x) {
   return evaluate<unary::fibonacci, Checked>(x);
@@ -156,10 +156,10 @@ double checked_unary_fibonacci_Real64(double x) {
   return evaluate<unary::fibonacci, Checked>(x);
 }
 float *checked_unary_fibonacci_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_fibonacci_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::fibonacci, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::fibonacci, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_lucasl_Integer8(int8_t x) {
@@ -187,7 +187,7 @@ uint64_t unary_lucasl_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::lucasl, Plain>(x);
 }
 uint16_t *unary_lucasl_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::lucasl, Plain>(Real16{x}));
+  return evaluateInto<unary::lucasl, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_lucasl_Real32(float x) {
   return evaluate<unary::lucasl, Plain>(x);
@@ -196,10 +196,10 @@ double unary_lucasl_Real64(double x) {
   return evaluate<unary::lucasl, Plain>(x);
 }
 float *unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::lucasl, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::lucasl, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_lucasl_Integer8(int8_t x) {
   return evaluate<unary::lucasl, Checked>(x);
@@ -226,7 +226,7 @@ uint64_t checked_unary_lucasl_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::lucasl, Checked>(x);
 }
 uint16_t *checked_unary_lucasl_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::lucasl, Checked>(Real16{x}));
+  return evaluateInto<unary::lucasl, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_lucasl_Real32(float x) {
   return evaluate<unary::lucasl, Checked>(x);
@@ -235,10 +235,10 @@ double checked_unary_lucasl_Real64(double x) {
   return evaluate<unary::lucasl, Checked>(x);
 }
 float *checked_unary_lucasl_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::lucasl, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_lucasl_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::lucasl, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::lucasl, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_gudermannian_Integer8(int8_t x) {
@@ -266,7 +266,7 @@ uint64_t unary_gudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gudermannian, Plain>(x);
 }
 uint16_t *unary_gudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gudermannian, Plain>(Real16{x}));
+  return evaluateInto<unary::gudermannian, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_gudermannian_Real32(float x) {
   return evaluate<unary::gudermannian, Plain>(x);
@@ -275,10 +275,10 @@ double unary_gudermannian_Real64(double x) {
   return evaluate<unary::gudermannian, Plain>(x);
 }
 float *unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_gudermannian_Integer8(int8_t x) {
   return evaluate<unary::gudermannian, Checked>(x);
@@ -305,7 +305,7 @@ uint64_t checked_unary_gudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gudermannian, Checked>(x);
 }
 uint16_t *checked_unary_gudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gudermannian, Checked>(Real16{x}));
+  return evaluateInto<unary::gudermannian, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_gudermannian_Real32(float x) {
   return evaluate<unary::gudermannian, Checked>(x);
@@ -314,10 +314,10 @@ double checked_unary_gudermannian_Real64(double x) {
   return evaluate<unary::gudermannian, Checked>(x);
 }
 float *checked_unary_gudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_gudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gudermannian, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gudermannian, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_inversegudermannian_Integer8(int8_t x) {
@@ -345,7 +345,7 @@ uint64_t unary_inversegudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
 }
 uint16_t *unary_inversegudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversegudermannian, Plain>(Real16{x}));
+  return evaluateInto<unary::inversegudermannian, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_inversegudermannian_Real32(float x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
@@ -354,10 +354,10 @@ double unary_inversegudermannian_Real64(double x) {
   return evaluate<unary::inversegudermannian, Plain>(x);
 }
 float *unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_inversegudermannian_Integer8(int8_t x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
@@ -384,7 +384,7 @@ uint64_t checked_unary_inversegudermannian_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
 }
 uint16_t *checked_unary_inversegudermannian_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversegudermannian, Checked>(Real16{x}));
+  return evaluateInto<unary::inversegudermannian, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_inversegudermannian_Real32(float x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
@@ -393,10 +393,10 @@ double checked_unary_inversegudermannian_Real64(double x) {
   return evaluate<unary::inversegudermannian, Checked>(x);
 }
 float *checked_unary_inversegudermannian_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_inversegudermannian_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::inversegudermannian, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversegudermannian, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_haversine_Integer8(int8_t x) {
@@ -424,7 +424,7 @@ uint64_t unary_haversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::haversine, Plain>(x);
 }
 uint16_t *unary_haversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::haversine, Plain>(Real16{x}));
+  return evaluateInto<unary::haversine, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_haversine_Real32(float x) {
   return evaluate<unary::haversine, Plain>(x);
@@ -433,10 +433,10 @@ double unary_haversine_Real64(double x) {
   return evaluate<unary::haversine, Plain>(x);
 }
 float *unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::haversine, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::haversine, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::haversine, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::haversine, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_haversine_Integer8(int8_t x) {
   return evaluate<unary::haversine, Checked>(x);
@@ -463,7 +463,7 @@ uint64_t checked_unary_haversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::haversine, Checked>(x);
 }
 uint16_t *checked_unary_haversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::haversine, Checked>(Real16{x}));
+  return evaluateInto<unary::haversine, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_haversine_Real32(float x) {
   return evaluate<unary::haversine, Checked>(x);
@@ -472,10 +472,10 @@ double checked_unary_haversine_Real64(double x) {
   return evaluate<unary::haversine, Checked>(x);
 }
 float *checked_unary_haversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::haversine, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::haversine, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_haversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::haversine, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::haversine, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_inversehaversine_Integer8(int8_t x) {
@@ -503,7 +503,7 @@ uint64_t unary_inversehaversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversehaversine, Plain>(x);
 }
 uint16_t *unary_inversehaversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversehaversine, Plain>(Real16{x}));
+  return evaluateInto<unary::inversehaversine, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_inversehaversine_Real32(float x) {
   return evaluate<unary::inversehaversine, Plain>(x);
@@ -512,10 +512,10 @@ double unary_inversehaversine_Real64(double x) {
   return evaluate<unary::inversehaversine, Plain>(x);
 }
 float *unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_inversehaversine_Integer8(int8_t x) {
   return evaluate<unary::inversehaversine, Checked>(x);
@@ -542,7 +542,7 @@ uint64_t checked_unary_inversehaversine_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::inversehaversine, Checked>(x);
 }
 uint16_t *checked_unary_inversehaversine_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::inversehaversine, Checked>(Real16{x}));
+  return evaluateInto<unary::inversehaversine, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_inversehaversine_Real32(float x) {
   return evaluate<unary::inversehaversine, Checked>(x);
@@ -551,10 +551,10 @@ double checked_unary_inversehaversine_Real64(double x) {
   return evaluate<unary::inversehaversine, Checked>(x);
 }
 float *checked_unary_inversehaversine_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_inversehaversine_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::inversehaversine, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::inversehaversine, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_erfc_Integer8(int8_t x) {
@@ -582,7 +582,7 @@ uint64_t unary_erfc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erfc, Plain>(x);
 }
 uint16_t *unary_erfc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erfc, Plain>(Real16{x}));
+  return evaluateInto<unary::erfc, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_erfc_Real32(float x) {
   return evaluate<unary::erfc, Plain>(x);
@@ -591,10 +591,10 @@ double unary_erfc_Real64(double x) {
   return evaluate<unary::erfc, Plain>(x);
 }
 float *unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erfc, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erfc, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erfc, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erfc, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_erfc_Integer8(int8_t x) {
   return evaluate<unary::erfc, Checked>(x);
@@ -621,7 +621,7 @@ uint64_t checked_unary_erfc_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erfc, Checked>(x);
 }
 uint16_t *checked_unary_erfc_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erfc, Checked>(Real16{x}));
+  return evaluateInto<unary::erfc, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_erfc_Real32(float x) {
   return evaluate<unary::erfc, Checked>(x);
@@ -630,10 +630,10 @@ double checked_unary_erfc_Real64(double x) {
   return evaluate<unary::erfc, Checked>(x);
 }
 float *checked_unary_erfc_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erfc, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erfc, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_erfc_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erfc, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erfc, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_erf_Integer8(int8_t x) {
@@ -661,7 +661,7 @@ uint64_t unary_erf_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erf, Plain>(x);
 }
 uint16_t *unary_erf_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erf, Plain>(Real16{x}));
+  return evaluateInto<unary::erf, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_erf_Real32(float x) {
   return evaluate<unary::erf, Plain>(x);
@@ -670,10 +670,10 @@ double unary_erf_Real64(double x) {
   return evaluate<unary::erf, Plain>(x);
 }
 float *unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erf, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erf, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erf, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erf, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_erf_Integer8(int8_t x) {
   return evaluate<unary::erf, Checked>(x);
@@ -700,7 +700,7 @@ uint64_t checked_unary_erf_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::erf, Checked>(x);
 }
 uint16_t *checked_unary_erf_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::erf, Checked>(Real16{x}));
+  return evaluateInto<unary::erf, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_erf_Real32(float x) {
   return evaluate<unary::erf, Checked>(x);
@@ -709,10 +709,10 @@ double checked_unary_erf_Real64(double x) {
   return evaluate<unary::erf, Checked>(x);
 }
 float *checked_unary_erf_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::erf, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::erf, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_erf_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::erf, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::erf, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_gamma_Integer8(int8_t x) {
@@ -740,7 +740,7 @@ uint64_t unary_gamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gamma, Plain>(x);
 }
 uint16_t *unary_gamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gamma, Plain>(Real16{x}));
+  return evaluateInto<unary::gamma, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_gamma_Real32(float x) {
   return evaluate<unary::gamma, Plain>(x);
@@ -749,10 +749,10 @@ double unary_gamma_Real64(double x) {
   return evaluate<unary::gamma, Plain>(x);
 }
 float *unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gamma, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gamma, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gamma, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gamma, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_gamma_Integer8(int8_t x) {
   return evaluate<unary::gamma, Checked>(x);
@@ -779,7 +779,7 @@ uint64_t checked_unary_gamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::gamma, Checked>(x);
 }
 uint16_t *checked_unary_gamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::gamma, Checked>(Real16{x}));
+  return evaluateInto<unary::gamma, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_gamma_Real32(float x) {
   return evaluate<unary::gamma, Checked>(x);
@@ -788,10 +788,10 @@ double checked_unary_gamma_Real64(double x) {
   return evaluate<unary::gamma, Checked>(x);
 }
 float *checked_unary_gamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::gamma, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::gamma, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_gamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::gamma, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::gamma, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_loggamma_Integer8(int8_t x) {
@@ -819,7 +819,7 @@ uint64_t unary_loggamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::loggamma, Plain>(x);
 }
 uint16_t *unary_loggamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::loggamma, Plain>(Real16{x}));
+  return evaluateInto<unary::loggamma, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_loggamma_Real32(float x) {
   return evaluate<unary::loggamma, Plain>(x);
@@ -828,10 +828,10 @@ double unary_loggamma_Real64(double x) {
   return evaluate<unary::loggamma, Plain>(x);
 }
 float *unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::loggamma, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::loggamma, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_loggamma_Integer8(int8_t x) {
   return evaluate<unary::loggamma, Checked>(x);
@@ -858,7 +858,7 @@ uint64_t checked_unary_loggamma_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::loggamma, Checked>(x);
 }
 uint16_t *checked_unary_loggamma_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::loggamma, Checked>(Real16{x}));
+  return evaluateInto<unary::loggamma, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_loggamma_Real32(float x) {
   return evaluate<unary::loggamma, Checked>(x);
@@ -867,10 +867,10 @@ double checked_unary_loggamma_Real64(double x) {
   return evaluate<unary::loggamma, Checked>(x);
 }
 float *checked_unary_loggamma_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::loggamma, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_loggamma_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::loggamma, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::loggamma, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 
 int8_t unary_logistic_Integer8(int8_t x) {
@@ -898,7 +898,7 @@ uint64_t unary_logistic_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::logistic, Plain>(x);
 }
 uint16_t *unary_logistic_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::logistic, Plain>(Real16{x}));
+  return evaluateInto<unary::logistic, Plain>(HalfPlace{result}, Real16{x});
 }
 float unary_logistic_Real32(float x) {
   return evaluate<unary::logistic, Plain>(x);
@@ -907,10 +907,10 @@ double unary_logistic_Real64(double x) {
   return evaluate<unary::logistic, Plain>(x);
 }
 float *unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::logistic, Plain>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::logistic, Plain>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::logistic, Plain>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::logistic, Plain>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
 int8_t checked_unary_logistic_Integer8(int8_t x) {
   return evaluate<unary::logistic, Checked>(x);
@@ -937,7 +937,7 @@ uint64_t checked_unary_logistic_UnsignedInteger64(uint64_t x) {
   return evaluate<unary::logistic, Checked>(x);
 }
 uint16_t *checked_unary_logistic_Real16(uint16_t *result, uint16_t x) {
-  return store(result, evaluate<unary::logistic, Checked>(Real16{x}));
+  return evaluateInto<unary::logistic, Checked>(HalfPlace{result}, Real16{x});
 }
 float checked_unary_logistic_Real32(float x) {
   return evaluate<unary::logistic, Checked>(x);
@@ -946,8 +946,8 @@ double checked_unary_logistic_Real64(double x) {
   return evaluate<unary::logistic, Checked>(x);
 }
 float *checked_unary_logistic_ComplexReal32(float *re, float *im, float x_re, float x_im) {
-  return store(re, im, evaluate<unary::logistic, Checked>(ComplexReal32{x_re, x_im}));
+  return evaluateInto<unary::logistic, Checked>(ComplexPlace{re, im}, ComplexReal32{x_re, x_im});
 }
 double *checked_unary_logistic_ComplexReal64(double *re, double *im, double x_re, double x_im) {
-  return store(re, im, evaluate<unary::logistic, Checked>(ComplexReal64{x_re, x_im}));
+  return evaluateInto<unary::logistic, Checked>(ComplexPlace{re, im}, ComplexReal64{x_re, x_im});
 }
