@@ -74,9 +74,10 @@ void keepEmptyBox(RemoteSide &side, RemoteBox *box) {
 uint32_t reclaimBox(SizeClass &sizeClass, RemoteBox *box) {
   if (box == nullptr) return 0;
   for (uint32_t i = 0; i < box->count; ++i) {
-    const RemoteCell &remote = box->cells[i];
-    returnCell(sizeClass.heap, remote.slab, remote.cell);
-    settleSlab(remote.slab);
+    FreeCell *const cell = box->cells[i];
+    Slab *const slab = slabOfCell(sizeClass, cell);
+    returnCell(sizeClass.heap, slab, cell);
+    settleSlab(slab);
   }
   const uint32_t bytes = box->count * sizeClass.objectBytes;
   keepEmptyBox(remoteSideOf(sizeClass), box);
@@ -90,7 +91,7 @@ uint32_t reclaimGrip(SizeClass &sizeClass, const Grip &grip) {
 }
 
 // Whether there was room for the cell in the box. The first cell finds no box and makes it.
-bool noteInBox(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
+bool noteInBox(SizeClass &sizeClass, FreeCell *cell) {
   RemoteBox *&box = remoteSideOf(sizeClass).filling;
   if (box == nullptr) {
     box = static_cast<RemoteBox *>(processHeap.load(std::memory_order_relaxed)->take(sizeof(RemoteBox)));
@@ -98,13 +99,13 @@ bool noteInBox(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
     box->count = 0;
   }
   if (box->count == kBoxCells) return false;
-  box->cells[box->count++] = {slab, cell};
+  box->cells[box->count++] = cell;
   return true;
 }
 
 void deferCell(SizeClass &sizeClass, Slab *slab, FreeCell *cell) {
   sizeClass.remoteBytes += sizeClass.objectBytes;
-  if (!noteInBox(sizeClass, slab, cell)) {
+  if (!noteInBox(sizeClass, cell)) {
     cell->next = CellLink(slab->remoteHead, 0);
     slab->remoteHead = cell;
   }

@@ -7,20 +7,23 @@
 #pragma once
 
 #include "heap_slab.h"
+#include "heap_state.h"
 
 namespace torvane {
 
-inline constexpr uint32_t kBoxCells = 126;
-
-struct RemoteCell {
-  Slab *slab;
-  FreeCell *cell;
-};
+inline constexpr uint32_t kBoxCells = 254;
 
 struct RemoteBox {
   uint32_t count;
-  RemoteCell cells[kBoxCells];
+  FreeCell *cells[kBoxCells];
 };
+
+// The slab of a cell that is not free: its page-map entry, or what its header names. For a cell in a box this
+// is the owner's to find, so that the box, which travels between the processors, has one word a cell.
+inline Slab *slabOfCell(const SizeClass &sizeClass, const FreeCell *cell) {
+  if (!hasCellHeaders(sizeClass)) return slabOfAddress(currentState()->pageMap, cell);
+  return reinterpret_cast<Slab *>(*reinterpret_cast<const uintptr_t *>(cell) - 1);
+}
 
 inline RemoteSide &remoteSideOf(SizeClass &sizeClass) {
   HeapRecords &records = recordsOf(sizeClass.heap);

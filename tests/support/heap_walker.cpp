@@ -54,15 +54,17 @@ uint32_t markBoxedCells(const Slab *slab, SizeClass &sizeClass, std::vector<bool
   const RemoteBox *box = remoteSideOf(sizeClass).filling;
   uint32_t count = 0;
   for (uint32_t i = 0; box != nullptr && i < box->count; ++i)
-    if (box->cells[i].slab == slab) count += markCell(slab, box->cells[i].cell, marked, findings);
+    if (slabOfCell(sizeClass, box->cells[i]) == slab)
+      count += markCell(slab, box->cells[i], marked, findings);
   return count;
 }
 
 bool hasRemoteCells(SizeClass &sizeClass, const Slab *slab) {
   if (slab->remoteHead != nullptr) return true;
   const RemoteBox *box = remoteSideOf(sizeClass).filling;
-  return box != nullptr && std::any_of(box->cells, box->cells + box->count,
-                                       [&](const RemoteCell &remote) { return remote.slab == slab; });
+  return box != nullptr && std::any_of(box->cells, box->cells + box->count, [&](const FreeCell *cell) {
+           return slabOfCell(sizeClass, cell) == slab;
+         });
 }
 
 void checkLiveHeaders(const Slab *slab, const std::vector<bool> &free, Findings &findings) {
