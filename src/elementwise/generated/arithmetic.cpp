@@ -235,3 +235,8 @@ mint machfunc_c_total(mcomplex *accumulator, const mcomplex *data, mint count, c
                       mint flags) {
   return reductionRoutine<reduction::total, ComplexReal64>(accumulator, data, count, strides, flags);
 }
+
+mint machfunc_ii_dot(mint *accumulator, const mint *x, const mint *y, mint count, const mint *strides,
+                     mint flags) {
+  return pairReductionRoutine<reduction::dot, mint>(accumulator, x, y, count, strides, flags);
+}

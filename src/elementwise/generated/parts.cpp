@@ -80,3 +80,12 @@ mint machfunc_c_sign(void *result, const void *x, mint count, const mint *stride
 
 
 
+
+mint machfunc_d_fpexception(mint *accumulator, const mreal *data, mint count, const mint *strides,
+                            mint flags) {
+  return reductionRoutine<reduction::fpexception, mreal>(accumulator, data, count, strides, flags);
+}
+mint machfunc_c_fpexception(mint *accumulator, const mcomplex *data, mint count, const mint *strides,
+                            mint flags) {
+  return reductionRoutine<reduction::fpexception, ComplexReal64>(accumulator, data, count, strides, flags);
+}
