@@ -4,14 +4,14 @@
 // of a piece, and `merge`, which joins two pieces. The routine stores the initial value itself: what the
 // accumulator held does not count. The sum of reals runs strictly left to right in its piece, its rounding
 // being part of the interface; where the order cannot be told from the result, the loops are dense ones in
-// lanes (lanes.h). The error code of a failure is lost; the position is what a routine returns.
+// packed registers (folds.h). The error code of a failure is lost; the position is what a routine returns.
 #pragma once
 
 #include "../scalar/bodies/arithmetic.h"
 #include "../scalar/bodies/parts.h"
 #include "../scalar/magnitude.h"
-#include "lanes.h"
-#include "parallel_reduction.h"
+#include "folds.h"
+#include "reduction_loops.h"
 
 #include <torvane/operators.h>
 
@@ -133,7 +133,7 @@ template <class T> mint firstOf(T value, const Run<T> &run) {
   return 0;
 }
 
-// Lanes forget which of the two zeros came first, which is the one that an extreme keeps.
+// Packed registers forget which of the two zeros came first, which is the one that an extreme keeps.
 template <class T> void restoreZero(T &extreme, const Run<T> &run) {
   if constexpr (!isInteger<T>)
     if (extreme == 0) extreme = run.at(firstOf(extreme, run) - 1);
@@ -335,22 +335,21 @@ private:
 
 } // namespace reduction
 
-// ---- routines -----------------------------------------------------------------------------------
+// ---- loops --------------------------------------------------------------------------------------
 
-// The type-free form in which a reduction goes to the workers.
+// A reduction in the form that its driver knows.
 template <class Op, class Form, class T, bool isPair> struct ErasedReduction {
   using Accumulator = typename Op::template Accumulator<T>;
-  static_assert(sizeof(Accumulator) <= kAccumulatorBytes);
+  using Operands = torvane_loops::ReductionOperands;
+  static_assert(sizeof(Accumulator) <= torvane_loops::kAccumulatorBytes);
 
-  static Run<T> operand(const ReductionOperands &operands, mint which, mint first, mint last) {
+  static Run<T> operand(const Operands &operands, mint which, mint first, mint last) {
     const Run<T> all = {static_cast<const T *>(operands.data[which]), operands.strides[which], last};
     return all.from(first, last - first);
   }
-  static void start(void *accumulator) {
-    *static_cast<Accumulator *>(accumulator) = Op::template initial<T>();
-  }
-  static mint run(void *accumulator, const ReductionOperands &operands, mint first, mint last) {
+  static mint run(void *accumulator, const Operands &operands, mint first, mint last) {
     auto &own = *static_cast<Accumulator *>(accumulator);
+    own = Op::template initial<T>();
     const Run<T> x = operand(operands, 0, first, last);
     if constexpr (isPair)
       return Op::template take<Form>(own, x, operand(operands, 1, first, last));
@@ -361,43 +360,26 @@ template <class Op, class Form, class T, bool isPair> struct ErasedReduction {
     return Op::template merge<Form, T>(*static_cast<Accumulator *>(into),
                                        *static_cast<const Accumulator *>(from));
   }
-  static constexpr ReductionLoops kLoops = {start, run, merge};
+  static mint finish(const void *accumulator, const Operands &operands, mint count) {
+    return Op::finish(*static_cast<const Accumulator *>(accumulator), operand(operands, 0, 0, count));
+  }
+  static constexpr torvane_loops::ReductionForm form() {
+    if constexpr (Form::checked && isInteger<T> && requires { &Op::finish; })
+      return {run, merge, finish};
+    else
+      return {run, merge, nullptr};
+  }
 };
 
-template <class Op, class Form, class T, bool isPair>
-mint reduce(void *accumulator, const ReductionOperands &operands, mint count) {
-  using Erased = ErasedReduction<Op, Form, T, isPair>;
-  typename Erased::Accumulator own = Op::template initial<T>(); // the caller's may stand among the data
-  mint position = 0;
-  if (count > 0) {
-    position = goesParallel(isPair ? kScalarValued : kReductions, count)
-                   ? reduceInParallel(Erased::kLoops, &own, operands, count)
-                   : Erased::run(&own, operands, 0, count);
-    if constexpr (Form::checked && isInteger<T> && requires { &Op::finish; })
-      if (position == 0) position = Op::finish(own, Erased::operand(operands, 0, 0, count));
-  }
-  *static_cast<typename Erased::Accumulator *>(accumulator) = own;
-  return position;
-}
-
-template <class T> constexpr bool isCheckedBy(mint flags) {
-  return (flags & (isInteger<T> ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS)) != 0;
-}
-
-// strides[0] is the accumulator's and is not read; the operands' follow.
-template <class Op, class T>
-mint reductionRoutine(void *accumulator, const void *data, mint count, const mint *strides, mint flags) {
-  const ReductionOperands operands = {{data, nullptr}, {strides[1], 0}};
-  return isCheckedBy<T>(flags) ? reduce<Op, Checked, T, false>(accumulator, operands, count)
-                               : reduce<Op, Plain, T, false>(accumulator, operands, count);
-}
+template <class Op, class T, bool isPair>
+inline constexpr torvane_loops::ReductionLoop kLoopOf = {
+    ErasedReduction<Op, Plain, T, isPair>::form(), ErasedReduction<Op, Checked, T, isPair>::form(),
+    isInteger<T> ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS,
+    sizeof(typename Op::template Accumulator<T>)};
 
 template <class Op, class T>
-mint pairReductionRoutine(void *accumulator, const void *x, const void *y, mint count, const mint *strides,
-                          mint flags) {
-  const ReductionOperands operands = {{x, y}, {strides[1], strides[2]}};
-  return isCheckedBy<T>(flags) ? reduce<Op, Checked, T, true>(accumulator, operands, count)
-                               : reduce<Op, Plain, T, true>(accumulator, operands, count);
-}
+inline constexpr const torvane_loops::ReductionLoop &kReductionLoop = kLoopOf<Op, T, false>;
+template <class Op, class T>
+inline constexpr const torvane_loops::PairReductionLoop &kPairReductionLoop = kLoopOf<Op, T, true>;
 
 } // namespace torvane

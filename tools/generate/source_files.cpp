@@ -87,7 +87,8 @@ void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines) {
       " * dot; of a long run, each worker sums a piece. An extreme fails only if it is the most negative word,\n"
       " * where that first occurs.",
       routines);
-  writeUnits(files, "src/elementwise", "#include \"../kernel.h\"\n#include \"../reduction.h\"\n",
+  writeUnits(files, "src/elementwise",
+             "#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include \"../reduction_driver.h\"\n",
              "machfuncs.h", routines);
 }
 

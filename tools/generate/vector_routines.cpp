@@ -91,14 +91,15 @@ ExportGroup reductionGroup(const ReductionRow &row) {
     const bool isPair = row.operands == 2;
     const std::string name =
         "machfunc_" + std::string(static_cast<size_t>(row.operands), kKindLetter[kind]) + "_" + row.vector;
-    const std::string shell = std::string(isPair ? "pairReductionRoutine<" : "reductionRoutine<") +
-                              listed({std::string("reduction::") + row.vector, kKindType[kind]}) + ">";
-    DerivedExport routine =
-        isPair ? makeRoutine(name, shell, {"x", "y"}) : makeRoutine(name, shell, {"data"});
+    const std::string arity = isPair ? "PairReduction" : "Reduction";
+    const std::string loop =
+        "k" + arity + "Loop<" + listed({std::string("reduction::") + row.vector, kKindType[kind]}) + ">";
+    DerivedExport routine = isPair ? makeRoutine(name, "drive" + arity, {"x", "y"})
+                                   : makeRoutine(name, "drive" + arity, {"data"});
     routine.signature.parameters[0] = {accumulatorType(row, kind), "accumulator"};
     for (size_t k = 1; k <= static_cast<size_t>(row.operands); ++k)
       routine.signature.parameters[k].type = {operandTypes[kind], "ptr", ""};
-    routine.definition.replace(routine.definition.find("(result"), 7, "(accumulator");
+    routine.definition.replace(routine.definition.find("(result"), 7, "(" + loop + ", accumulator");
     group.exports.push_back(routine);
   }
   return group;

@@ -1,8 +1,9 @@
-// Runs of elements held in vector registers, for reductions whose result does not depend on the order.
+// Folds: reductions over elements that stand in vector registers, for results that do not depend on the
+// order.
 //
-// Lanes<T> is as wide as the registers of the instruction set that the unit is compiled for, so that a unit
-// of another processor level has other types here and must give them another namespace. A fold is a record
-// that takes elements and merges with its like; the same record serves one element and a vector of them.
+// A fold is a record that takes elements and merges with its like; the same record serves one element and a
+// register of them. Packed<T> is as wide as the registers of the instruction set that the unit is compiled
+// for, so that a unit of another processor level has other types here and must give them another namespace.
 #pragma once
 
 #include "../scalar/scalar_types.h"
@@ -10,24 +11,24 @@
 namespace torvane {
 
 #if defined __AVX512F__
-inline constexpr mint kLaneBytes = 64;
+inline constexpr mint kPackedBytes = 64;
 #elif defined __AVX2__
-inline constexpr mint kLaneBytes = 32;
+inline constexpr mint kPackedBytes = 32;
 #else
-inline constexpr mint kLaneBytes = 16;
+inline constexpr mint kPackedBytes = 16;
 #endif
 
-template <class T> struct LanesOf { typedef T Type __attribute__((vector_size(kLaneBytes))); };
-template <class T> using Lanes = typename LanesOf<T>::Type;
-template <class T> inline constexpr mint kLaneCount = kLaneBytes / static_cast<mint>(sizeof(T));
+template <class T> struct PackedOf { typedef T Type __attribute__((vector_size(kPackedBytes))); };
+template <class T> using Packed = typename PackedOf<T>::Type;
+template <class T> inline constexpr mint kPackedLength = kPackedBytes / static_cast<mint>(sizeof(T));
 
-template <class T> __attribute__((always_inline)) inline Lanes<T> loadLanes(const T *from) {
-  Lanes<T> x;
+template <class T> __attribute__((always_inline)) inline Packed<T> loadPacked(const T *from) {
+  Packed<T> x;
   __builtin_memcpy(&x, from, sizeof x); // any alignment
   return x;
 }
-template <class T> __attribute__((always_inline)) inline Lanes<T> everyLane(T value) {
-  return Lanes<T>{} + value;
+template <class T> __attribute__((always_inline)) inline Packed<T> everyLane(T value) {
+  return Packed<T>{} + value;
 }
 
 // The sum modulo the width; T is unsigned.
@@ -62,14 +63,14 @@ template <class X> struct Extremes {
 
 // Magnitudes of the bits of signed words, so that the reserved value has one: the largest of all.
 inline uint32_t magnitudeIn(uint32_t x) { return (x ^ (0 - (x >> 31))) - (0 - (x >> 31)); }
-inline Lanes<uint32_t> magnitudeIn(Lanes<uint32_t> x) {
-  const Lanes<uint32_t> sign = Lanes<uint32_t>{} - (x >> 31);
+inline Packed<uint32_t> magnitudeIn(Packed<uint32_t> x) {
+  const Packed<uint32_t> sign = Packed<uint32_t>{} - (x >> 31);
   return (x ^ sign) - sign;
 }
 inline mreal magnitudeIn(mreal x) { return __builtin_fabs(x); }
-inline Lanes<mreal> magnitudeIn(Lanes<mreal> x) {
+inline Packed<mreal> magnitudeIn(Packed<mreal> x) {
   constexpr uint64_t kAllButSign = ~uint64_t{0} >> 1;
-  return (Lanes<mreal>)((Lanes<uint64_t>)x & everyLane(kAllButSign));
+  return (Packed<mreal>)((Packed<uint64_t>)x & everyLane(kAllButSign));
 }
 template <class X> struct LargestMagnitude {
   X value;
@@ -84,10 +85,10 @@ template <class X> struct Finiteness {
   void merge(Finiteness other) { value += other.value; }
 };
 
-template <template <class> class Fold, class T> Fold<Lanes<T>> everyLaneOf(Fold<T> state) {
+template <template <class> class Fold, class T> Fold<Packed<T>> everyLaneOf(Fold<T> state) {
   return {everyLane(state.value)};
 }
-template <class T> Extremes<Lanes<T>> everyLaneOf(Extremes<T> state) {
+template <class T> Extremes<Packed<T>> everyLaneOf(Extremes<T> state) {
   return {everyLane(state.low), everyLane(state.high)};
 }
 template <class T, template <class> class Fold, class X> Fold<T> laneOf(const Fold<X> &state, mint k) {
@@ -100,17 +101,17 @@ template <class T, class X> Extremes<T> laneOf(const Extremes<X> &state, mint k)
 // Four vectors at a time, then one, then elements. Every lane starts from `state`, which therefore must be
 // neutral: taken twice it counts for nothing.
 template <template <class> class Fold, class T> void foldDense(Fold<T> &state, const T *data, mint count) {
-  constexpr mint kOne = kLaneCount<T>, kFour = 4 * kOne;
+  constexpr mint kOne = kPackedLength<T>, kFour = 4 * kOne;
   mint k = 0;
   if (count >= kOne) {
-    Fold<Lanes<T>> a = everyLaneOf(state), b = a, c = a, d = a;
+    Fold<Packed<T>> a = everyLaneOf(state), b = a, c = a, d = a;
     for (; count - k >= kFour; k += kFour) {
-      a.take(loadLanes(data + k));
-      b.take(loadLanes(data + k + kOne));
-      c.take(loadLanes(data + k + 2 * kOne));
-      d.take(loadLanes(data + k + 3 * kOne));
+      a.take(loadPacked(data + k));
+      b.take(loadPacked(data + k + kOne));
+      c.take(loadPacked(data + k + 2 * kOne));
+      d.take(loadPacked(data + k + 3 * kOne));
     }
-    for (; count - k >= kOne; k += kOne) a.take(loadLanes(data + k));
+    for (; count - k >= kOne; k += kOne) a.take(loadPacked(data + k));
     a.merge(b);
     c.merge(d);
     a.merge(c);
