@@ -78,6 +78,15 @@ template <class X> struct LargestMagnitude {
   void merge(LargestMagnitude other) { value = other.value > value ? other.value : value; }
 };
 
+// A NaN stays: nothing compares with it.
+template <class X> struct LargestMagnitudeOrNaN {
+  X value;
+  void take(X x) { merge({magnitudeIn(x)}); }
+  void merge(LargestMagnitudeOrNaN other) {
+    value = ((other.value > value) | (other.value != other.value)) ? other.value : value;
+  }
+};
+
 // 0 while all elements are finite, then a NaN: a finite number less itself is 0, anything else is not.
 template <class X> struct Finiteness {
   X value;

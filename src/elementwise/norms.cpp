@@ -8,6 +8,7 @@
 #include "../linalg/blas.h"
 #include "../scalar/bodies/parts.h"
 #include "../scalar/bodies/powers.h"
+#include "folds.h"
 
 #include <torvane/operators.h>
 #include <torvane/vectors.h>
@@ -74,6 +75,14 @@ template <class Terms> mreal largestOf(const Terms &terms, mint count) {
   for (mint k = 0; k < count; ++k)
     if (const mreal a = terms.at(k); a > largest || a != a) largest = a; // a NaN stays: nothing is larger
   return largest;
+}
+mreal largestOf(const PlainTerms<mreal> &terms, mint count) {
+  LargestMagnitudeOrNaN<mreal> largest = {0};
+  if (terms.stride == 1)
+    foldDense(largest, terms.data, count);
+  else
+    for (mint k = 0; k < count; ++k) largest.merge({terms.at(k)});
+  return largest.value;
 }
 
 template <class Terms> mreal rootOfSquares(const Terms &terms, mint count, mreal divisor) {

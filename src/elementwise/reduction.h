@@ -271,6 +271,15 @@ private:
   }
 };
 
+// Dense runs have a loop of their own, which needs no multiplication by a stride and can be vectorised.
+template <class Body>
+__attribute__((always_inline)) inline void walkBoth(const Run<mint> &x, const Run<mint> &y, Body body) {
+  if (x.isDense() && y.isDense())
+    for (mint k = 0; k < x.count; ++k) body(x.data[k], y.data[k]);
+  else
+    for (mint k = 0; k < x.count; ++k) body(x.at(k), y.at(k));
+}
+
 // The products' sum. A checked one asks, at each element, only whether the exact sum of what stands and the
 // product fits, as the fused operation on scalars does; a product alone need not.
 struct dot {
@@ -288,12 +297,7 @@ struct dot {
 private:
   static uint32_t wrappedProducts(const Run<mint> &x, const Run<mint> &y) {
     uint32_t sum = 0;
-    if (x.isDense() && y.isDense())
-      for (mint k = 0; k < x.count; ++k)
-        sum += static_cast<uint32_t>(x.data[k]) * static_cast<uint32_t>(y.data[k]);
-    else
-      for (mint k = 0; k < x.count; ++k)
-        sum += static_cast<uint32_t>(x.at(k)) * static_cast<uint32_t>(y.at(k));
+    walkBoth(x, y, [&sum](mint a, mint b) { sum += static_cast<uint32_t>(a) * static_cast<uint32_t>(b); });
     return sum;
   }
 
@@ -307,23 +311,23 @@ private:
     return 0;
   }
 
-  // Bits that no magnitude has fall from the product of any two: 16 a side leave room for the sum.
-  static bool areShort(const Run<mint> &x, const Run<mint> &y) {
-    uint32_t bits = 0;
-    for (mint k = 0; k < x.count; ++k) bits |= magnitudeBits(x.at(k)) | magnitudeBits(y.at(k));
-    return bits < 1u << 16;
-  }
+  // The sum of the magnitudes of the products; the largest number where a factor has more than 16 bits, so
+  // that a product might have more than 32.
   static uint64_t sumOfMagnitudes(const Run<mint> &x, const Run<mint> &y) {
     uint64_t sum = 0;
-    for (mint k = 0; k < x.count; ++k) sum += uint64_t{magnitudeBits(x.at(k)) * magnitudeBits(y.at(k))};
-    return sum;
+    uint32_t bits = 0;
+    walkBoth(x, y, [&](mint a, mint b) {
+      bits |= magnitudeBits(a) | magnitudeBits(b);
+      sum += uint64_t{magnitudeBits(a) * magnitudeBits(b)};
+    });
+    return bits < 1u << 16 ? sum : kMaximum<uint64_t> / 2;
   }
 
   static mint addChecked(mint &sum, const Run<mint> &x, const Run<mint> &y) {
     for (mint start = 0; start < x.count; start += kCheckedBlock) {
       const mint length = x.count - start < kCheckedBlock ? x.count - start : kCheckedBlock;
       const Run<mint> a = x.from(start, length), b = y.from(start, length);
-      if (areShort(a, b) && staysInRange(sum, sumOfMagnitudes(a, b)))
+      if (staysInRange(sum, sumOfMagnitudes(a, b)))
         sum = static_cast<mint>(static_cast<uint32_t>(sum) + wrappedProducts(a, b));
       else if (const mint failure = addOneByOne(sum, a, b))
         return start + failure;
