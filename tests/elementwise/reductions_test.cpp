@@ -345,7 +345,7 @@ TEST(Extremes, OfRealsWithInfinitiesAndNaNsAreThoseOfAPlainWalk) { overShapes<mr
 TEST(Extremes, OfRealsKeepTheFirstOfTwoZeros) {
   std::mt19937_64 random(8);
   for (int round = 0; round < 2000; ++round) {
-    std::vector<mreal> list(1 + random() % 200);
+    std::vector<mreal> list(1 + size_t(random() % 200));
     const mreal sign = random() % 2 == 0 ? 1 : -1; // so that the zero is the smallest or the largest
     for (mreal &x : list) {
       const uint64_t kind = random() % 12;
@@ -472,7 +472,7 @@ TEST(IntegerDot, ACheckedOneAsksWhetherTheWholeFits) {
 TEST(IntegerDot, AgreesWithExactSumsAtEveryLengthAndMagnitude) {
   std::mt19937_64 random(6);
   for (int round = 0; round < 3000; ++round) {
-    const size_t size = round < 2000 ? size_t(round) % kAllLengths : random() % 4000;
+    const size_t size = round < 2000 ? size_t(round) % kAllLengths : size_t(random() % 4000);
     const mint bitsX = mint(random() % 31), bitsY = mint(random() % 31);
     std::vector<mint> x(size), y(size);
     std::vector<int64_t> products;
