@@ -1,5 +1,5 @@
 # Sourced by ./demo and ./check: the one list of Debian packages, and how they get there.
-build_packages=(cmake ninja-build g++ libtbb-dev)
+build_packages=(cmake ninja-build g++ libtbb-dev libopenblas-dev)
 check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev libmpc-dev pkg-config)
 packages_32=(g++-multilib)
 

@@ -6,6 +6,11 @@
  * or complex routine that is not in place tests in bulk and returns 1. The result may be the first
  * operand. Nothing is raised. A count below 1 does nothing.
  *
+ * Reductions store into one accumulator, whose stride is not read and whose content does not count.
+ * A checked total fails at the first running sum that is out of range, infinite or a NaN, and so does
+ * dot; of a long run, each worker sums a piece. An extreme fails only if it is the most negative word,
+ * where that first occurs.
+ *
  * Generated from src/scalar/operators.def by tools/generate; not to be edited. */
 #ifndef TORVANE_MACHFUNCS_H
 #define TORVANE_MACHFUNCS_H
@@ -666,6 +671,42 @@ TORVANE_API mint machfunc_d_total(mreal *accumulator, const mreal *data, mint co
                                   mint flags);
 TORVANE_API mint machfunc_c_total(mcomplex *accumulator, const mcomplex *data, mint count,
                                   const mint *strides, mint flags);
+
+/* dot: the sum of the products x * y; 0 for none. */
+TORVANE_API mint machfunc_ii_dot(mint *accumulator, const mint *x, const mint *y, mint count,
+                                 const mint *strides, mint flags);
+
+/* fpexception: 1 if an element is infinite or a NaN, else 0; never fails. */
+TORVANE_API mint machfunc_d_fpexception(mint *accumulator, const mreal *data, mint count,
+                                        const mint *strides, mint flags);
+TORVANE_API mint machfunc_c_fpexception(mint *accumulator, const mcomplex *data, mint count,
+                                        const mint *strides, mint flags);
+
+/* max: the largest element, NaN aside; the lowest value for none. */
+TORVANE_API mint machfunc_i_max(mint *accumulator, const mint *data, mint count, const mint *strides,
+                                mint flags);
+TORVANE_API mint machfunc_d_max(mreal *accumulator, const mreal *data, mint count, const mint *strides,
+                                mint flags);
+
+/* min: the smallest element, NaN aside; the highest value for none. */
+TORVANE_API mint machfunc_i_min(mint *accumulator, const mint *data, mint count, const mint *strides,
+                                mint flags);
+TORVANE_API mint machfunc_d_min(mreal *accumulator, const mreal *data, mint count, const mint *strides,
+                                mint flags);
+
+/* minmax: the smallest and the largest element in two accumulators, as min and max. */
+TORVANE_API mint machfunc_i_minmax(mint *accumulator, const mint *data, mint count, const mint *strides,
+                                   mint flags);
+TORVANE_API mint machfunc_d_minmax(mreal *accumulator, const mreal *data, mint count, const mint *strides,
+                                   mint flags);
+
+/* maxabs: the largest abs x, NaN aside; 0 for none. */
+TORVANE_API mint machfunc_i_maxabs(mint *accumulator, const mint *data, mint count, const mint *strides,
+                                   mint flags);
+TORVANE_API mint machfunc_d_maxabs(mreal *accumulator, const mreal *data, mint count, const mint *strides,
+                                   mint flags);
+TORVANE_API mint machfunc_c_maxabs(mreal *accumulator, const mcomplex *data, mint count,
+                                   const mint *strides, mint flags);
 
 TORVANE_END_DECLARATIONS
 

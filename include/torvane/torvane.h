@@ -15,5 +15,6 @@
 #include "text.h"
 #include "parallel.h"
 #include "machfuncs.h"
+#include "vectors.h"
 
 #endif

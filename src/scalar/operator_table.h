@@ -7,6 +7,7 @@
 // A binary row: the same with the nine kind pairs as columns, one rule for both result-type functions,
 //               and the operand type pairs of the typed entries: both of one type, or all 169.
 // An alias row: a second number for a unary operator's routines, with result-type rules of its own.
+// A reduction:  family, name, number of operands, their kinds, the accumulator's type from theirs, meaning.
 // A bound row:  a unary number and routine that is a binary operator with a constant second operand.
 #pragma once
 
@@ -165,9 +166,12 @@ struct TernaryRow {
   const char *meaning;
 };
 
+// `operands` runs of elements into one accumulator.
 struct ReductionRow {
   const char *family, *vector;
+  mint operands;
   Columns columns;
+  TypedResult accumulator;
   const char *meaning;
 };
 
@@ -218,7 +222,8 @@ inline constexpr TernaryRow kTernary[] = {
 #include "operators.def"
 };
 
-#define TORVANE_REDUCTION(family, vector, kinds, meaning) {#family, #vector, columns::kinds, meaning},
+#define TORVANE_REDUCTION(family, vector, operands, kinds, accumulator, meaning)                             \
+  {#family, #vector, operands, columns::kinds, TypedResult::accumulator, meaning},
 inline constexpr ReductionRow kReductions[] = {
 #include "operators.def"
 };

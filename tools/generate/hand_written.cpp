@@ -11,6 +11,7 @@
 #include <torvane/tensor.h>
 #include <torvane/text.h>
 #include <torvane/tolerance.h>
+#include <torvane/vectors.h>
 
 #include <cstring>
 #include <type_traits>

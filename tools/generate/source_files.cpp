@@ -82,9 +82,14 @@ void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines) {
       "or\n"
       " * one plus the position of the first failing element, before which all are written; a checked real\n"
       " * or complex routine that is not in place tests in bulk and returns 1. The result may be the first\n"
-      " * operand. Nothing is raised. A count below 1 does nothing.",
+      " * operand. Nothing is raised. A count below 1 does nothing.\n"
+      " *\n * Reductions store into one accumulator, whose stride is not read and whose content does not count.\n"
+      " * A checked total fails at the first running sum that is out of range, infinite or a NaN, and so does\n"
+      " * dot; of a long run, each worker sums a piece. An extreme fails only if it is the most negative word,\n"
+      " * where that first occurs.",
       routines);
-  writeUnits(files, "src/elementwise", "#include \"../kernel.h\"\n#include \"../reduction.h\"\n",
+  writeUnits(files, "src/elementwise",
+             "#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include \"../reduction_driver.h\"\n",
              "machfuncs.h", routines);
 }
 

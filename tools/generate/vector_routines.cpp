@@ -77,18 +77,29 @@ ExportGroup ternaryGroup(const TernaryRow &row) {
   return group;
 }
 
+const Type &accumulatorType(const ReductionRow &row, size_t kind) {
+  static const Type types[] = {{"mint *", "ptr", ""}, {"mreal *", "ptr", ""}, {"mcomplex *", "ptr", ""}};
+  if (row.accumulator == TypedResult::word) return types[0];
+  return types[row.accumulator == TypedResult::realPart && kind == 2 ? 1 : kind];
+}
+
 ExportGroup reductionGroup(const ReductionRow &row) {
   ExportGroup group = {row.family, std::string("/* ") + row.vector + ": " + row.meaning + ". */", {}};
-  const Type pointers[] = {{"mint *", "ptr", ""}, {"mreal *", "ptr", ""}, {"mcomplex *", "ptr", ""}};
+  const char *const operandTypes[] = {"const mint *", "const mreal *", "const mcomplex *"};
   for (size_t kind = 0; kind < 3; ++kind) {
     if ((row.columns >> kind & 1) == 0) continue;
-    const std::string name = std::string("machfunc_") + kKindLetter[kind] + "_" + row.vector;
-    const std::string functor = std::string("reduction::") + row.vector;
-    DerivedExport routine =
-        makeRoutine(name, "reductionRoutine<" + listed({functor, kKindType[kind]}) + ">", {"data"});
-    routine.signature.parameters[0] = {pointers[kind], "accumulator"};
-    routine.signature.parameters[1] = {{"const " + pointers[kind].c, "ptr", ""}, "data"};
-    routine.definition.replace(routine.definition.find("(result"), 7, "(accumulator");
+    const bool isPair = row.operands == 2;
+    const std::string name =
+        "machfunc_" + std::string(static_cast<size_t>(row.operands), kKindLetter[kind]) + "_" + row.vector;
+    const std::string arity = isPair ? "PairReduction" : "Reduction";
+    const std::string loop =
+        "k" + arity + "Loop<" + listed({std::string("reduction::") + row.vector, kKindType[kind]}) + ">";
+    DerivedExport routine = isPair ? makeRoutine(name, "drive" + arity, {"x", "y"})
+                                   : makeRoutine(name, "drive" + arity, {"data"});
+    routine.signature.parameters[0] = {accumulatorType(row, kind), "accumulator"};
+    for (size_t k = 1; k <= static_cast<size_t>(row.operands); ++k)
+      routine.signature.parameters[k].type = {operandTypes[kind], "ptr", ""};
+    routine.definition.replace(routine.definition.find("(result"), 7, "(" + loop + ", accumulator");
     group.exports.push_back(routine);
   }
   return group;

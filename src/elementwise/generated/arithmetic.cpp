@@ -1,6 +1,7 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
 #include "../reduction.h"
+#include "../reduction_driver.h"
 #include "../../scalar/bodies/arithmetic.h"
 #include <torvane/machfuncs.h>
 
@@ -226,12 +227,17 @@ mint machfunc_ccc_adxmy(void *result, const void *a, const void *x, const void *
 }
 
 mint machfunc_i_total(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {
-  return reductionRoutine<reduction::total, mint>(accumulator, data, count, strides, flags);
+  return driveReduction(kReductionLoop<reduction::total, mint>, accumulator, data, count, strides, flags);
 }
 mint machfunc_d_total(mreal *accumulator, const mreal *data, mint count, const mint *strides, mint flags) {
-  return reductionRoutine<reduction::total, mreal>(accumulator, data, count, strides, flags);
+  return driveReduction(kReductionLoop<reduction::total, mreal>, accumulator, data, count, strides, flags);
 }
 mint machfunc_c_total(mcomplex *accumulator, const mcomplex *data, mint count, const mint *strides,
                       mint flags) {
-  return reductionRoutine<reduction::total, ComplexReal64>(accumulator, data, count, strides, flags);
+  return driveReduction(kReductionLoop<reduction::total, ComplexReal64>, accumulator, data, count, strides, flags);
+}
+
+mint machfunc_ii_dot(mint *accumulator, const mint *x, const mint *y, mint count, const mint *strides,
+                     mint flags) {
+  return drivePairReduction(kPairReductionLoop<reduction::dot, mint>, accumulator, x, y, count, strides, flags);
 }

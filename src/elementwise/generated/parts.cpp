@@ -1,6 +1,7 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
 #include "../reduction.h"
+#include "../reduction_driver.h"
 #include "../../scalar/bodies/parts.h"
 #include <torvane/machfuncs.h>
 
@@ -80,3 +81,12 @@ mint machfunc_c_sign(void *result, const void *x, mint count, const mint *stride
 
 
 
+
+mint machfunc_d_fpexception(mint *accumulator, const mreal *data, mint count, const mint *strides,
+                            mint flags) {
+  return driveReduction(kReductionLoop<reduction::fpexception, mreal>, accumulator, data, count, strides, flags);
+}
+mint machfunc_c_fpexception(mint *accumulator, const mcomplex *data, mint count, const mint *strides,
+                            mint flags) {
+  return driveReduction(kReductionLoop<reduction::fpexception, ComplexReal64>, accumulator, data, count, strides, flags);
+}

@@ -1,6 +1,7 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
 #include "../reduction.h"
+#include "../reduction_driver.h"
 #include "../../scalar/bodies/special.h"
 #include <torvane/machfuncs.h>
 
