@@ -465,7 +465,8 @@ template <class Call> int failEveryRequestOf(Call call) {
   int empty = 0;
   const int64_t failures = failEveryRequest(heap, [&] {
     MTensor *slot = nullptr;
-    EXPECT_EQ(call(&slot), heap.failed() ? 5 : 0);
+    const mint status = call(&slot);
+    EXPECT_EQ(status, heap.failed() ? 5 : 0);
     empty += slot == nullptr;
     MTensor_delete(slot);
   });
