@@ -12,8 +12,8 @@ TORVANE_BEGIN_DECLARATIONS
 /* *result = op(x) or op(x, y), stored as `resultType`. A null *result receives a new tensor, which the caller
  * deletes; another tensor is reused; an operand is overwritten in place, the larger one of two. With type 4 a
  * real operand widens: elements that leave the reals are computed as complex ones. Returns 0, or 1 on any
- * failure: shapes that do not fit, no such routine, out of memory, an element outside the domain (those before
- * it are then written). Raises nothing. Any thread, on a result of its own; long calls use the pool. */
+ * failure: shapes that do not fit, no such routine, out of memory, an element outside the domain (earlier
+ * ones are then written). Raises nothing. Any thread, on a result of its own; long calls use the pool. */
 TORVANE_API mint MTensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType);
 TORVANE_API mint MTensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint resultType);
 

@@ -98,17 +98,15 @@ mint retypeInPlace(MTensor *x, mint op, mint resultType, mint flags) {
   return status;
 }
 
-bool haveSameShape(const MTensor *a, const MTensor *b) {
-  if (a->rank != b->rank) return false;
-  for (mint i = 0; i < a->rank; ++i)
-    if (a->dimensions[i] != b->dimensions[i]) return false;
-  return true;
-}
-
 // A compiled loop comes back with a result of the right shape and type; nothing is asked of the allocator
 // then, and one look at the extents is enough.
-bool alreadyHolds(const MTensor *result, mint type, const MTensor *x) {
-  return result != nullptr && result->type == type && result->data != nullptr && haveSameShape(result, x);
+bool alreadyHolds(const MTensor *result, mint type, const MTensor *x, const MTensor *y) {
+  if (result == nullptr || result->type != type || result->data == nullptr) return false;
+  if (result->rank != x->rank || x->rank != y->rank) return false;
+  for (mint i = 0; i < x->rank; ++i)
+    if (((result->dimensions[i] ^ x->dimensions[i]) | (x->dimensions[i] ^ y->dimensions[i])) != 0)
+      return false;
+  return true;
 }
 
 } // namespace
@@ -131,8 +129,7 @@ mint tensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType, min
 }
 
 mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint resultType, mint flags) {
-  if (alreadyHolds(*result, resultType, x) && haveSameShape(x, y))
-    return statusOf(runBinary(x, y, *result, op, flags));
+  if (alreadyHolds(*result, resultType, x, y)) return statusOf(runBinary(x, y, *result, op, flags));
   mint rank;
   mint *dimensions;
   if (MTensor_maxCompatibleDimensions(x, y, &rank, &dimensions) == 0) return -1;

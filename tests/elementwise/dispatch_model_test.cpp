@@ -272,11 +272,12 @@ std::vector<Element> elementsOf(const MTensor *tensor) {
 }
 
 // What a slot holds before the call.
-enum class Slot { empty, another, first, second };
+enum class Slot { empty, another, again, first, second };
 
-Tensor another(std::mt19937_64 &random) {
+Tensor inSlot(Slot slot, mint type, const Extents &extents, std::mt19937_64 &random) {
   const Extents shapes[] = {{}, {7}, {2, 3}, {0}};
-  return newTensor(mint(random() % 3) + 2, shapes[random() % 4]);
+  if (slot == Slot::again) return randomTensor(type, extents, false, random);
+  return slot == Slot::another ? newTensor(mint(random() % 3) + 2, shapes[random() % 4]) : nullptr;
 }
 
 void expectResult(const MTensor *result, const Expected &expected, mint type, const Extents &extents) {
@@ -290,7 +291,8 @@ void expectResult(const MTensor *result, const Expected &expected, mint type, co
 }
 
 std::string slotName(Slot slot) {
-  const char *const names[] = {"an empty slot", "a slot in use", "the first operand", "the second operand"};
+  const char *const names[] = {"an empty slot", "a slot in use", "the result of before", "the first operand",
+                               "the second operand"};
   return names[int(slot)];
 }
 
@@ -304,7 +306,7 @@ void checkUnary(const UnaryModel &model, mint op, mint kind, mint r, Slot slot, 
   const Expected expected = expectUnary(model, op, before, kind, r, flags);
   SCOPED_TRACE(testing::Message() << "operator " << op << " from " << kind << " to " << r << " into "
                                   << slotName(slot) << " flags " << flags << " elements " << before.size());
-  Tensor own = slot == Slot::another ? another(random) : nullptr;
+  Tensor own = inSlot(slot, r, extents, random);
   MTensor *result = slot == Slot::first ? x.get() : own.get();
   const MTensor *held = result;
   ASSERT_EQ(tensorMathUnary(&result, x.get(), op, r, flags), expected.status);
@@ -329,7 +331,7 @@ TEST(DispatchModel, HoldsForEveryUnaryOperatorAndTypes) {
     for (mint kind = 2; kind <= 4; ++kind)
       for (mint r = 2; r <= 4; ++r)
         for (int trial = 0; trial < 24; ++trial)
-          for (const Slot slot : {Slot::empty, Slot::another, Slot::first})
+          for (const Slot slot : {Slot::empty, Slot::another, Slot::again, Slot::first})
             ASSERT_NO_FATAL_FAILURE(checkUnary(models[size_t(op)], op, kind, r, slot, random));
 }
 
@@ -365,7 +367,7 @@ void checkBinary(const BinaryModel &model, mint op, mint kind1, mint kind2, mint
   const size_t longer = std::max(x0.size(), y0.size()), shorter = std::min(x0.size(), y0.size());
   const Operands operands = {repeated(x0, longer, shorter), repeated(y0, longer, shorter)};
   if (traps(op, operands)) return;
-  Tensor own = slot == Slot::another ? another(random) : nullptr;
+  Tensor own = inSlot(slot, r, extents2.size() > extents1.size() ? extents2 : extents1, random);
   MTensor *result = slot == Slot::first ? x.get() : slot == Slot::second ? y.get() : own.get();
   const MTensor *held = result;
   const bool isInPlace = slot == Slot::first || slot == Slot::second;
@@ -410,7 +412,7 @@ TEST(DispatchModel, HoldsForEveryBinaryOperatorAndTypes) {
     for (mint kinds = 0; kinds < 9; ++kinds)
       for (mint r = 2; r <= 4; ++r)
         for (int trial = 0; trial < 40; ++trial)
-          for (const Slot slot : {Slot::empty, Slot::another, Slot::first, Slot::second})
+          for (const Slot slot : {Slot::empty, Slot::another, Slot::again, Slot::first, Slot::second})
             ASSERT_NO_FATAL_FAILURE(
                 checkBinary(models[size_t(op - 256)], op, kinds / 3 + 2, kinds % 3 + 2, r, slot, random));
 }

@@ -10,6 +10,7 @@
 #include "support/tensor_builders.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 #include <torvane/machfuncs.h>
 
 using namespace torvane;
@@ -555,6 +556,33 @@ TEST(DispatchFailures, RaiseInNoStyle) {
     MTensor_delete(result);
   }
   setExceptionStyle(1);
+}
+
+// Operands are only read, so that several threads may compute from the same ones.
+TEST(ConcurrentDispatch, ThreadsShareTheirOperands) {
+  std::mt19937_64 random(12);
+  const Tensor x = operand(kReal, {40, 50}, Mixture::random, random),
+               y = operand(kReal, {40}, Mixture::positive, random);
+  std::vector<Complexes> roots(4);
+  std::vector<Reals> sums(4);
+  std::vector<std::thread> threads;
+  for (size_t k = 0; k < 4; ++k)
+    threads.emplace_back([&, k] {
+      MTensor *root = nullptr, *sum = nullptr;
+      EXPECT_EQ(MTensorMathUnary(&root, x.get(), kSqrt, kComplex), 0);
+      EXPECT_EQ(MTensorMathBinary(&sum, x.get(), y.get(), kPlus, kReal), 0);
+      roots[k] = valuesOf<mcomplex>(Tensor(root));
+      sums[k] = valuesOf<mreal>(Tensor(sum));
+    });
+  for (std::thread &thread : threads) thread.join();
+  UnaryPair pair;
+  ASSERT_TRUE(wideningPair(kSqrt, &pair));
+  const Looped looped = loopUnary(pair, elements<mreal>(x), 0, 2000, 0);
+  for (size_t k = 0; k < 4; ++k) {
+    expectWritten(roots[k].data(), 0, looped);
+    EXPECT_EQ(sums[k], sums[0]);
+    EXPECT_EQ(sums[k][1999], elements<mreal>(x)[1999] + elements<mreal>(y)[39]);
+  }
 }
 
 } // namespace
