@@ -92,7 +92,7 @@ mint runBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, min
 // the result grows in a payload of its own and changes places with the operand's at the end.
 mint retypeInPlace(MTensor *x, mint op, mint resultType, mint flags) {
   MTensor *fresh = nullptr;
-  mint status = tensorMathUnary(&fresh, x, op, resultType, flags);
+  const mint status = tensorMathUnary(&fresh, x, op, resultType, flags);
   if (status == kSuccess) exchangeContents(x, fresh);
   MTensor_delete(fresh);
   return status;
@@ -138,8 +138,7 @@ mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint re
         allocationStatus(MTensor_allocateCommon(result, resultType, rank, dimensions, kReport));
     if (status != kSuccess) return status;
   } else if ((*result)->elementCount < resultCount(x->elementCount, y->elementCount)) {
-    return kValueFailed; // an operand that is overwritten in place must have room for the larger one's
-                         // elements
+    return kValueFailed; // nothing grows in place, and the larger operand's elements would not fit
   }
   return statusOf(runBinary(x, y, *result, op, flags));
 }
