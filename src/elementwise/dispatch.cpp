@@ -14,11 +14,12 @@
 #include "widening.h"
 #include <torvane/operators.h>
 
+#include <utility>
+
 namespace torvane {
 
 namespace {
 
-constexpr mint kUnaryNumbers = 85, kFirstBinary = 256, kBinaryNumbers = 22;
 constexpr bool isKind(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TORVANE_TYPE_COMPLEX; }
 
 // ---- entries of the dispatch tables ---------------------------------------------------------------
@@ -33,40 +34,24 @@ mint plainUnary(const MTensor *x, MTensor *result, mint op, mint flags) {
 }
 
 mint wideningUnary(const MTensor *x, MTensor *result, mint op, mint flags) {
-  const mint real = TORVANE_TYPE_REAL, complex = TORVANE_TYPE_COMPLEX;
-  const UnaryPair pair = {machfunsarray_1[3 * op + 1], machfunsarray_1[3 * op + 2]};
-  if (pair.real == nullptr || pair.complex == nullptr) return kNoRoutine;
-  if (storedKind1(op, real) != real || storedKind1(op, complex) != complex) return kNoRoutine;
-  return widenUnary(pair, static_cast<mcomplex *>(result->data), static_cast<const mreal *>(x->data),
+  UnaryPair pair;
+  if (!wideningPair(op, &pair)) return kNoRoutine;
+  return widenUnary(pair, static_cast<mcomplex *>(result->data), static_cast<const mreal *>(x->data), 0,
                     x->elementCount, flags);
-}
-
-TorvaneBinaryRoutine binaryRoutineFor(mint op, mint kind1, mint kind2) {
-  return machfunsarray_2[9 * (op - kFirstBinary) + 3 * (kind1 - 2) + (kind2 - 2)];
 }
 
 mint noBinary(const MTensor *, const MTensor *, MTensor *, mint, mint) { return kNoRoutine; }
 
 mint plainBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, mint flags) {
-  const TorvaneBinaryRoutine routine = binaryRoutineFor(op, x->type, y->type);
+  const TorvaneBinaryRoutine routine = binaryRoutineOf(op, x->type, y->type);
   if (routine == nullptr || storedKind2(op, x->type, y->type) != result->type) return kNoRoutine;
-  return overBlocks({x->elementCount, y->elementCount}, [&](const PairRun &run) {
-    return outcomeOf(routine(elementAt(result, run.resultStart), elementAt(x, run.start1),
-                             elementAt(y, run.start2), run.count, run.strides, flags));
-  });
+  return runOverBlocks(routine, result, x, y, flags);
 }
 
-// The real operand that becomes complex is the second, unless only the first is real.
 mint wideningBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, mint flags) {
-  const mint complex = TORVANE_TYPE_COMPLEX;
-  const bool widensFirst = y->type == TORVANE_TYPE_INTEGER;
-  const mint wide1 = widensFirst ? complex : x->type, wide2 = widensFirst ? y->type : complex;
-  const BinaryPair pair = {binaryRoutineFor(op, x->type, y->type), binaryRoutineFor(op, wide1, wide2),
-                           widensFirst};
-  if (pair.real == nullptr || pair.complex == nullptr) return kNoRoutine;
-  if (storedKind2(op, x->type, y->type) != TORVANE_TYPE_REAL || storedKind2(op, wide1, wide2) != complex)
-    return kNoRoutine;
-  return widenBinary(pair, result, x, y, flags);
+  BinaryPair pair;
+  if (!wideningPair(op, x->type, y->type, &pair)) return kNoRoutine;
+  return widenBinary(pair, result, x, y, 0, flags);
 }
 
 using UnaryEntry = mint (*)(const MTensor *, MTensor *, mint, mint);
@@ -103,28 +88,38 @@ mint runBinary(const MTensor *x, const MTensor *y, MTensor *result, mint op, min
   return kBinaryEntries[9 * (x->type - 2) + 3 * (y->type - 2) + (result->type - 2)](x, y, result, op, flags);
 }
 
-mint statusOf(mint outcome) { return outcome >= kNoRoutine ? kValueFailed : kSuccess; }
-
-mint allocationStatus(mint status) { return status == kSizeFailed ? mint{kNoMemory} : status; }
-
 // An operand that becomes its own result in another type is still read while the result is written, so
 // the result grows in a payload of its own and changes places with the operand's at the end.
 mint retypeInPlace(MTensor *x, mint op, mint resultType, mint flags) {
   MTensor *fresh = nullptr;
-  mint status = allocationStatus(MTensor_allocateCommon(&fresh, resultType, x->rank, x->dimensions, kReport));
-  if (status != kSuccess) return status;
-  status = statusOf(runUnary(x, fresh, op, flags));
-  if (status == kSuccess) {
-    void *old = x->data;
-    x->data = fresh->data;
-    fresh->data = old;
-    MTensor_setType(x, resultType);
-  }
+  const mint status = tensorMathUnary(&fresh, x, op, resultType, flags);
+  if (status == kSuccess) exchangeContents(x, fresh);
   MTensor_delete(fresh);
   return status;
 }
 
+// A compiled loop comes back with a result of the right shape and type; nothing is asked of the allocator
+// then, and one look at the extents is enough.
+bool alreadyHolds(const MTensor *result, mint type, const MTensor *x, const MTensor *y) {
+  if (result == nullptr || result->type != type || result->data == nullptr) return false;
+  if (result->rank != x->rank || x->rank != y->rank) return false;
+  for (mint i = 0; i < x->rank; ++i)
+    if (((result->dimensions[i] ^ x->dimensions[i]) | (x->dimensions[i] ^ y->dimensions[i])) != 0)
+      return false;
+  return true;
+}
+
 } // namespace
+
+void exchangeContents(MTensor *a, MTensor *b) {
+  const mint typeOfA = a->type;
+  std::swap(a->dimensions, b->dimensions);
+  std::swap(a->rank, b->rank);
+  std::swap(a->elementCount, b->elementCount);
+  std::swap(a->data, b->data);
+  MTensor_setType(a, b->type);
+  MTensor_setType(b, typeOfA);
+}
 
 mint tensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType, mint flags) {
   if (*result == x && x->type != resultType) return retypeInPlace(x, op, resultType, flags);
@@ -134,6 +129,7 @@ mint tensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType, min
 }
 
 mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint resultType, mint flags) {
+  if (alreadyHolds(*result, resultType, x, y)) return statusOf(runBinary(x, y, *result, op, flags));
   mint rank;
   mint *dimensions;
   if (MTensor_maxCompatibleDimensions(x, y, &rank, &dimensions) == 0) return -1;
@@ -142,8 +138,7 @@ mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint re
         allocationStatus(MTensor_allocateCommon(result, resultType, rank, dimensions, kReport));
     if (status != kSuccess) return status;
   } else if ((*result)->elementCount < resultCount(x->elementCount, y->elementCount)) {
-    return kValueFailed; // an operand that is overwritten in place must have room for the larger one's
-                         // elements
+    return kValueFailed; // nothing grows in place, and the larger operand's elements would not fit
   }
   return statusOf(runBinary(x, y, *result, op, flags));
 }

@@ -1,6 +1,9 @@
 // Whole-tensor mathematics with flags and the full status: what the two exports are shells of.
 #pragma once
 
+#include "../runtime/types.h"
+#include "../tensor/tensor.h"
+#include "outcome.h"
 #include <torvane/elementwise.h>
 
 namespace torvane {
@@ -9,5 +12,11 @@ namespace torvane {
 // status of the allocation as it is.
 mint tensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType, mint flags);
 mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint resultType, mint flags);
+
+constexpr mint statusOf(mint outcome) { return outcome >= kNoRoutine ? kValueFailed : kSuccess; }
+constexpr mint allocationStatus(mint status) { return status == kSizeFailed ? mint{kNoMemory} : status; }
+
+// Two tensors change type, shape and elements with each other; the records stay where they are.
+void exchangeContents(MTensor *a, MTensor *b);
 
 } // namespace torvane

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "outcome.h"
+#include <torvane/operators.h>
 #include <torvane/tensor.h>
 
 namespace torvane {
@@ -48,6 +49,15 @@ template <class Call> mint overBlocks(PairCounts counts, Call call) {
     if (outcome < kDone) merged = merged == kDone ? outcome : -(-merged | -outcome);
   }
   return merged;
+}
+
+// One routine over all blocks. Its outcome is that of a dispatch entry.
+inline mint runOverBlocks(TorvaneBinaryRoutine routine, MTensor *result, const MTensor *x, const MTensor *y,
+                          mint flags) {
+  return overBlocks({x->elementCount, y->elementCount}, [&](const PairRun &run) {
+    return outcomeOf(routine(elementAt(result, run.resultStart), elementAt(x, run.start1),
+                             elementAt(y, run.start2), run.count, run.strides, flags));
+  });
 }
 
 } // namespace torvane

@@ -130,8 +130,6 @@ struct NumberedPair {
   PairRule rule = {};
 };
 
-constexpr mint kUnaryNumbers = 85, kFirstBinary = 256, kBinaryNumbers = 22;
-
 struct RulesByNumber {
   NumberedUnary unary[kUnaryNumbers];
   NumberedPair pairs[kBinaryNumbers];
@@ -151,28 +149,37 @@ struct RulesByNumber {
 };
 constexpr RulesByNumber kRules;
 
-const UnaryRules *unaryRules(mint op) {
+constexpr const UnaryRules *unaryRules(mint op) {
   return op >= 0 && op < kUnaryNumbers && kRules.unary[op].isPresent ? &kRules.unary[op].rules : nullptr;
 }
 
-PairType pairTypes(mint op, mint kind1, mint kind2) {
+constexpr PairType pairTypes(mint op, mint kind1, mint kind2) {
   if (op < kFirstBinary || op >= kFirstBinary + kBinaryNumbers) return kUndefinedPair;
   const NumberedPair &pair = kRules.pairs[op - kFirstBinary];
   return pair.isPresent ? typeByPairRule(pair.rule, kind1, kind2) : kUndefinedPair;
 }
 
-} // namespace
-
 // A routine stores what the plain function names; the integer identities, which need no call and so
 // have no plain type, store integers.
-mint storedKind1(mint op, mint kind) {
+constexpr mint storedByRules(mint op, mint kind) {
   const UnaryRules *rules = unaryRules(op);
   if (rules == nullptr) return kNoType;
   const mint type = typeByGroup(rules->group, kind);
   return type == kNoType ? kInteger : type;
 }
 
-mint storedKind2(mint op, mint kind1, mint kind2) { return pairTypes(op, kind1, kind2).plain; }
+} // namespace
+
+constexpr StoredKinds::StoredKinds() {
+  for (mint op = 0; op < kUnaryNumbers; ++op)
+    for (mint kind = kInteger; kind <= kComplex; ++kind)
+      unary[3 * op + (kind - 2)] = static_cast<uint8_t>(storedByRules(op, kind));
+  for (mint row = 0; row < kBinaryNumbers; ++row)
+    for (mint pair = 0; pair < 9; ++pair)
+      binary[9 * row + pair] =
+          static_cast<uint8_t>(pairTypes(kFirstBinary + row, pair / 3 + 2, pair % 3 + 2).plain);
+}
+constinit const StoredKinds storedKinds;
 
 } // namespace torvane
 

@@ -1,76 +1,241 @@
 #include "widening.h"
 
 #include "repetition.h"
+#include "result_types.h"
 #include <torvane/failure.h>
+
+#include <algorithm>
+#include <bit>
+#include <stdint.h>
 
 namespace torvane {
 
 namespace {
 
-// Elements between two looks at the host's abort flag.
-constexpr mint kAbortPollBlock = 1024;
-
-bool abortRequestedAt(mint position) { return position % kAbortPollBlock == 0 && checkAbortWatch() != 0; }
+// Elements between two looks at the host's abort flag, and the room of the buffers on the stack.
+constexpr mint kBlock = 256;
 
 // The kinds seen so far, as the bits of their numbers.
 mint outcomeOfKinds(mint kinds) { return kinds == 0 ? kDone : -kinds; }
 
-mreal realAt(const MTensor *tensor, mint index) { return static_cast<const mreal *>(tensor->data)[index]; }
+void storeReals(mcomplex *result, const mreal *values, mint count) {
+  for (mint k = 0; k < count; ++k) result[k] = {values[k], 0.0};
+}
+
+struct Range {
+  mint first, end;
+};
+
+// Runs `attempt(values, k, count)`, the real routine from element k on, over a range of at most a block, and
+// `widen(k)` on each element that it refuses. Yields the range's end, or the position that `widen` refused
+// too. A routine that tests its results in bulk tells no position, so that what it refuses is attempted
+// again one by one.
+template <class Attempt, class Widen>
+mint widenRange(mcomplex *result, Range range, mint flags, mint *kinds, Attempt attempt, Widen widen) {
+  mreal values[kBlock];
+  const bool tellsPosition = (flags & TORVANE_CHECK_REALS) == 0;
+  mint k = range.first, step = kBlock;
+  while (k < range.end) {
+    const mint count = std::min(step, range.end - k), answer = attempt(values, k, count);
+    if (answer != 0 && count > 1 && !tellsPosition) {
+      step = 1;
+      continue;
+    }
+    const mint stayed = answer == 0 ? count : answer - 1;
+    storeReals(result + k, values, stayed);
+    if (stayed > 0) *kinds |= TORVANE_TYPE_REAL;
+    k += stayed;
+    if (answer == 0) continue;
+    if (!widen(k)) return k;
+    *kinds |= TORVANE_TYPE_COMPLEX;
+    ++k;
+  }
+  return k;
+}
+
+// ---- unary ------------------------------------------------------------------------------------------
+
+constexpr mint kDense2[2] = {1, 1};
+
+mint widenByAttempt(const UnaryPair &pair, mcomplex *result, const mreal *x, Range range, mint flags,
+                    mint *kinds) {
+  return widenRange(
+      result, range, flags, kinds,
+      [&](mreal *values, mint k, mint count) { return pair.real(values, x + k, count, kDense2, flags); },
+      [&](mint k) {
+        const mcomplex widened = {x[k], 0.0};
+        return pair.complex(result + k, &widened, 1, kDense2, flags) == 0;
+      });
+}
+
+// The elements of a block, told apart: those that leave the domain and those that stay, with their positions.
+struct Division {
+  mcomplex leaving[kBlock];
+  mreal staying[kBlock];
+  uint16_t whereLeaving[kBlock], whereStaying[kBlock];
+  mint left, stayed;
+};
+
+// First all comparisons, both for each element, then the positions: no branch depends on an element, since
+// which of them leave is anybody's guess. False when none does.
+bool tellApart(RealDomain domain, const mreal *x, mint count, Division *division) {
+  mreal leaves[kBlock]; // 1 or 0: reals, because lanes of them select and store without conversion
+  uint64_t any = 0;
+  for (mint k = 0; k < count; ++k) {
+    const mreal below = x[k] < domain.low ? 1.0 : 0.0, above = x[k] > domain.high ? 1.0 : 0.0;
+    leaves[k] = below + above;
+    any |= std::bit_cast<uint64_t>(leaves[k]);
+  }
+  if (any == 0) return false;
+  mint left = 0;
+  for (mint k = 0; k < count; ++k) {
+    division->leaving[left] = {x[k], 0.0};
+    division->staying[k - left] = x[k];
+    division->whereLeaving[left] = division->whereStaying[k - left] = static_cast<uint16_t>(k);
+    left += static_cast<mint>(leaves[k]);
+  }
+  division->left = left;
+  division->stayed = count - left;
+  return true;
+}
+
+bool computeStaying(const UnaryPair &pair, mcomplex *result, const Division &division, mint flags) {
+  mreal values[kBlock];
+  if (pair.real(values, division.staying, division.stayed, kDense2, flags) != 0) return false;
+  for (mint k = 0; k < division.stayed; ++k) result[division.whereStaying[k]] = {values[k], 0.0};
+  return true;
+}
+
+bool computeLeaving(const UnaryPair &pair, mcomplex *result, const Division &division, mint flags) {
+  mcomplex values[kBlock];
+  if (pair.complex(values, division.leaving, division.left, kDense2, flags) != 0) return false;
+  for (mint k = 0; k < division.left; ++k) result[division.whereLeaving[k]] = values[k];
+  return true;
+}
+
+bool isKnown(RealDomain domain) { return domain.low > kUnknownDomain.low; }
+
+// Each routine once over what is its own. When one refuses something, nothing is certain, and the attempts
+// find out.
+mint widenBlock(const UnaryPair &pair, mcomplex *result, const mreal *x, Range range, mint flags,
+                mint *kinds) {
+  Division division;
+  const mreal *from = x + range.first;
+  if (!isKnown(pair.domain) || !tellApart(pair.domain, from, range.end - range.first, &division) ||
+      !computeStaying(pair, result + range.first, division, flags) ||
+      !computeLeaving(pair, result + range.first, division, flags))
+    return widenByAttempt(pair, result, x, range, flags, kinds);
+  *kinds |= TORVANE_TYPE_COMPLEX | (division.stayed > 0 ? TORVANE_TYPE_REAL : 0);
+  return range.end;
+}
+
+// Held against the routines themselves by a test: whatever lies outside is refused.
+RealDomain realDomainOf(mint op) {
+  constexpr mreal infinity = __builtin_inf();
+  switch (op) {
+  case 57: // sqrt
+  case 59: // rsqrt
+  case 34: // log
+  case 36: // log2
+  case 37: // log10
+    return {0.0, infinity};
+  case 35: // log1p
+    return {-1.0, infinity};
+  case 17: // asin
+  case 18: // acos
+  case 27: // atanh
+    return {-1.0, 1.0};
+  case 26: // acosh
+    return {1.0, infinity};
+  default:
+    return kUnknownDomain;
+  }
+}
 
 } // namespace
 
-mint widenUnary(const UnaryPair &pair, mcomplex *result, const mreal *x, mint count, mint flags) {
-  const mint strides[2] = {1, 1};
+bool wideningPair(mint op, UnaryPair *pair) {
+  constexpr mint real = TORVANE_TYPE_REAL, complex = TORVANE_TYPE_COMPLEX;
+  if (storedKind1(op, real) != real || storedKind1(op, complex) != complex) return false;
+  *pair = {machfunsarray_1[3 * op + 1], machfunsarray_1[3 * op + 2], realDomainOf(op)};
+  return pair->real != nullptr && pair->complex != nullptr;
+}
+
+mint widenUnary(const UnaryPair &pair, mcomplex *result, const mreal *x, mint first, mint count, mint flags) {
   mint kinds = 0;
-  for (mint k = 0; k < count; ++k) {
-    if (abortRequestedAt(k)) return k;
-    mreal value;
-    if (pair.real(&value, x + k, 1, strides, flags) == 0) {
-      result[k] = {value, 0.0};
-      kinds |= TORVANE_TYPE_REAL;
-      continue;
-    }
-    const mcomplex widened = {x[k], 0.0};
-    if (pair.complex(result + k, &widened, 1, strides, flags) != 0) return k;
-    kinds |= TORVANE_TYPE_COMPLEX;
+  for (mint k = first; k < count;) {
+    if (checkAbortWatch() != 0) return k;
+    const Range range = {k, std::min(count, k + kBlock)};
+    k = widenBlock(pair, result, x, range, flags, &kinds);
+    if (k < range.end) return k;
   }
   return outcomeOfKinds(kinds);
 }
 
+// ---- binary -----------------------------------------------------------------------------------------
+
 namespace {
 
-// One element of a binary pair. Yields the kind it had, or 0 for a failure. The real routine is told to
-// refuse infinities and NaNs; if the complex one then stays on the real axis, the refusal was no true
-// departure from the reals and the element fails.
-mint widenPairElement(const BinaryPair &pair, mcomplex *target, const MTensor *x, mint k1, const MTensor *y,
-                      mint k2, mint flags) {
-  const mint strides[3] = {1, 1, 1};
-  const void *first = elementAt(x, k1), *second = elementAt(y, k2);
-  mreal value;
-  if (pair.real(&value, first, second, 1, strides, flags | TORVANE_CHECK_REALS) == 0) {
-    *target = {value, 0.0};
-    return TORVANE_TYPE_REAL;
-  }
-  const mcomplex widened = {pair.widensFirst ? realAt(x, k1) : realAt(y, k2), 0.0};
+struct Operands {
+  const MTensor *x, *y;
+  const PairRun &run;
+  const void *first(mint k) const { return elementAt(x, run.start1 + k * run.strides[1]); }
+  const void *second(mint k) const { return elementAt(y, run.start2 + k * run.strides[2]); }
+};
+
+// If the complex routine stays on the real axis, the refusal of the real one was no true departure from the
+// reals, and the element fails.
+bool widenElement(const BinaryPair &pair, mcomplex *target, const void *first, const void *second,
+                  mint flags) {
+  static constexpr mint kDense3[3] = {1, 1, 1};
+  const mcomplex widened = {*static_cast<const mreal *>(pair.widensFirst ? first : second), 0.0};
   (pair.widensFirst ? first : second) = &widened;
   mcomplex wide;
-  if (pair.complex(&wide, first, second, 1, strides, flags) != 0 || wide.im == 0.0) return 0;
+  if (pair.complex(&wide, first, second, 1, kDense3, flags) != 0 || wide.im == 0.0) return false;
   *target = wide;
-  return TORVANE_TYPE_COMPLEX;
+  return true;
+}
+
+// The real routine is told to refuse infinities and NaNs.
+mint widenBlock(const BinaryPair &pair, mcomplex *result, const Operands &operands, Range range, mint flags,
+                mint *kinds) {
+  const mint real = flags | TORVANE_CHECK_REALS;
+  const mint strides[3] = {1, operands.run.strides[1], operands.run.strides[2]};
+  return widenRange(
+      result, range, real, kinds,
+      [&](mreal *values, mint k, mint count) {
+        return pair.real(values, operands.first(k), operands.second(k), count, strides, real);
+      },
+      [&](mint k) { return widenElement(pair, result + k, operands.first(k), operands.second(k), flags); });
 }
 
 } // namespace
 
-mint widenBinary(const BinaryPair &pair, MTensor *result, const MTensor *x, const MTensor *y, mint flags) {
+// The real operand that becomes complex is the second, unless only the first is real.
+bool wideningPair(mint op, mint kind1, mint kind2, BinaryPair *pair) {
+  constexpr mint complex = TORVANE_TYPE_COMPLEX;
+  const bool widensFirst = kind2 == TORVANE_TYPE_INTEGER;
+  const mint wide1 = widensFirst ? complex : kind1, wide2 = widensFirst ? kind2 : complex;
+  if (storedKind2(op, kind1, kind2) != TORVANE_TYPE_REAL || storedKind2(op, wide1, wide2) != complex)
+    return false;
+  *pair = {binaryRoutineOf(op, kind1, kind2), binaryRoutineOf(op, wide1, wide2), widensFirst};
+  return pair->real != nullptr && pair->complex != nullptr;
+}
+
+mint widenBinary(const BinaryPair &pair, MTensor *result, const MTensor *x, const MTensor *y, mint first,
+                 mint flags) {
+  mint nextPoll = first; // short runs share a block
   return overBlocks({x->elementCount, y->elementCount}, [&](const PairRun &run) {
     auto *target = static_cast<mcomplex *>(result->data) + run.resultStart;
     mint kinds = 0;
-    for (mint k = 0; k < run.count; ++k) {
-      if (abortRequestedAt(run.resultStart + k)) return k;
-      const mint kind = widenPairElement(pair, target + k, x, run.start1 + k * run.strides[1], y,
-                                         run.start2 + k * run.strides[2], flags);
-      if (kind == 0) return k;
-      kinds |= kind;
+    for (mint k = std::max(first - run.resultStart, 0); k < run.count;) {
+      if (run.resultStart + k == nextPoll) {
+        if (checkAbortWatch() != 0) return k;
+        nextPoll += kBlock;
+      }
+      const Range range = {k, std::min(run.count, nextPoll - run.resultStart)};
+      k = widenBlock(pair, target, {x, y, run}, range, flags, &kinds);
+      if (k < range.end) return k;
     }
     return outcomeOfKinds(kinds);
   });

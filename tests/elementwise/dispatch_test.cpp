@@ -303,8 +303,8 @@ TEST(Widening, OfABinaryOperatorStoresRealsAndFailsWhereTheComplexStaysReal) {
 TEST(Widening, OutcomeIsTheUnionOfTheKinds) {
   const auto outcome = [](const Reals &values) {
     Complexes result(values.size() + 1);
-    return widenUnary({machfunc_d_sqrt, machfunc_c_sqrt}, result.data(), values.data(), mint(values.size()),
-                      0);
+    return widenUnary({machfunc_d_sqrt, machfunc_c_sqrt}, result.data(), values.data(), 0,
+                      mint(values.size()), 0);
   };
   EXPECT_EQ(outcome({1, 2}), -3);
   EXPECT_EQ(outcome({-1, -2}), -4);
@@ -317,7 +317,7 @@ mint refusing(void *, const void *, mint, const mint *, mint) { return 1; }
 TEST(Widening, ReportsThePositionWhereTheComplexRoutineFailsToo) {
   const Reals values = {1, 4, -1, 9};
   Complexes result(4);
-  EXPECT_EQ(widenUnary({machfunc_d_sqrt, refusing}, result.data(), values.data(), 4, 0), 2);
+  EXPECT_EQ(widenUnary({machfunc_d_sqrt, refusing}, result.data(), values.data(), 0, 4, 0), 2);
   EXPECT_EQ(result[1], (mcomplex{2, 0}));
 }
 
