@@ -86,7 +86,7 @@ template <class T> void expectPlainNorms() {
   std::mt19937_64 random(31);
   for (const mint p : kPowers)
     for (const int exponent : {0, 1010, 500, -500, -1000, -1060})
-      for (const size_t count : {1, 2, 3, 5, 8, 33, 67, 1000}) {
+      for (const size_t count : std::initializer_list<size_t>{1, 2, 3, 5, 8, 33, 67, 1000}) {
         if (exponent == 1010 && p == 1 && count == 1000) continue; // the sum itself overflows
         const std::vector<T> data = randomVector<T>(random, count, exponent);
         for (const mint flags : {0, kCheck}) {
@@ -198,7 +198,7 @@ template <class T, class Norm> void expectWeighted(Norm norm) {
   std::mt19937_64 random(33);
   for (const mint p : kPowers)
     for (const mint stride : {1, 3, -2, 0})
-      for (const size_t count : {0, 1, 2, 19, 67}) {
+      for (const size_t count : std::initializer_list<size_t>{0, 1, 2, 19, 67}) {
         const size_t size = count == 0 ? 0 : (count - 1) * size_t(std::abs(stride)) + 1;
         const std::vector<T> data = randomVector<T>(random, size, 0);
         std::vector<mreal> weights = randomVector<mreal>(random, count, 2);
@@ -270,7 +270,7 @@ TEST(VectorNormWeights, OfAZeroDenominatorFailUnderTheFlagElseAreInfinite) {
 template <class T, class Norm> void expectScaled(Norm norm) {
   std::mt19937_64 random(34);
   for (const mint p : kPowers)
-    for (const size_t count : {0, 1, 2, 19, 67, 500})
+    for (const size_t count : std::initializer_list<size_t>{0, 1, 2, 19, 67, 500})
       for (const mint mean : {0, 1, -3}) {
         const std::vector<T> error = randomVector<T>(random, count, -20),
                              data = randomVector<T>(random, count, 3);

@@ -95,7 +95,7 @@ void expectAsSerial(mint (*routine)(A *, const T *, mint, const mint *, mint), c
 
 TEST_F(ConcurrentReductions, OtherThanRealTotalsAreThoseOfOnePiece) {
   std::mt19937_64 random(51);
-  for (const size_t count : {1, 2, 3, 4, 5, 67, 1000, 40000})
+  for (const size_t count : std::initializer_list<size_t>{1, 2, 3, 4, 5, 67, 1000, 40000})
     for (const mint flags : {0, kChecks}) {
       std::vector<mint> words(count);
       std::vector<mreal> reals(count);
@@ -124,7 +124,7 @@ TEST_F(ConcurrentReductions, OtherThanRealTotalsAreThoseOfOnePiece) {
 
 TEST_F(ConcurrentReductions, DotProductsAreThoseOfOnePiece) {
   std::mt19937_64 random(52);
-  for (const size_t count : {1, 2, 3, 67, 40000})
+  for (const size_t count : std::initializer_list<size_t>{1, 2, 3, 67, 40000})
     for (const mint flags : {0, kChecks}) {
       std::vector<mint> x(count), y(2 * count);
       for (mint &a : x) a = mint(random() % 101) - 50;

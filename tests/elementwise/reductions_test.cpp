@@ -356,7 +356,7 @@ TEST(Extremes, OfRealsKeepTheFirstOfTwoZeros) {
 }
 
 TEST(Extremes, OfNothingButNaNsAreTheInitialValues) {
-  for (const size_t count : {1, 3, 64, 65}) {
+  for (const size_t count : std::initializer_list<size_t>{1, 3, 64, 65}) {
     const std::vector<mreal> list(count, kNaN);
     EXPECT_EQ(reduceList(machfunc_d_max, list, 6).value[0], -kInfinity);
     EXPECT_EQ(reduceList(machfunc_d_min, list, 6).value[0], kInfinity);
