@@ -47,14 +47,19 @@ template <class X> struct Dense {
 };
 template <class X> struct Strided {
   const X *data;
-  ptrdiff_t stride;
+  ptrdiff_t stride = 0;
   X at(ptrdiff_t k) const { return data[k * stride]; }
 };
 template <class X> struct Constant {
-  X value;
+  explicit Constant(const X *data) : value(*data) {}
   X at(ptrdiff_t) const { return value; }
   Constant from(ptrdiff_t) const { return *this; }
+
+  X value;
 };
+// Complex operators branch on their operands, and of one that does not change a compiler computes ahead what
+// only one branch asks for, exceptions and all: they read it anew for each element.
+template <class T, class X> using Scalar = ChooseOf<isComplex<T>, Strided<X>, Constant<X>>;
 
 template <class T> constexpr T classified(error &code, T value) {
   if (code == error::none) code = classify(value);
@@ -85,7 +90,8 @@ template <class Op, class Form, class T, class... X> constexpr auto computeEleme
 
 // One by one, up to the first failure.
 template <class Form, class Op, class T, class Result, class... X>
-inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t step, mint count, X... operands) {
+inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t step, mint count,
+                                                   X... operands) {
   for (ptrdiff_t k = 0; k < count; ++k) {
     error code = error::none;
     const Result value = computeElement<Op, Form, T>(code, operands.at(k)...);
@@ -113,17 +119,19 @@ template <class Result, class X> Sharing sharingOf(const Result *result, mint co
   const bool meet = written < read + elements * sizeof(X) && read < written + elements * sizeof(Result);
   return meet ? Sharing::partly : Sharing::none;
 }
-template <class Result, class X> Sharing sharingOf(const Result *, mint, Constant<X>) { return Sharing::none; }
+template <class Result, class X> Sharing sharingOf(const Result *, mint, Constant<X>) {
+  return Sharing::none;
+}
 
 // Stores a block, or only tests it; tells whether an element may have failed.
 template <bool stores, class Lanes, class T, class Result, class... X>
 bool runLanes(Result *result, mint count, X... operands) {
-  typename Lanes::Suspicion suspicion = 0;
+  typename Lanes::Suspicion suspicion = {};
   for (ptrdiff_t k = 0; k < count; ++k) {
     const Result value = Lanes::lane(suspicion, convertTo<T>(operands.at(k))...);
     if constexpr (stores) result[k] = value;
   }
-  return suspicion < 0;
+  return suspicion.any();
 }
 
 template <class Form, class Op, class T, class Result, class... X>
@@ -131,9 +139,8 @@ mint runBlocks(Result *result, mint count, bool inPlace, X... operands) {
   using Lanes = LanesOf<Op, Form, T>;
   for (mint start = 0; start < count; start += kLaneBlock) {
     const mint size = count - start < kLaneBlock ? count - start : kLaneBlock;
-    const bool isSuspect = inPlace
-                               ? runLanes<false, Lanes, T>(result + start, size, operands.from(start)...)
-                               : runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
+    const bool isSuspect = inPlace ? runLanes<false, Lanes, T>(result + start, size, operands.from(start)...)
+                                   : runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
     if (isSuspect) [[unlikely]] {
       const mint position = runLoop<Form, Op, T>(result + start, 1, size, operands.from(start)...);
       if (position != 0) return start + position;
@@ -170,8 +177,8 @@ mint runShape(Result *result, mint count, const mint *strides, const X *x, const
   const mint sx = strides[1], sy = strides[2];
   if (strides[0] == 1) {
     if (sx == 1 && sy == 1) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Dense<Y>{y});
-    if (sx == 1 && sy == 0) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Constant<Y>{*y});
-    if (sx == 0 && sy == 1) return runDense<Form, Op, T>(result, count, Constant<X>{*x}, Dense<Y>{y});
+    if (sx == 1 && sy == 0) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Scalar<T, Y>{y});
+    if (sx == 0 && sy == 1) return runDense<Form, Op, T>(result, count, Scalar<T, X>{x}, Dense<Y>{y});
   }
   return runLoop<Form, Op, T>(result, strides[0], count, Strided<X>{x, sx}, Strided<Y>{y, sy});
 }
@@ -181,12 +188,11 @@ mint runShape(Result *result, mint count, const mint *strides, const A *a, const
   if (count <= 0) return 0;
   if (strides[0] == 1 && strides[2] == 1 && strides[3] == 1) {
     if (strides[1] == 0)
-      return runDense<Form, Op, T>(result, count, Constant<A>{*a}, Dense<X>{x}, Dense<Y>{y});
-    if (strides[1] == 1)
-      return runDense<Form, Op, T>(result, count, Dense<A>{a}, Dense<X>{x}, Dense<Y>{y});
+      return runDense<Form, Op, T>(result, count, Scalar<T, A>{a}, Dense<X>{x}, Dense<Y>{y});
+    if (strides[1] == 1) return runDense<Form, Op, T>(result, count, Dense<A>{a}, Dense<X>{x}, Dense<Y>{y});
   }
-  return runLoop<Form, Op, T>(result, strides[0], count, Strided<A>{a, strides[1]},
-                              Strided<X>{x, strides[2]}, Strided<Y>{y, strides[3]});
+  return runLoop<Form, Op, T>(result, strides[0], count, Strided<A>{a, strides[1]}, Strided<X>{x, strides[2]},
+                              Strided<Y>{y, strides[3]});
 }
 
 // Underflow and inexact never fail an element.
@@ -255,15 +261,14 @@ template <class Op, class X>
 inline constexpr torvane_loops::UnaryLoop kUnaryLoop = {unaryRoutine<Op, X>,
                                                         {sizeof(StoredOf<Op, X, X>), sizeof(X)}};
 
-template <class Op, class X, class Y>
-using PairType = ChooseOf<hasSeparateOperands<Op>, X, WiderOf<X, Y>>;
+template <class Op, class X, class Y> using PairType = ChooseOf<hasSeparateOperands<Op>, X, WiderOf<X, Y>>;
 template <class Op, class X, class Y>
 inline constexpr torvane_loops::BinaryLoop kBinaryLoop = {
     binaryRoutine<Op, X, Y>, {sizeof(StoredOf<Op, PairType<Op, X, Y>, X, Y>), sizeof(X), sizeof(Y)}};
 
 template <class Op, class X, mint operand>
-inline constexpr torvane_loops::UnaryLoop kBoundLoop = {
-    boundRoutine<Op, X, operand>, {sizeof(StoredOf<Op, X, X, X>), sizeof(X)}};
+inline constexpr torvane_loops::UnaryLoop kBoundLoop = {boundRoutine<Op, X, operand>,
+                                                        {sizeof(StoredOf<Op, X, X, X>), sizeof(X)}};
 
 template <class Op, class X>
 inline constexpr torvane_loops::TernaryLoop kTernaryLoop = {

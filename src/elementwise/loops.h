@@ -11,9 +11,7 @@ namespace torvane_loops {
 
 // 0, or one plus the position of the first failure. Strides: the result's, then each operand's.
 template <int arity> struct FunctionOf;
-template <> struct FunctionOf<1> {
-  using Type = mint (*)(void *, const void *, mint, const mint *, mint);
-};
+template <> struct FunctionOf<1> { using Type = mint (*)(void *, const void *, mint, const mint *, mint); };
 template <> struct FunctionOf<2> {
   using Type = mint (*)(void *, const void *, const void *, mint, const mint *, mint);
 };

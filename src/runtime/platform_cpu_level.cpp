@@ -1,5 +1,5 @@
-// From cpuid leaves 1 and 7, and from what the system lets the processor save: Intel 64 and IA-32 Architectures
-// Software Developer's Manual, volume 1, sections 14.3 and 15.2.
+// From cpuid leaves 1 and 7, and from what the system lets the processor save: Intel 64 and IA-32
+// Architectures Software Developer's Manual, volume 1, sections 14.3 and 15.2.
 #include "platform_cpu_level.h"
 
 #include <algorithm>
