@@ -106,7 +106,7 @@ inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t ste
 
 // Elements between two looks at what the lanes suspect: few enough that a block to be run again is in the
 // nearest cache, and many enough that the looks cost nothing.
-inline constexpr mint kLaneBlock = 2048;
+inline constexpr mint kLaneBlock = 4096;
 
 // Whether a block may be run again after it has been stored, or must be tested first because the result is
 // an operand; where they overlap in part, each element may depend on the one before.

@@ -45,10 +45,10 @@ void writeLoopFiles(Files &files, const std::vector<ExportGroup> &routines) {
   for (const auto &[family, text] : members) {
     const std::string record = loopRecordOf(family), path = "src/elementwise/generated/" + family + "_loops";
     files[path + ".h"] = std::string("// ") + kGeneratedNote +
-                         "\n#pragma once\n\n#include \"../levels.h\"\n\nnamespace torvane_loops {\n\nstruct " +
+                         "\n#pragma once\n\n#include \"../levels.h\"\n#include \"../reduction_loops.h\"\n\nnamespace torvane_loops {\n\nstruct " +
                          record + " {\n" + text + "};\nextern const " + record + " " + family + "_baseline, " +
                          family + "_avx2, " + family + "_avx512;\n\n} // namespace torvane_loops\n";
-    files[path + ".cpp"] = std::string("// ") + kGeneratedNote + "\n#include \"../kernel.h\"\n#include \"" +
+    files[path + ".cpp"] = std::string("// ") + kGeneratedNote + "\n#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include \"" +
                            family + "_loops.h\"\n#include \"../../scalar/bodies/" + family +
                            ".h\"\n\nusing namespace torvane;\n\nconst torvane_loops::" + record +
                            " torvane_loops::TORVANE_LOOPS_HERE(" + family + ") = {\n" + loops[family] + "};\n";

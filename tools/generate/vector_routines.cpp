@@ -107,12 +107,12 @@ ExportGroup reductionGroup(const ReductionRow &row) {
     const std::string arity = isPair ? "PairReduction" : "Reduction";
     const std::string loop =
         "k" + arity + "Loop<" + listed({std::string("reduction::") + row.vector, kKindType[kind]}) + ">";
-    DerivedExport routine = isPair ? makeRoutine(name, "drive" + arity, {"x", "y"})
-                                   : makeRoutine(name, "drive" + arity, {"data"});
+    DerivedExport routine = isPair ? makeDriven(row.family, name, arity, loop, {"x", "y"})
+                                   : makeDriven(row.family, name, arity, loop, {"data"});
     routine.signature.parameters[0] = {accumulatorType(row, kind), "accumulator"};
     for (size_t k = 1; k <= static_cast<size_t>(row.operands); ++k)
       routine.signature.parameters[k].type = {operandTypes[kind], "ptr", ""};
-    routine.definition.replace(routine.definition.find("(result"), 7, "(" + loop + ", accumulator");
+    routine.definition.replace(routine.definition.find(", result"), 8, ", accumulator");
     group.exports.push_back(routine);
   }
   return group;
