@@ -47,7 +47,7 @@ template <class X> struct Dense {
 };
 template <class X> struct Strided {
   const X *data;
-  ptrdiff_t stride = 0;
+  ptrdiff_t stride;
   X at(ptrdiff_t k) const { return data[k * stride]; }
 };
 template <class X> struct Constant {
@@ -58,8 +58,8 @@ template <class X> struct Constant {
   X value;
 };
 // Complex operators branch on their operands, and of one that does not change a compiler computes ahead what
-// only one branch asks for, exceptions and all: they read it anew for each element.
-template <class T, class X> using Scalar = ChooseOf<isComplex<T>, Strided<X>, Constant<X>>;
+// only one branch asks for, exceptions and all: there the loops do not show that a stride is 0.
+template <class... T> inline constexpr bool mayBeConstant = !(isComplex<T> || ...);
 
 template <class T> constexpr T classified(error &code, T value) {
   if (code == error::none) code = classify(value);
@@ -177,8 +177,10 @@ mint runShape(Result *result, mint count, const mint *strides, const X *x, const
   const mint sx = strides[1], sy = strides[2];
   if (strides[0] == 1) {
     if (sx == 1 && sy == 1) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Dense<Y>{y});
-    if (sx == 1 && sy == 0) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Scalar<T, Y>{y});
-    if (sx == 0 && sy == 1) return runDense<Form, Op, T>(result, count, Scalar<T, X>{x}, Dense<Y>{y});
+    if constexpr (mayBeConstant<T, X, Y>) {
+      if (sx == 1 && sy == 0) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Constant<Y>{y});
+      if (sx == 0 && sy == 1) return runDense<Form, Op, T>(result, count, Constant<X>{x}, Dense<Y>{y});
+    }
   }
   return runLoop<Form, Op, T>(result, strides[0], count, Strided<X>{x, sx}, Strided<Y>{y, sy});
 }
@@ -187,8 +189,9 @@ template <class Form, class Op, class T, class Result, class A, class X, class Y
 mint runShape(Result *result, mint count, const mint *strides, const A *a, const X *x, const Y *y) {
   if (count <= 0) return 0;
   if (strides[0] == 1 && strides[2] == 1 && strides[3] == 1) {
-    if (strides[1] == 0)
-      return runDense<Form, Op, T>(result, count, Scalar<T, A>{a}, Dense<X>{x}, Dense<Y>{y});
+    if constexpr (mayBeConstant<T>)
+      if (strides[1] == 0)
+        return runDense<Form, Op, T>(result, count, Constant<A>{a}, Dense<X>{x}, Dense<Y>{y});
     if (strides[1] == 1) return runDense<Form, Op, T>(result, count, Dense<A>{a}, Dense<X>{x}, Dense<Y>{y});
   }
   return runLoop<Form, Op, T>(result, strides[0], count, Strided<A>{a, strides[1]}, Strided<X>{x, strides[2]},

@@ -1,9 +1,9 @@
 // Loops in blocks of lanes against loops of single elements, for every routine of the tables: a dense run
 // against a strided one on the same elements, at each processor level. And what wide loops must not do: read
 // or write beyond short data.
+#include "at_levels.h"
 #include "elementwise/kernel.h"
 #include "routine_walk.h"
-#include "runtime/platform_cpu_level.h"
 
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -15,13 +15,8 @@ using namespace torvane::test;
 
 namespace {
 
-class Lanes : public testing::TestWithParam<mint> {
-protected:
-  Lanes() : previous(setProcessorLevel(GetParam())) {}
-  ~Lanes() override { setProcessorLevel(previous); }
-  mint previous;
-};
-INSTANTIATE_TEST_SUITE_P(AtLevel, Lanes, testing::Range(mint{0}, mint(highestProcessorLevel() + 1)));
+using Lanes = AtLevel;
+INSTANTIATE_TEST_SUITE_P(AtLevel, Lanes, testing::Range(mint{0}, levelsToTest()));
 
 constexpr mint kDenseStrides[3] = {1, 1, 1}, kWideStrides[3] = {2, 2, 2};
 

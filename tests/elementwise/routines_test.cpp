@@ -1,8 +1,8 @@
 // Every vector routine of the operator tables against its typed entries, bit for bit: all shapes of
 // strides, lengths 0 to 67, in place and apart, every setting of the flags, red zones around each buffer, at
 // each processor level that the machine has.
+#include "at_levels.h"
 #include "elementwise/result_types.h"
-#include "runtime/platform_cpu_level.h"
 #include "scalar/operator_table.h"
 #include "support/kinds.h"
 
@@ -165,14 +165,8 @@ void checkUnary(const UnaryOperator &op, mint kind, mint count, const mint (&str
   expectStored(result, expected, count, strides[0], inPlace);
 }
 
-// Puts a level in force for one test.
-class TypedRoutines : public testing::TestWithParam<mint> {
-protected:
-  TypedRoutines() : previous(setProcessorLevel(GetParam())) {}
-  ~TypedRoutines() override { setProcessorLevel(previous); }
-  mint previous;
-};
-INSTANTIATE_TEST_SUITE_P(AtLevel, TypedRoutines, testing::Range(mint{0}, mint(highestProcessorLevel() + 1)));
+using TypedRoutines = AtLevel;
+INSTANTIATE_TEST_SUITE_P(AtLevel, TypedRoutines, testing::Range(mint{0}, levelsToTest()));
 
 TEST_P(TypedRoutines, OfOneOperandAreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
   std::mt19937_64 random(1);
