@@ -1,7 +1,6 @@
 #include "thresholds.h"
 
 #include "platform_cpu.h"
-#include "platform_cpu_level.h"
 #include "startup.h"
 #include <torvane/elementwise.h>
 
@@ -51,7 +50,6 @@ void initializeThresholds(mint stage) {
     setParallelDisabled(0);
     resetLengthThresholds();
     resetVendorThresholds();
-    setProcessorLevel(highestProcessorLevel());
   } else if (stage == 1) {
     countProcessors();
     if (workerCountFixed() == 0) setWorkerCount(coreCount());
