@@ -113,7 +113,7 @@ TEST(Exhaustion, OfReallocationKeepsTheOldBlock) {
 }
 
 TEST(FatalPath, PrintsWaitsThreeSecondsAndEndsWithStatusOne) {
-  const ChildOutcome outcome = runInChild([] { fatalOutOfMemory(); });
+  const ChildOutcome outcome = runInChild([] { fatalOutOfMemory(); }, LongWaits::inFull);
   EXPECT_TRUE(outcome.exited);
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.output, kMessage);

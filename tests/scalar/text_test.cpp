@@ -247,6 +247,7 @@ TEST_P(TextExhaustion, TakesTheFatalPathWhicheverRequestOfTheHeapFails) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, TextExhaustion,
                          testing::Values([] { to_string_Integer64(INT64_MIN); },
-                                         [] { to_string_ComplexReal64(1e300, -2); }));
+                                         [] { to_string_ComplexReal64(1e300, -2); }),
+                         [](const auto &kind) { return kind.index == 0 ? "Integer64" : "ComplexReal64"; });
 
 } // namespace torvane::test

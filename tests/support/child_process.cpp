@@ -1,13 +1,29 @@
 #include "child_process.h"
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <sys/wait.h>
 #include <unistd.h>
 
+// The linker sends the library's calls of sleepMilliseconds here (--wrap).
+extern "C" {
+void __real__ZN7torvane17sleepMillisecondsEj(uint32_t milliseconds);
+void __wrap__ZN7torvane17sleepMillisecondsEj(uint32_t milliseconds);
+}
+
+namespace {
+torvane::test::LongWaits longWaits = torvane::test::LongWaits::inFull;
+}
+
+void __wrap__ZN7torvane17sleepMillisecondsEj(uint32_t milliseconds) {
+  if (milliseconds < 1000 || longWaits == torvane::test::LongWaits::inFull)
+    __real__ZN7torvane17sleepMillisecondsEj(milliseconds);
+}
+
 namespace torvane::test {
 
-ChildOutcome runInChild(const std::function<void()> &body) {
+ChildOutcome runInChild(const std::function<void()> &body, LongWaits waits) {
   int ends[2];
   if (pipe(ends) != 0) return {};
   std::fflush(stdout);
@@ -17,6 +33,7 @@ ChildOutcome runInChild(const std::function<void()> &body) {
     dup2(ends[1], STDOUT_FILENO);
     close(ends[0]);
     close(ends[1]);
+    longWaits = waits;
     body();
     _exit(99);
   }

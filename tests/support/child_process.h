@@ -14,7 +14,9 @@ struct ChildOutcome {
   std::string output; // what it wrote to standard output
 };
 
-// The child ends with status 99 if `body` returns.
-ChildOutcome runInChild(const std::function<void()> &body);
+// The child ends with status 99 if `body` returns. It passes over waits of a second and more (the fatal path
+// waits three), unless they are what is tested.
+enum class LongWaits { passedOver, inFull };
+ChildOutcome runInChild(const std::function<void()> &body, LongWaits waits = LongWaits::passedOver);
 
 } // namespace torvane::test
