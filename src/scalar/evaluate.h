@@ -21,7 +21,9 @@ struct Plain {
 struct Checked {
   static constexpr bool checked = true;
   template <class T> static constexpr T fit(error &code, bool lost, T wrapped) {
-    if (lost || isReserved(wrapped)) code = error::integerOverflow;
+    // Two tests, each expected to pass: the first is then one jump on the overflow flag.
+    if (__builtin_expect(lost, false)) code = error::integerOverflow;
+    if (__builtin_expect(isReserved(wrapped), false)) code = error::integerOverflow;
     return wrapped;
   }
 };
