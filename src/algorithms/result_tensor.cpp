@@ -33,4 +33,22 @@ mint ResultTensor::commit() {
   return kSuccess;
 }
 
+mint reshapeToSlot(MTensor **slot, MTensor *tensor, mint rank, const mint *dimensions, mint errorMode) {
+  ResultTensor result(slot);
+  if (result.isIn(tensor)) return MTensor_setShape(tensor, rank, dimensions, tensor->elementCount, errorMode);
+  const mint status = result.allocate(tensor->type, rank, dimensions, errorMode);
+  if (status != kSuccess) return status;
+  MTensor_copyContiguousData(result.get(), 0, tensor, 0, tensor->elementCount);
+  return result.commit();
+}
+
+mint copyToSlot(MTensor **slot, const MTensor *tensor, mint errorMode) {
+  ResultTensor result(slot);
+  if (result.isIn(tensor)) return kSuccess;
+  const mint status = result.allocateLike(tensor->type, tensor, errorMode);
+  if (status != kSuccess) return status;
+  MTensor_copyContiguousData(result.get(), 0, tensor, 0, tensor->elementCount);
+  return result.commit();
+}
+
 } // namespace torvane

@@ -31,7 +31,9 @@ public:
 
   // Shape and type; the status of MTensor_allocateCommon.
   mint allocate(mint type, mint rank, const mint *dimensions, mint errorMode = kReport);
-  mint allocateLike(mint type, const MTensor *like) { return allocate(type, like->rank, like->dimensions); }
+  mint allocateLike(mint type, const MTensor *like, mint errorMode = kReport) {
+    return allocate(type, like->rank, like->dimensions, errorMode);
+  }
 
   MTensor *get() const { return isApart || isFresh ? made : *slot; }
 
@@ -43,5 +45,11 @@ private:
   MTensor *made = nullptr; // not yet the caller's
   bool isApart = false, isFresh = false;
 };
+
+// The tensor itself as the result; nothing happens when the slot holds it already.
+mint copyToSlot(MTensor **slot, const MTensor *tensor, mint errorMode = kReport);
+
+// The same with other extents for as many elements. A slot that holds the tensor has it reshaped in place.
+mint reshapeToSlot(MTensor **slot, MTensor *tensor, mint rank, const mint *dimensions, mint errorMode);
 
 } // namespace torvane
