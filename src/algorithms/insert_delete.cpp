@@ -64,7 +64,7 @@ mint deleteAt(MTensor **slot, const MTensor *tensor, const MTensor *matrix) {
   positions.dropDuplicates();
   const mint each = positions.countPerPart();
   if (each == 0) return kWrongDimensions;
-  ResultTensor result(slot, {tensor});
+  ResultTensor result(slot, {tensor, matrix});
   status = allocateChanged(result, tensor, depth, -int64_t{each});
   if (status != kSuccess) return status;
   if (result.get()->elementCount > 0) {
@@ -91,7 +91,7 @@ mint insertAt(MTensor **slot, const MTensor *tensor, const MTensor *item, const 
   if (status != kSuccess) return status;
   const mint each = positions.countPerPart();
   if (each == 0) return kWrongDimensions;
-  ResultTensor result(slot, {tensor, item});
+  ResultTensor result(slot, {tensor, item, matrix});
   status = allocateChanged(result, tensor, depth, each);
   if (status != kSuccess) return status;
   if (result.get()->elementCount > 0) {
@@ -114,7 +114,7 @@ mint handleDelete(TorvaneLibraryData *, mint argumentCount, void *const *argumen
   const MTensor *tensor = tensorArgument(arguments, 0), *matrix = tensorArgument(arguments, 1);
   const mint status = checkPositions(matrix, tensor);
   if (status != kSuccess) return status;
-  if (!hasPositions(matrix)) return copyToSlot(tensorResult(result), tensor);
+  if (!hasPositions(matrix)) return copyToSlot(tensorResult(result), tensor, {matrix});
   return deleteAt(tensorResult(result), tensor, matrix);
 }
 
@@ -125,7 +125,7 @@ mint handleInsert(TorvaneLibraryData *, mint argumentCount, void *const *argumen
   if (item->type != tensor->type) return kWrongType;
   const mint status = checkPositions(matrix, tensor);
   if (status != kSuccess) return status;
-  if (!hasPositions(matrix)) return copyToSlot(tensorResult(result), tensor);
+  if (!hasPositions(matrix)) return copyToSlot(tensorResult(result), tensor, {matrix, item});
   if (!fitsBelow(item, tensor, matrix->dimensions[1])) return kWrongDimensions;
   return insertAt(tensorResult(result), tensor, item, matrix);
 }

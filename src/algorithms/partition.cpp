@@ -89,7 +89,8 @@ mint Runtime_MTensor_Partition(MTensor **resultSlot, MTensor *tensor, MTensor *s
   status = fillExtents(tensor, levels, integersOf(sizes), integersOf(offsets), extents.get());
   if (status != kSuccess) return status;
   if (keepsOrder(tensor, levels, integersOf(offsets), extents.get()))
-    return noMemoryIfFailed(reshapeToSlot(resultSlot, tensor, rank, extents.get(), kReport));
+    return noMemoryIfFailed(
+        reshapeToSlot(resultSlot, tensor, rank, extents.get(), kReport, {sizes, offsets}));
   ResultTensor part(resultSlot, {tensor, sizes, offsets});
   status = noMemoryIfFailed(part.allocate(tensor->type, rank, extents.get()));
   if (status != kSuccess) return status;

@@ -44,7 +44,9 @@ int64_t endIn(int64_t dimension, mint bounds, int64_t end) {
   return end > dimension && (bounds & kClipEnd) != 0 ? dimension : end;
 }
 
+// One past the end of the longest dimension is no position: no mint holds it.
 bool fits(int64_t dimension, int64_t start, int64_t end, int64_t step) {
+  if (start > INT32_MAX) return false;
   if (step > 0) return start >= 1 && start <= end + 1 && end <= dimension;
   return step < 0 && end >= 1 && end <= start + 1 && start <= dimension;
 }

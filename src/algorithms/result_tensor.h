@@ -26,14 +26,12 @@ public:
   // Whether the slot holds this tensor.
   bool isIn(const MTensor *tensor) const { return *slot != nullptr && *slot == tensor; }
 
-  // Before the allocation: one operand more that is read while the result is written.
+  // Before the allocation: one operand more.
   void avoid(const MTensor *operand) { isApart = isApart || isIn(operand); }
 
   // Shape and type; the status of MTensor_allocateCommon.
   mint allocate(mint type, mint rank, const mint *dimensions, mint errorMode = kReport);
-  mint allocateLike(mint type, const MTensor *like, mint errorMode = kReport) {
-    return allocate(type, like->rank, like->dimensions, errorMode);
-  }
+  mint allocateLike(mint type, const MTensor *like) { return allocate(type, like->rank, like->dimensions); }
 
   MTensor *get() const { return isApart || isFresh ? made : *slot; }
 
@@ -46,10 +44,12 @@ private:
   bool isApart = false, isFresh = false;
 };
 
-// The tensor itself as the result; nothing happens when the slot holds it already.
-mint copyToSlot(MTensor **slot, const MTensor *tensor, mint errorMode = kReport);
+// The tensor itself as the result; nothing happens when the slot holds it already. Other operands are left
+// whole by a failure.
+mint copyToSlot(MTensor **slot, const MTensor *tensor, std::initializer_list<const MTensor *> others = {});
 
 // The same with other extents for as many elements. A slot that holds the tensor has it reshaped in place.
-mint reshapeToSlot(MTensor **slot, MTensor *tensor, mint rank, const mint *dimensions, mint errorMode);
+mint reshapeToSlot(MTensor **slot, MTensor *tensor, mint rank, const mint *dimensions, mint errorMode,
+                   std::initializer_list<const MTensor *> others = {});
 
 } // namespace torvane

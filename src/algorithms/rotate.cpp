@@ -10,7 +10,7 @@ namespace torvane {
 
 namespace {
 
-AxisPieces rotated(mint length, int64_t shift) {
+AxisPieces piecesOf(mint length, int64_t shift) {
   const auto first = static_cast<mint>(((shift % length) + length) % length);
   AxisPieces pieces;
   pieces.add(runOf(length - first, 0, first));
@@ -18,14 +18,13 @@ AxisPieces rotated(mint length, int64_t shift) {
   return pieces;
 }
 
-// The shifts times `sign`. They may stand in the result's own payload: they are read before it is touched.
-mint rotate(MTensor **slot, const MTensor *tensor, mint count, const mint *shifts, int64_t sign) {
+// By the shifts times `sign`.
+mint rotate(ResultTensor &result, const MTensor *tensor, mint count, const mint *shifts, int64_t sign) {
   if (count < 0 || count > tensor->rank) return kWrongDimensions;
   Scratch<AxisPieces> axes(count);
   if (axes.status() != kSuccess) return axes.status();
   for (mint i = 0; i < count && tensor->elementCount > 0; ++i)
-    axes[i] = rotated(tensor->dimensions[i], sign * shifts[i]);
-  ResultTensor result(slot, {tensor});
+    axes[i] = piecesOf(tensor->dimensions[i], sign * shifts[i]);
   const mint status = result.allocateLike(tensor->type, tensor);
   if (status != kSuccess) return status;
   copyPieces(result.get(), tensor, axes.get(), count);
@@ -37,11 +36,13 @@ mint rotateByName(mint argumentCount, void *const *arguments, void *result, int6
   if (argumentCount != 1 && argumentCount != 2) return kWrongArguments;
   const MTensor *tensor = tensorArgument(arguments, 0);
   const mint one = 1;
-  if (argumentCount == 1) return rotate(tensorResult(result), tensor, 1, &one, sign);
+  ResultTensor rotated(tensorResult(result), {tensor});
+  if (argumentCount == 1) return rotate(rotated, tensor, 1, &one, sign);
   const MTensor *shifts = tensorArgument(arguments, 1);
   const mint status = checkIntegerVector(shifts);
   if (status != kSuccess) return status;
-  return rotate(tensorResult(result), tensor, shifts->elementCount, integersOf(shifts), sign);
+  rotated.avoid(shifts);
+  return rotate(rotated, tensor, shifts->elementCount, integersOf(shifts), sign);
 }
 
 } // namespace
@@ -59,5 +60,6 @@ mint handleRotateRight(TorvaneLibraryData *, mint argumentCount, void *const *ar
 using namespace torvane;
 
 mint Runtime_MTensor_Rotate(MTensor **resultSlot, MTensor *tensor, mint count, const mint *shifts) {
-  return rotate(resultSlot, tensor, count, shifts, 1);
+  ResultTensor rotated(resultSlot, {tensor});
+  return rotate(rotated, tensor, count, shifts, 1);
 }

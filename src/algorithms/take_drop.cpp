@@ -63,12 +63,11 @@ mint select(const MTensor *tensor, mint count, Range *ranges, Choose choose, Sel
   return kSuccess;
 }
 
-mint takeDrop(MTensor **slot, const MTensor *tensor, mint count, Range *ranges, bool isTake) {
+mint takeDrop(ResultTensor &result, const MTensor *tensor, mint count, Range *ranges, bool isTake) {
   Selection selection(tensor->rank, count);
   if (selection.status() != kSuccess) return selection.status();
   mint status = select(tensor, count, ranges, isTake ? chooseTaken : chooseKept, selection);
   if (status != kSuccess) return status;
-  ResultTensor result(slot, {tensor});
   status = result.allocate(tensor->type, tensor->rank, selection.extents.get());
   if (status != kSuccess) return status;
   copyPieces(result.get(), tensor, selection.axes.get(), count);
@@ -92,9 +91,14 @@ template <class ValueAt>
 mint takeDropBy(MTensor **slot, const MTensor *tensor, mint count, bool isTake, ValueAt valueAt) {
   if (count < 0 || count > tensor->rank) return kWrongRank;
   Scratch<Range> ranges(count);
+  ResultTensor result(slot, {tensor});
   mint status = ranges.status();
-  for (mint i = 0; i < count && status == kSuccess; ++i) status = readRange(valueAt(i), &ranges[i]);
-  return status != kSuccess ? status : takeDrop(slot, tensor, count, ranges.get(), isTake);
+  for (mint i = 0; i < count && status == kSuccess; ++i) {
+    const RangeValue value = valueAt(i);
+    result.avoid(value.vector);
+    status = readRange(value, &ranges[i]);
+  }
+  return status != kSuccess ? status : takeDrop(result, tensor, count, ranges.get(), isTake);
 }
 
 mint takeDropByName(mint argumentCount, void *const *arguments, void *result, bool isTake) {
