@@ -7,6 +7,7 @@
 
 #include "../runtime/types.h"
 
+#include <algorithm>
 #include <stddef.h>
 
 namespace torvane {
@@ -18,6 +19,10 @@ struct BoxAxis {
 
 class Box {
 public:
+  Box() = default;
+  Box(const Box &other) : rank(other.rank) { std::copy_n(other.axes, rank, axes); } // the axes in use
+  Box &operator=(const Box &) = delete;
+
   // `count` is at least 1.
   void add(size_t count, ptrdiff_t target, ptrdiff_t source);
 
@@ -30,8 +35,8 @@ private:
 
   void walk(mint axis, char *target, const char *source, size_t block, Rows copyRows) const;
 
-  BoxAxis axes[kAxes];
   mint rank = 0;
+  BoxAxis axes[kAxes];
 };
 
 } // namespace torvane

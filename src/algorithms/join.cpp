@@ -50,20 +50,32 @@ ptrdiff_t runBytes(const MTensor *tensor, mint level) {
   return bytes;
 }
 
-// For each position before the level, the run of each tensor in turn.
+// Copies `count` runs of one tensor from the run `first` on. Yields the bytes of a run.
+ptrdiff_t copyRunsOf(const MTensor *tensor, mint level, size_t first, size_t count, char *to,
+                     ptrdiff_t pitch) {
+  const ptrdiff_t run = tensor->elementCount == 0 ? 0 : runBytes(tensor, level);
+  if (run == 0) return 0;
+  Box box;
+  box.add(count, pitch, run);
+  box.copy(to, static_cast<const char *>(tensor->data) + static_cast<ptrdiff_t>(first) * run,
+           static_cast<size_t>(run));
+  return run;
+}
+
+constexpr size_t kCutBytes = 65536; // of the result
+
+// For each position before the level, the run of each tensor in turn. The tensors take turns after as many
+// positions as the cache holds, because their runs share its lines.
 void copyRuns(const MTensor *target, Operands &operands, mint level) {
   if (target->elementCount == 0) return;
-  auto *to = static_cast<char *>(target->data);
   const ptrdiff_t pitch = runBytes(target, level);
   const size_t outer =
       static_cast<size_t>(target->elementCount) * elementWidth(target->type) / static_cast<size_t>(pitch);
-  for (mint i = 0; i < operands.count; ++i) {
-    if (operands[i]->elementCount == 0) continue;
-    const ptrdiff_t run = runBytes(operands[i], level);
-    Box box;
-    box.add(outer, pitch, run);
-    box.copy(to, static_cast<const char *>(operands[i]->data), static_cast<size_t>(run));
-    to += run;
+  const size_t cut = std::max<size_t>(1, kCutBytes / static_cast<size_t>(pitch));
+  for (size_t done = 0; done < outer; done += cut) {
+    const size_t count = std::min(cut, outer - done);
+    auto *to = static_cast<char *>(target->data) + static_cast<ptrdiff_t>(done) * pitch;
+    for (mint i = 0; i < operands.count; ++i) to += copyRunsOf(operands[i], level, done, count, to, pitch);
   }
 }
 
