@@ -429,6 +429,61 @@ TEST_F(StructureModels, PaddingTilesAndLaysTheTensorOver) {
   }
 }
 
+// Results of several times the bytes that boxes take turns after, along the first dimension and along the
+// second.
+class LargeTensors : public StructureModels {
+protected:
+  const std::vector<Extents> shapes = {
+      {30000, 3}, {3, 30000, 2}, {2, 2, 20000, 2}, {150, 7, 150}, {5, 9000, 3}};
+};
+
+TEST_F(LargeTensors, RotateInTurns) {
+  for (const Extents &extents : shapes) {
+    const ModelTensor source = numbered(extents);
+    const std::vector<mint> shifts(extents.size(), 1);
+    expectInEverySlot(NamedCall("RotateLeft").tensor(TORVANE_TYPE_REAL, source).vector(shifts),
+                      TORVANE_TYPE_REAL, modelOf(extents, [&](Extents index) {
+                        for (size_t j = 0; j < index.size(); ++j) index[j] = (index[j] + 1) % extents[j];
+                        return at(source, index);
+                      }));
+  }
+}
+
+// Without the second of three or more, or without every third from the second on.
+TEST_F(LargeTensors, DropInTurns) {
+  for (const Extents &extents : shapes) {
+    const ModelTensor source = numbered(extents);
+    for (const mint step : {3, INT32_MAX}) {
+      NamedCall call("Drop");
+      call.tensor(TORVANE_TYPE_INTEGER, source);
+      std::vector<std::vector<mint>> kept(extents.size());
+      Extents shape;
+      for (size_t j = 0; j < extents.size(); ++j) {
+        call.integer(1).vector({2, extents[j], step});
+        for (mint i = 0; i < extents[j]; ++i)
+          if (i < 1 || (i - 1) % step != 0) kept[j].push_back(i);
+        shape.push_back(mint(kept[j].size()));
+      }
+      expectInEverySlot(call, TORVANE_TYPE_INTEGER, modelOf(shape, [&](Extents index) {
+                          for (size_t j = 0; j < index.size(); ++j) index[j] = kept[j][size_t(index[j])];
+                          return at(source, index);
+                        }));
+    }
+  }
+}
+
+TEST_F(LargeTensors, JoinInTurns) {
+  for (Extents extents : {Extents{30001, 3}, Extents{3, 30000, 2}, Extents{7, 5, 4001}}) {
+    const size_t level = extents.size() - 1;
+    std::vector<ModelTensor> parts = {numbered(extents)};
+    extents[level] += 2;
+    parts.push_back(numbered(extents, 1000000));
+    NamedCall call("JoinAtLevel");
+    call.tensor(TORVANE_TYPE_REAL, parts[0]).tensor(TORVANE_TYPE_REAL, parts[1]).integer(mint(level) + 1);
+    expectJoined(call, TORVANE_TYPE_REAL, parts, level);
+  }
+}
+
 TEST_F(StructureModels, DimensionsAreTheExtentsOrTheFirstOfThem) {
   for (int i = 0; i < 300; ++i) {
     const ModelTensor source = numbered(anyExtents(between(0, 5)));
