@@ -7,6 +7,7 @@
 #include <torvane/lists.h>
 
 #include <algorithm>
+#include <stdlib.h>
 
 namespace torvane {
 
@@ -34,7 +35,7 @@ Choice chooseKept(mint dimension, const Range &range, mint count) {
   }
   const mint last = range.start - 1 + (count - 1) * range.step;
   const mint low = std::min(range.start - 1, last), high = std::max(range.start - 1, last);
-  const mint step = count > 1 ? std::abs(range.step) : 1, gap = step - 1;
+  const mint step = std::abs(range.step), gap = step - 1;
   choice.pieces.add(runOf(low, 0, 0));
   choice.pieces.add({count - 1, gap, low, gap, low + 1, step});
   choice.pieces.add(runOf(dimension - 1 - high, low + (count - 1) * gap, high + 1));
