@@ -366,6 +366,12 @@ TEST_F(StructureEdges, PartitionOfEvenBlocksInPlaceMovesNoElement) {
   expectModel(slot, TORVANE_TYPE_REAL, numbered({2, 3, 2}), "in place");
 }
 
+// As many elements as the tensor has, but not the same ones.
+TEST_F(StructureEdges, PartitionIntoOverlappingBlocksIsNoChangeOfShape) {
+  expectInEverySlot(vectorCall("Partition", 6).vector({3}).vector({2}), TORVANE_TYPE_INTEGER,
+                    {{2, 3}, {1, 2, 3, 3, 4, 5}});
+}
+
 TEST_F(StructureEdges, PartitionWithoutBlocksHasItsShape) {
   expectInEverySlot(vectorCall("Partition").vector({4}).vector({1}), TORVANE_TYPE_INTEGER, {{0, 4}, {}});
   expectInEverySlot(vectorCall("Partition").vector({0}).vector({1}), TORVANE_TYPE_INTEGER, {{4, 0}, {}});
