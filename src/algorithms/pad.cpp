@@ -6,9 +6,9 @@
 #include "pieces.h"
 #include "result_tensor.h"
 #include "scratch.h"
+#include "tiling.h"
 
 #include <algorithm>
-#include <string.h>
 
 namespace torvane {
 
@@ -39,48 +39,6 @@ mint check(const Padding &pad) {
   return status != kSuccess ? status : checkExtents(pad);
 }
 
-// One dimension that the tiling runs along, in bytes.
-struct TileAxis {
-  size_t count, period,
-      first; // indices of the result and of the padding, and the padding's index that comes first
-  size_t targetStride, paddingStride;
-};
-
-// Copies the first `period` bytes again and again behind them. What is copied stays in the first cache.
-void repeatPeriod(char *target, size_t period, size_t bytes) {
-  constexpr size_t kCached = 16384;
-  size_t have = std::min(period, bytes), chunk = have;
-  while (have < bytes) {
-    const size_t next = std::min(chunk, bytes - have);
-    memcpy(target + have, target, next);
-    have += next;
-    if (chunk < kCached) chunk = have;
-  }
-}
-
-// The first `built` indices of the last axis, where the padding's elements are as dense as the result's: from
-// the first one to the padding's end, then from its start.
-void copyWrapped(char *target, const char *padding, const TileAxis &axis, size_t built) {
-  const size_t element = axis.targetStride, before = std::min(built, axis.period - axis.first);
-  memcpy(target, padding + axis.first * element, before * element);
-  memcpy(target + before * element, padding, (built - before) * element);
-}
-
-void tile(char *target, const char *padding, const TileAxis *axis, const TileAxis *last, size_t element) {
-  if (axis == last) {
-    memcpy(target, padding, element);
-    return;
-  }
-  const size_t built = std::min(axis->count, axis->period);
-  if (axis->targetStride == element && axis->paddingStride == element)
-    copyWrapped(target, padding, *axis, built);
-  else
-    for (size_t j = 0; j < built; ++j)
-      tile(target + j * axis->targetStride, padding + (axis->first + j) % axis->period * axis->paddingStride,
-           axis + 1, last, element);
-  repeatPeriod(target, axis->period * axis->targetStride, axis->count * axis->targetStride);
-}
-
 size_t modulo(int64_t x, int64_t y) { return static_cast<size_t>((x % y + y) % y); }
 
 // The padding's index at the start of dimension i: its copies are aligned to the place of the tensor.
@@ -92,26 +50,6 @@ size_t firstPaddingIndex(const Padding &pad, mint i, int64_t extent) {
 
 size_t bytesOf(const MTensor *tensor) {
   return static_cast<size_t>(tensor->elementCount) * elementWidth(tensor->type);
-}
-
-// Dimensions of one index only choose a part of the padding; at most 31 are left.
-void fill(const MTensor *target, const Padding &pad) {
-  TileAxis axes[32];
-  mint count = 0;
-  size_t targetStride = bytesOf(target), paddingStride = bytesOf(pad.padding);
-  const char *padding = static_cast<const char *>(pad.padding->data);
-  for (mint i = 0; i < target->rank; ++i) {
-    const auto extent = static_cast<size_t>(target->dimensions[i]);
-    const auto period = static_cast<size_t>(pad.padding->dimensions[i]);
-    const size_t first = firstPaddingIndex(pad, i, target->dimensions[i]);
-    targetStride /= extent;
-    paddingStride /= period;
-    if (extent == 1)
-      padding += first * paddingStride;
-    else
-      axes[count++] = {extent, period, first, targetStride, paddingStride};
-  }
-  tile(static_cast<char *>(target->data), padding, axes, axes + count, elementWidth(target->type));
 }
 
 // Where the tensor lies along dimension i, as far as it is inside the result.
@@ -135,6 +73,33 @@ bool placeAll(const MTensor *target, const Padding &pad, AxisPieces *axes) {
   return true;
 }
 
+TileRange coveredBy(const AxisPieces *places, mint i) {
+  if (places == nullptr) return {0, 0};
+  const Piece &place = *places[i].begin();
+  return {static_cast<size_t>(place.target), static_cast<size_t>(place.target + place.length)};
+}
+
+// Dimensions of one index only choose a part of the padding; at most 31 are left. `places` is null when the
+// tensor lies outside the result.
+void fill(const MTensor *target, const Padding &pad, const AxisPieces *places) {
+  TileAxis axes[32];
+  mint count = 0;
+  size_t targetStride = bytesOf(target), paddingStride = bytesOf(pad.padding);
+  const char *padding = static_cast<const char *>(pad.padding->data);
+  for (mint i = 0; i < target->rank; ++i) {
+    const auto extent = static_cast<size_t>(target->dimensions[i]);
+    const auto period = static_cast<size_t>(pad.padding->dimensions[i]);
+    const size_t first = firstPaddingIndex(pad, i, target->dimensions[i]);
+    targetStride /= extent;
+    paddingStride /= period;
+    if (extent == 1)
+      padding += first * paddingStride;
+    else
+      axes[count++] = {extent, period, first, targetStride, paddingStride, coveredBy(places, i)};
+  }
+  tile(static_cast<char *>(target->data), padding, axes, axes + count, elementWidth(target->type));
+}
+
 // The most negative length has none, and stays negative: no such result can be allocated.
 mint magnitude(mint length) {
   return length < 0 ? static_cast<mint>(0u - static_cast<uint32_t>(length)) : length;
@@ -151,8 +116,9 @@ mint padTensor(MTensor **slot, const Padding &pad) {
   ResultTensor result(slot, {pad.tensor, pad.lengths, pad.padding, pad.margins});
   status = result.allocate(pad.tensor->type, rank, extents.get());
   if (status != kSuccess) return status;
-  fill(result.get(), pad);
-  if (placeAll(result.get(), pad, axes.get())) copyPieces(result.get(), pad.tensor, axes.get(), rank);
+  const bool isInside = placeAll(result.get(), pad, axes.get());
+  fill(result.get(), pad, isInside ? axes.get() : nullptr);
+  if (isInside) copyPieces(result.get(), pad.tensor, axes.get(), rank);
   return result.commit();
 }
 

@@ -394,39 +394,51 @@ TEST_F(StructureModels, PartitionGathersBlocksAtTheirDistances) {
   EXPECT_GT(empty, 50);
 }
 
+struct PadCase {
+  Extents extents, period;
+  std::vector<mint> lengths, margins;
+};
+
+void expectPadded(const PadCase &pad, bool isLeft, mint type) {
+  const size_t rank = pad.extents.size();
+  std::vector<mint> result;
+  for (const mint length : pad.lengths) result.push_back(std::abs(length));
+  const ModelTensor source = numbered(pad.extents), padding = numbered(pad.period, -500);
+  NamedCall call(isLeft ? "PadLeft" : "PadRight");
+  call.tensor(type, source).vector(pad.lengths).tensor(type, padding).vector(pad.margins);
+  expectInEverySlot(call, type, modelOf(result, [&](const Extents &index) {
+                      Extents inside(rank), tile(rank);
+                      bool isInside = true;
+                      for (size_t j = 0; j < rank; ++j) {
+                        const bool isAtEnd = (pad.lengths[j] > 0) == isLeft;
+                        const int64_t q = result[j], t = pad.extents[j], p = pad.period[j],
+                                      m = pad.margins[j];
+                        const int64_t place = index[j] - (isAtEnd ? q - m - t : m);
+                        isInside = isInside && place >= 0 && place < t;
+                        inside[j] = mint(place);
+                        const int64_t a = (((isAtEnd ? q - m : m) % p) + p) % p;
+                        tile[j] = mint((p - a + index[j]) % p);
+                      }
+                      return isInside ? at(source, inside) : at(padding, tile);
+                    }));
+}
+
 TEST_F(StructureModels, PaddingTilesAndLaysTheTensorOver) {
+  int done = 0;
   for (int i = 0; i < 3000; ++i) {
-    const Extents extents = anyExtents(between(1, 4));
-    const size_t rank = extents.size();
-    Extents period;
-    std::vector<mint> lengths, margins, result;
-    for (size_t j = 0; j < rank; ++j) {
-      period.push_back(between(1, 4));
-      lengths.push_back((below(2) == 0 ? 1 : -1) * between(1, below(6) == 0 ? 40 : 6));
-      margins.push_back(below(20) == 0 ? INT32_MIN : between(-3, 5));
-      result.push_back(std::abs(lengths.back()));
+    PadCase pad = {anyExtents(between(1, 4)), {}, {}, {}};
+    size_t count = 1;
+    for (size_t j = 0; j < pad.extents.size(); ++j) {
+      pad.period.push_back(between(1, 4));
+      pad.lengths.push_back((below(2) == 0 ? 1 : -1) * between(1, below(6) == 0 ? 40 : 6));
+      pad.margins.push_back(below(20) == 0 ? INT32_MIN : between(-3, 5));
+      count *= size_t(std::abs(pad.lengths.back()));
     }
-    const bool isLeft = below(2) == 0;
-    if (countOf(result) > 4000) continue;
-    const ModelTensor source = numbered(extents), padding = numbered(period, -500);
-    const mint type = anyType();
-    NamedCall call(isLeft ? "PadLeft" : "PadRight");
-    call.tensor(type, source).vector(lengths).tensor(type, padding).vector(margins);
-    expectInEverySlot(call, type, modelOf(result, [&](const Extents &index) {
-                        Extents inside(rank), tile(rank);
-                        bool isInside = true;
-                        for (size_t j = 0; j < rank; ++j) {
-                          const bool isAtEnd = (lengths[j] > 0) == isLeft;
-                          const int64_t q = result[j], t = extents[j], p = period[j], m = margins[j];
-                          const int64_t place = index[j] - (isAtEnd ? q - m - t : m);
-                          isInside = isInside && place >= 0 && place < t;
-                          inside[j] = mint(place);
-                          const int64_t a = (((isAtEnd ? q - m : m) % p) + p) % p;
-                          tile[j] = mint((p - a + index[j]) % p);
-                        }
-                        return isInside ? at(source, inside) : at(padding, tile);
-                      }));
+    if (count > 4000) continue;
+    ++done;
+    expectPadded(pad, below(2) == 0, anyType());
   }
+  EXPECT_GT(done, 2000);
 }
 
 // Results of several times the bytes that boxes take turns after, along the first dimension and along the
@@ -482,6 +494,20 @@ TEST_F(LargeTensors, JoinInTurns) {
     call.tensor(TORVANE_TYPE_REAL, parts[0]).tensor(TORVANE_TYPE_REAL, parts[1]).integer(mint(level) + 1);
     expectJoined(call, TORVANE_TYPE_REAL, parts, level);
   }
+}
+
+// Rows so long that the tiling goes around the tensor in them.
+TEST_F(LargeTensors, PadAroundLongRows) {
+  const std::vector<PadCase> cases = {{{20, 600}, {1, 1}, {21, 601}, {0, 0}},
+                                      {{20, 600}, {3, 7}, {25, 1700}, {2, 900}},
+                                      {{3, 4, 500}, {2, 2, 2}, {5, 6, 510}, {1, 1, 5}},
+                                      {{3, 4, 500}, {2, 3, 1}, {2, -6, 300}, {0, 3, 0}},
+                                      {{700, 1}, {1, 3}, {750, 1}, {5, 0}},
+                                      {{4000}, {11}, {5000}, {300}},
+                                      {{4, 600}, {2, 5}, {9, 620}, {3, 700}}};
+  for (const PadCase &pad : cases)
+    for (const bool isLeft : {true, false})
+      for (const mint type : {TORVANE_TYPE_REAL, TORVANE_TYPE_INTEGER}) expectPadded(pad, isLeft, type);
 }
 
 TEST_F(StructureModels, DimensionsAreTheExtentsOrTheFirstOfThem) {
