@@ -15,7 +15,7 @@ TORVANE_BEGIN_DECLARATIONS
 /* A range of the indices of each of the first `count` dimensions (isTake non-zero), or all but that range.
  * `specs` holds `count` pairs of a tag and a value: tag 1, an MTensor * to a vector of 0 to 3 integers
  * {start, end, step}; any other tag, an integer: the first n, or the last -n; tag -1 clips the start that n
- * says. Status 1, 2 a spec is no vector of integers; 2 more specs than dimensions; 4 a range that does not
+ * says. Status 1, 2 a range is no vector of integers; 2 more ranges than dimensions; 4 a range that does not
  * fit; 403. */
 TORVANE_API mint Runtime_MTensor_TakeDrop(MTensor **resultSlot, MTensor *tensor, mint count,
                                           const intptr_t *specs, mint isTake);

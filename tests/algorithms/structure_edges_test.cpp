@@ -114,7 +114,7 @@ TEST_F(StructureEdges, DropLeavesTheRest) {
   expectRefused(vectorCall("Drop").integer(1).vector({1, 2, 1, 1}), 4);
 }
 
-TEST_F(StructureEdges, TakeAndDropRefuseSpecsThatAreNoVectorsAndTooMany) {
+TEST_F(StructureEdges, TakeAndDropRefuseRangesThatAreNoVectorsAndTooMany) {
   for (const char *name : {"Take", "Drop"}) {
     expectRefused(vectorCall(name).integer(1).tensor(realVector(2)), 1);
     expectRefused(vectorCall(name).integer(1).tensor(tensorOf<mint>({1, 2}, {1, 2})), 2);
@@ -137,7 +137,7 @@ TEST_F(StructureEdges, ExportedTakeDropReadsItsPairsOfWords) {
   ASSERT_EQ(Runtime_MTensor_TakeDrop(&slot, source.get(), 2, specs, 0), 0);
   expectModel(slot, TORVANE_TYPE_COMPLEX, {{1, 2}, {9, 12}}, "drop");
   ASSERT_EQ(Runtime_MTensor_TakeDrop(&slot, source.get(), 0, nullptr, 1), 0);
-  expectModel(slot, TORVANE_TYPE_COMPLEX, numbered({3, 4}), "no spec");
+  expectModel(slot, TORVANE_TYPE_COMPLEX, numbered({3, 4}), "no range");
   EXPECT_EQ(Runtime_MTensor_TakeDrop(&slot, source.get(), 3, specs, 1), 2);
   EXPECT_EQ(Runtime_MTensor_TakeDrop(&slot, source.get(), -1, specs, 1), 2);
   const intptr_t last[] = {-1, -2};

@@ -48,7 +48,7 @@ std::optional<std::vector<mint>> indicesOf(int64_t length, std::vector<int64_t> 
   return indices;
 }
 
-struct Spec {
+struct TaggedRange {
   mint tag;
   std::vector<mint> entries; // one for an integer
   std::optional<std::vector<mint>> indices(mint length) const {
@@ -64,35 +64,35 @@ struct Spec {
 class TakeDrop : public StructureModels {
 protected:
   // Mostly ranges that fit.
-  Spec anySpec(mint length) {
+  TaggedRange anyRange(mint length) {
     if (below(3) == 0)
       return {below(2) == 0 ? -1 : between(2, 5),
               {between(-length - below(2), length + below(2) * below(2))}};
-    Spec spec = {1, {}};
+    TaggedRange tagged = {1, {}};
     const mint size = below(30) == 0 ? 4 : between(0, 3), low = below(length + 1),
                high = between(low, length);
-    if (size > 0) spec.entries = {between(1, std::max(length, 1))};
-    if (size > 1) spec.entries = {low + 1, high};
-    if (size == 2 && below(3) == 0) spec.entries[1] = high - length - 1;
+    if (size > 0) tagged.entries = {between(1, std::max(length, 1))};
+    if (size > 1) tagged.entries = {low + 1, high};
+    if (size == 2 && below(3) == 0) tagged.entries[1] = high - length - 1;
     if (size > 2) {
-      spec.entries = {low + 1, high, between(1, 3)};
-      if (below(2) == 0) spec.entries = {high, low + below(2), -between(1, 3)};
-      if (below(4) == 0) spec.entries[2] = INT32_MIN;
-      if (below(30) == 0) spec.entries[size_t(below(3))] = between(-6, 6);
+      tagged.entries = {low + 1, high, between(1, 3)};
+      if (below(2) == 0) tagged.entries = {high, low + below(2), -between(1, 3)};
+      if (below(4) == 0) tagged.entries[2] = INT32_MIN;
+      if (below(30) == 0) tagged.entries[size_t(below(3))] = between(-6, 6);
     }
-    if (size == 4) spec.entries.push_back(1);
-    return spec;
+    if (size == 4) tagged.entries.push_back(1);
+    return tagged;
   }
 
   // Indices of each dimension that the result keeps, or nothing.
-  std::optional<std::vector<std::vector<mint>>> choose(const Extents &extents, const std::vector<Spec> &specs,
-                                                       bool isTake) {
+  std::optional<std::vector<std::vector<mint>>> choose(const Extents &extents,
+                                                       const std::vector<TaggedRange> &given, bool isTake) {
     std::vector<std::vector<mint>> chosen;
     for (size_t i = 0; i < extents.size(); ++i) {
       std::vector<mint> all(static_cast<size_t>(extents[i]));
       std::iota(all.begin(), all.end(), 0);
-      if (i < specs.size()) {
-        const auto range = specs[i].indices(extents[i]);
+      if (i < given.size()) {
+        const auto range = given[i].indices(extents[i]);
         if (!range) return std::nullopt;
         const std::set<mint> dropped(range->begin(), range->end());
         if (isTake)
@@ -108,16 +108,16 @@ protected:
   void tryOne(bool isTake) {
     const ModelTensor source = numbered(anyExtents());
     const mint type = anyType();
-    std::vector<Spec> specs;
+    std::vector<TaggedRange> given;
     for (mint i = between(0, mint(source.extents.size())); i > 0; --i)
-      specs.push_back(anySpec(source.extents[specs.size()]));
+      given.push_back(anyRange(source.extents[given.size()]));
     NamedCall call(isTake ? "Take" : "Drop");
     call.tensor(type, source);
-    for (const Spec &spec : specs) {
-      call.integer(spec.tag);
-      spec.tag == 1 ? call.vector(spec.entries) : call.integer(spec.entries[0]);
+    for (const TaggedRange &tagged : given) {
+      call.integer(tagged.tag);
+      tagged.tag == 1 ? call.vector(tagged.entries) : call.integer(tagged.entries[0]);
     }
-    const auto chosen = choose(source.extents, specs, isTake);
+    const auto chosen = choose(source.extents, given, isTake);
     if (!chosen) {
       ++refused;
       return expectRefused(call, 4);
