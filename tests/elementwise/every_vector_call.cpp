@@ -13,7 +13,8 @@ using Calls = std::vector<VectorCall>;
 
 std::string named(const char *arity, mint number, const std::vector<mint> &kinds) {
   std::string text = arity;
-  text += ' ' + std::to_string(number);
+  text += ' ';
+  text += std::to_string(number);
   for (const mint kind : kinds) text += "?bidc"[kind];
   return text;
 }

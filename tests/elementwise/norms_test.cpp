@@ -243,17 +243,12 @@ TEST(SumsOfNorms, LoseNothingWhereMagnitudesMix) {
       {490, 480}, {-505, -517}, {-511, -1060}, {1000, 0, -1000}, {500, 486, -511, -900}};
   for (int round = 0; round < 200; ++round)
     for (const std::vector<int> &mix : mixes) {
-      std::vector<mreal> data;
-      std::vector<mcomplex> complexes;
-      for (size_t k = 0; k < 1 + random() % 40; ++k) {
-        const int exponent = mix[random() % mix.size()];
-        data.push_back(randomOf<mreal>(random, exponent));
-        complexes.push_back(
-            {randomOf<mreal>(random, exponent), randomOf<mreal>(random, mix[random() % mix.size()])});
-      }
-      const size_t size = std::min(data.size(), complexes.size());
-      data.resize(size);
-      complexes.resize(size);
+      const auto anExponent = [&] { return mix[size_t(random() % mix.size())]; };
+      std::vector<mreal> data(1 + size_t(random() % 40));
+      std::vector<mcomplex> complexes(data.size());
+      for (mreal &x : data) x = randomOf<mreal>(random, anExponent());
+      for (mcomplex &z : complexes)
+        z = {randomOf<mreal>(random, anExponent()), randomOf<mreal>(random, anExponent())};
       expectSums(data, complexes, 1);
     }
 }
