@@ -170,6 +170,35 @@ TEST_F(ConcurrentPool, LoopsOfTwoHostThreadsKeepTheirOwnStatuses) {
   third.join();
 }
 
+// Each form by turns, on its own data: a body that runs twice, or after its loop has returned, is a race.
+void loopOfEachForm(int rounds, mint mark) {
+  for (int round = 0; round < rounds; ++round) {
+    std::vector<mint> values(60, -1);
+    const auto fill = [](void *closure, ParallelWorker *worker) {
+      auto &list = *static_cast<std::vector<mint> *>(closure);
+      for (mint i = ParallelWorker_first(worker); i < ParallelWorker_last(worker); ++i)
+        list[size_t(i)] += i + 1;
+    };
+    ASSERT_EQ(round % 2 == 0 ? parallelLoopEven(&values, nullptr, fill, 0, 60, 1)
+                             : parallelLoop(&values, nullptr, fill, 0, 60, 1, nullptr),
+              0);
+    for (mint i = 0; i < 60; ++i) ASSERT_EQ(values[size_t(i)], i) << mark;
+    mint visits[4] = {};
+    const auto visit = [](void *closure, ParallelWorker *worker) {
+      ++static_cast<mint *>(closure)[ParallelWorker_index(worker)];
+    };
+    ASSERT_EQ(parallelOnEveryWorker(visits, visit, 0), 0);
+    const mint all = visits[0] + visits[1] + visits[2] + visits[3];
+    ASSERT_TRUE(all == 3 || all == 0) << "every worker, or none while the other thread has the pool";
+  }
+}
+
+TEST_F(ConcurrentPool, HostThreadsMixLoopsOfAllForms) {
+  std::thread other(loopOfEachForm, kRounds / 3, 1);
+  loopOfEachForm(kRounds / 3, 2);
+  other.join();
+}
+
 TEST_F(ConcurrentPool, HostThreadsChangeTheWorkerCountUnderEachOther) {
   std::thread other([] {
     for (int round = 0; round < kRounds / 10; ++round) {
