@@ -7,7 +7,9 @@
 #include <torvane/exception.hpp>
 
 #include <atomic>
+#include <mutex>
 #include <random>
+#include <set>
 
 namespace torvane::test {
 namespace {
@@ -220,6 +222,30 @@ TEST_F(ConcurrentPool, CallsOnEveryWorkerAlternateWithLoops) {
     ASSERT_EQ(visits, (std::vector<mint>{1, 1, 1}));
     fillAndCheck(1 + round % 9, round, nullptr);
   }
+}
+
+// Pieces that sleep leave the processor to helpers, which must carry pieces and not repeat their own call.
+TEST_F(ConcurrentPool, ThreadsCalledOnEveryWorkerHelpWithTheNextLoop) {
+  const ParallelPartition pieces = {kOfSize, 1, 0};
+  std::set<std::thread::id> threads;
+  std::mutex threadsLock;
+  for (int round = 0; round < 10; ++round) {
+    std::atomic<int> visits{0}, covered{0};
+    const auto visit = [](void *closure, ParallelWorker *) { ++*static_cast<std::atomic<int> *>(closure); };
+    ASSERT_EQ(parallelOnEveryWorker(&visits, visit, 0), 0);
+    loopOver(
+        0, 8, 1,
+        [&](ParallelWorker *worker) {
+          sleepMilliseconds(1);
+          covered += ParallelWorker_last(worker) - ParallelWorker_first(worker);
+          const std::lock_guard guard(threadsLock);
+          threads.insert(std::this_thread::get_id());
+        },
+        &pieces);
+    ASSERT_EQ(covered, 8);
+    ASSERT_EQ(visits, 3);
+  }
+  EXPECT_GE(threads.size(), 2u) << "or no thread has helped";
 }
 
 TEST_F(ConcurrentPool, BlocksOfABodyMayBeFreedByTheCaller) {
