@@ -1,5 +1,7 @@
-// No routine over arrays raises: not in any exception style, not on any thread, whatever fails in it.
+// What no routine over arrays does: raise, in any exception style, on any thread, whatever fails in it; make
+// a thread for fewer elements than the thresholds ask for.
 #include "every_vector_call.h"
+#include "parallel/pool_fixture.h"
 #include "support/on_thread.h"
 
 #include <gtest/gtest.h>
@@ -61,6 +63,18 @@ TEST(ConcurrentQuietRoutines, NeverRaiseInAnyStyleNorTouchStyleOrPendingCode) {
     setExceptionStyle(style);
     EXPECT_GT(failures, 500) << "or nothing has been shown";
     EXPECT_GT(ofThread, 500);
+  }
+}
+
+using ConcurrentShortCalls = PoolTest;
+
+TEST_F(ConcurrentShortCalls, OfOneElementLessThanTheThresholdsMakeNoPool) {
+  constexpr mint kShort = 32767;
+  const std::vector<mcomplex> operand(kShort, mcomplex{0.5, 0.5}); // wide enough for every kind
+  std::vector<mcomplex> result(kShort);
+  for (const VectorCall &call : everyVectorCall()) {
+    call.run(result.data(), {operand.data(), operand.data(), operand.data()}, kShort, kDense, 0);
+    ASSERT_FALSE(torvane::poolExists()) << call.name;
   }
 }
 
