@@ -481,7 +481,7 @@ TEST(ScaledVectorNorm, OfNoElementsIsZeroThoughTheMeanOfNoneIsNot) {
 TEST(ScaledVectorNorm, OfAnInfiniteOrInvalidErrorIsOneAndFailsUnderTheFlag) {
   for (const mint p : kPowers)
     for (const mreal odd : {kInfinity, -kInfinity, kNaN})
-      for (const size_t at : {0, 3, 6}) {
+      for (const size_t at : {size_t(0), size_t(3), size_t(6)}) {
         std::vector<mreal> error(7, 0.5);
         std::vector<mcomplex> errors(7, mcomplex{0.5, 1});
         const std::vector<mreal> data(7, 1.0);
