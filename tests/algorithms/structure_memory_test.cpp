@@ -13,8 +13,9 @@ namespace {
 
 class StructureMemory : public NamedFunctions {
 protected:
-  StructureMemory() : warm(newTensor(TORVANE_TYPE_REAL, {2})) {} // the slabs of small blocks exist
-  const Tensor warm;
+  // The slabs of small blocks exist.
+  StructureMemory() : warm(newTensor(TORVANE_TYPE_REAL, {2})), used(newTensor(TORVANE_TYPE_REAL, {3, 2})) {}
+  const Tensor warm, used;
 };
 
 constexpr mint kWide = 300000;
