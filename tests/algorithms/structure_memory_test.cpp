@@ -14,8 +14,8 @@ namespace {
 class StructureMemory : public NamedFunctions {
 protected:
   // The slabs of small blocks exist.
-  StructureMemory() : warm(newTensor(TORVANE_TYPE_REAL, {2})), used(newTensor(TORVANE_TYPE_REAL, {3, 2})) {}
-  const Tensor warm, used;
+  StructureMemory() : warm(newTensor(TORVANE_TYPE_REAL, {2})), warmToo(newTensor(TORVANE_TYPE_REAL, {3, 2})) {}
+  const Tensor warm, warmToo;
 };
 
 constexpr mint kWide = 300000;
