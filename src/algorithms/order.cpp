@@ -1,0 +1,132 @@
+// Which way the rows of a tensor are ordered: not at all, turned round, by radix, or by merging.
+#include "order.h"
+
+#include "order_radix.h"
+#include "order_scratch.h"
+
+#include <torvane/sorting.h>
+
+#include <numeric>
+
+namespace torvane {
+
+namespace {
+
+constexpr mint kFewRows = 48;  // merging orders them soonest
+constexpr mint kManyKeys = 12; // of a row: the first ones decide, and merging looks at no others
+constexpr mint kBlock = 512;   // elements that are looked at before the next decision
+
+// Whether no element of a block is greater than its successor, or each is. The blocks keep a loop without an
+// exit, which the compiler can make a vector loop of.
+template <class Element> bool isBlockAscending(const Element *x, mint count) {
+  mint descents = 0;
+  for (mint k = 0; k < count; ++k) descents |= x[k] > x[k + 1];
+  return descents == 0;
+}
+template <class Element> bool isBlockDescending(const Element *x, mint count) {
+  mint ascents = 0;
+  for (mint k = 0; k < count; ++k) ascents |= !(x[k] > x[k + 1]);
+  return ascents == 0;
+}
+
+template <class Element> bool areAscending(const SingleRows<Element> &rows, mint count) {
+  for (mint k = 0; k + 1 < count; k += kBlock)
+    if (!isBlockAscending(rows.data + k, std::min(kBlock, count - 1 - k))) return false;
+  return true;
+}
+template <class Element> bool areDescending(const SingleRows<Element> &rows, mint count) {
+  for (mint k = 0; k + 1 < count; k += kBlock)
+    if (!isBlockDescending(rows.data + k, std::min(kBlock, count - 1 - k))) return false;
+  return true;
+}
+
+template <class Element> bool areAscending(const Rows<Element> &rows, mint count) {
+  for (mint k = 1; k < count; ++k)
+    if (rows.isGreater(k, k + 1)) return false;
+  return true;
+}
+// Each row greater than the next beyond doubt: no NaN has a say in it.
+template <class Element> bool areDescending(const Rows<Element> &rows, mint count) {
+  for (mint k = 1; k < count; ++k)
+    if (rows.compare(k + 1, k) >= 0) return false;
+  return true;
+}
+
+bool holdsNaN(const mint *, mint) { return false; }
+bool isBlockNaN(const mreal *x, mint count) {
+  mint found = 0;
+  for (mint k = 0; k < count; ++k) found |= x[k] != x[k];
+  return found != 0;
+}
+bool holdsNaN(const mreal *x, size_t count) {
+  for (size_t k = 0; k < count; k += kBlock)
+    if (isBlockNaN(x + k, static_cast<mint>(std::min<size_t>(kBlock, count - k)))) return true;
+  return false;
+}
+bool holdsNaN(const mreal *x, mint count) { return holdsNaN(x, static_cast<size_t>(count)); }
+bool holdsNaN(const mcomplex *x, mint count) { return holdsNaN(&x->re, 2 * static_cast<size_t>(count)); }
+
+// False where the memory cannot be had.
+template <class Element> bool orderByRadix(mint *rows, RowKeys<Element> keys, mint count) {
+  const auto words = uint64_t{sizeof(uint64_t)} * static_cast<uint32_t>(count);
+  const Scratch front(words, kQuiet), back(words, kQuiet), counts(sizeof(DigitCounts), kQuiet);
+  if (!front || !back || !counts) return false;
+  RadixOrder<Element>(keys, front.as<uint64_t>(), back.as<uint64_t>(), counts.as<DigitCounts>())
+      .order(rows, count);
+  return true;
+}
+
+template <class Order> mint orderByMerging(mint *rows, const Order &order, mint count, bool *wereInOrder) {
+  const Scratch scratch(uint64_t{sizeof(mint)} * static_cast<uint32_t>(count / 2), kReport);
+  if (!scratch && count > 1) return kSizeFailed;
+  *wereInOrder = MergeSort(order, scratch.as<mint>()).sort(rows, count);
+  return kSuccess;
+}
+
+template <class Element> mint orderTyped(mint *rows, const MTensor *tensor, bool *wereInOrder) {
+  const mint count = rowCountOf(tensor), length = rowLengthOf(tensor);
+  const auto *data = static_cast<const Element *>(tensor->data);
+  return visitRows(data, length, [&](const auto &order) -> mint {
+    std::iota(rows, rows + count, 1);
+    *wereInOrder = count != 2 && areAscending(order, count);
+    if (*wereInOrder) return kSuccess;
+    if (count > 2 && areDescending(order, count)) {
+      std::reverse(rows, rows + count);
+      return kSuccess;
+    }
+    const RowKeys<Element> keys{data, length};
+    const bool byRadix = count > kFewRows && keys.count() <= kManyKeys &&
+                         !holdsNaN(data, tensor->elementCount) && orderByRadix(rows, keys, count);
+    return byRadix ? kSuccess : orderByMerging(rows, order, count, wereInOrder);
+  });
+}
+
+} // namespace
+
+mint orderRows(mint *rows, const MTensor *tensor, bool *wereInOrder) {
+  *wereInOrder = true;
+  if (tensor->elementCount == 0 || tensor->rank < 1) return kSuccess;
+  switch (tensor->type) {
+  case TORVANE_TYPE_INTEGER:
+    return orderTyped<mint>(rows, tensor, wereInOrder);
+  case TORVANE_TYPE_REAL:
+    return orderTyped<mreal>(rows, tensor, wereInOrder);
+  case TORVANE_TYPE_COMPLEX:
+    return orderTyped<mcomplex>(rows, tensor, wereInOrder);
+  default:
+    *wereInOrder = false;
+    return kSuccess;
+  }
+}
+
+} // namespace torvane
+
+using namespace torvane;
+
+// There is no status to give: like every call without an errorMode it ends the process without memory.
+mint Runtime_MTensor_computeSortPermutation(MTensor *permutation, MTensor *tensor) {
+  bool wereInOrder;
+  const mint status = orderRows(static_cast<mint *>(permutation->data), tensor, &wereInOrder);
+  if (status != kSuccess) fatalOutOfMemory();
+  return wereInOrder;
+}

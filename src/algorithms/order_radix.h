@@ -1,0 +1,143 @@
+// The stable order of rows without a NaN among them, by radix.
+//
+// Each key is taken relative to the smallest one and cut to the upper 32 bits of the span that the keys cover; a
+// word of such a cut key over the row's number is then sorted by its digits, the least significant first. Rows
+// whose cut keys agree are told apart afterwards, a run of them at a time: a short run by merging, a long one
+// by what was cut off or by the row's next key. A run covers less than 2^32 of its key, so that one turn more
+// decides it. (LSD radix sort: D. E. Knuth, The Art of Computer Programming 3, 5.2.5; digits of 8 to 11 bits
+// as in I. J. Davis, "A fast radix sort", The Computer Journal 35, 1992.)
+#pragma once
+
+#include "order_keys.h"
+#include "order_merge.h"
+
+#include <algorithm>
+
+namespace torvane {
+
+inline constexpr mint kWidestDigit = 11;
+inline constexpr mint kShortRun = 64; // rows that merging orders sooner than digits do
+inline constexpr mint kMaxDigits = 4;
+
+struct DigitCounts {
+  uint32_t of[kMaxDigits][1 << kWidestDigit];
+};
+
+// How a span of cut keys is read digit by digit.
+struct DigitPlan {
+  mint passes, width;
+
+  DigitPlan(mint bits, mint count) {
+    const mint widest = count < 3000 ? 8 : kWidestDigit;
+    passes = (bits + widest - 1) / widest;
+    width = (bits + passes - 1) / passes;
+  }
+  uint32_t mask() const { return (1u << width) - 1; }
+};
+
+// Counts into where each digit's first entry goes.
+inline void toStarts(uint32_t *counts, uint32_t digits) {
+  uint32_t start = 0;
+  for (uint32_t digit = 0; digit < digits; ++digit) start += std::exchange(counts[digit], start);
+}
+
+template <class Element> class RadixOrder {
+public:
+  using Keys = RowKeys<Element>;
+
+  // `front` and `back` hold a word a row.
+  RadixOrder(const Keys &keys, uint64_t *front, uint64_t *back, DigitCounts *counts)
+      : keys(keys), front(front), back(back), counts(counts) {}
+
+  // `rows` is 1, 2, ..., count on entry.
+  void order(mint *rows, mint count) { orderRun(rows, 0, count, 0); }
+
+private:
+  Keys keys;
+  uint64_t *front, *back;
+  DigitCounts *counts;
+
+  static uint64_t entry(uint32_t key, mint row) { return uint64_t{key} << 32 | static_cast<uint32_t>(row); }
+  static uint32_t cutKeyOf(uint64_t word) { return static_cast<uint32_t>(word >> 32); }
+  static mint rowOf(uint64_t word) { return static_cast<mint>(word & 0xFFFFFFFF); }
+
+  // Of the rows at first ... first + count, which agree in all keys before `level`.
+  void orderRun(mint *rows, mint first, mint count, mint level) {
+    for (; level < keys.count(); ++level) {
+      auto [least, greatest] = spanOf(rows + first, count, level);
+      if (least == greatest) continue;
+      return orderBy(rows, first, count, level, least, greatest - least);
+    }
+  }
+
+  auto spanOf(const mint *rows, mint count, mint level) const {
+    auto least = keys.at(rows[0] - 1, level), greatest = least;
+    for (mint k = 1; k < count; ++k) {
+      const auto key = keys.at(rows[k] - 1, level);
+      least = std::min(least, key);
+      greatest = std::max(greatest, key);
+    }
+    return std::pair(least, greatest);
+  }
+
+  void orderBy(mint *rows, mint first, mint count, mint level, uint64_t least, uint64_t span) {
+    const mint bits = static_cast<mint>(std::bit_width(span));
+    const mint shift = bits > 32 ? bits - 32 : 0;
+    const DigitPlan plan(bits - shift, count);
+    cut(rows + first, first, count, level, least, shift, plan);
+    const bool decided = shift == 0 && level + 1 == keys.count();
+    const uint64_t *sorted = sortEntries(first, count, plan, decided ? rows : nullptr);
+    if (!decided) takeRuns(rows, sorted, first, count, shift == 0 ? level + 1 : level);
+  }
+
+  void cut(const mint *rows, mint first, mint count, mint level, uint64_t least, mint shift, DigitPlan plan) {
+    memset(counts->of, 0, static_cast<size_t>(plan.passes) * sizeof counts->of[0]);
+    for (mint k = 0; k < count; ++k) {
+      const auto key = static_cast<uint32_t>((keys.at(rows[k] - 1, level) - least) >> shift);
+      front[first + k] = entry(key, rows[k]);
+      uint32_t rest = key;
+      for (mint pass = 0; pass < plan.passes; ++pass, rest >>= plan.width)
+        ++counts->of[pass][rest & plan.mask()];
+    }
+  }
+
+  // The buffer with the entries in order; with `rows` given, their row numbers go there instead.
+  const uint64_t *sortEntries(mint first, mint count, DigitPlan plan, mint *rows) {
+    uint64_t *from = front + first, *to = back + first;
+    for (mint pass = 0; pass < plan.passes; ++pass) {
+      uint32_t *starts = counts->of[pass];
+      toStarts(starts, 1u << plan.width);
+      const mint shift = 32 + pass * plan.width;
+      if (rows != nullptr && pass + 1 == plan.passes)
+        for (mint k = 0; k < count; ++k)
+          rows[first + static_cast<mint>(starts[from[k] >> shift & plan.mask()]++)] = rowOf(from[k]);
+      else
+        for (mint k = 0; k < count; ++k) to[starts[from[k] >> shift & plan.mask()]++] = from[k];
+      std::swap(from, to);
+    }
+    return from - first;
+  }
+
+  // The entries of a run are spent once its rows are written, so that a longer one may sort itself in their place.
+  void takeRuns(mint *rows, const uint64_t *sorted, mint first, mint count, mint level) {
+    const mint end = first + count;
+    for (mint start = first, stop; start < end; start = stop) {
+      const uint32_t key = cutKeyOf(sorted[start]);
+      stop = start;
+      do {
+        rows[stop] = rowOf(sorted[stop]);
+      } while (++stop < end && cutKeyOf(sorted[stop]) == key);
+      if (stop - start > 1) takeRun(rows, start, stop - start, level);
+    }
+  }
+
+  void takeRun(mint *rows, mint first, mint count, mint level) {
+    if (level == keys.count()) return;
+    if (count > kShortRun) return orderRun(rows, first, count, level);
+    mint scratch[kShortRun / 2];
+    visitRows(keys.data, keys.length,
+              [&](const auto &order) { MergeSort(order, scratch).sort(rows + first, count); });
+  }
+};
+
+} // namespace torvane
