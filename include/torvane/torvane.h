@@ -14,6 +14,7 @@
 #include "integers.h"
 #include "text.h"
 #include "parallel.h"
+#include "registry.h"
 #include "machfuncs.h"
 #include "vectors.h"
 
