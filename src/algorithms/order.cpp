@@ -2,6 +2,7 @@
 #include "order.h"
 
 #include "order_radix.h"
+#include "order_runs.h"
 #include "order_scratch.h"
 
 #include <torvane/sorting.h>
@@ -14,43 +15,6 @@ namespace {
 
 constexpr mint kFewRows = 48;  // merging orders them soonest
 constexpr mint kManyKeys = 12; // of a row: the first ones decide, and merging looks at no others
-constexpr mint kBlock = 512;   // elements that are looked at before the next decision
-
-// Whether no element of a block is greater than its successor, or each is. The blocks keep a loop without an
-// exit, which the compiler can make a vector loop of.
-template <class Element> bool isBlockAscending(const Element *x, mint count) {
-  mint descents = 0;
-  for (mint k = 0; k < count; ++k) descents |= x[k] > x[k + 1];
-  return descents == 0;
-}
-template <class Element> bool isBlockDescending(const Element *x, mint count) {
-  mint ascents = 0;
-  for (mint k = 0; k < count; ++k) ascents |= !(x[k] > x[k + 1]);
-  return ascents == 0;
-}
-
-template <class Element> bool areAscending(const SingleRows<Element> &rows, mint count) {
-  for (mint k = 0; k + 1 < count; k += kBlock)
-    if (!isBlockAscending(rows.data + k, std::min(kBlock, count - 1 - k))) return false;
-  return true;
-}
-template <class Element> bool areDescending(const SingleRows<Element> &rows, mint count) {
-  for (mint k = 0; k + 1 < count; k += kBlock)
-    if (!isBlockDescending(rows.data + k, std::min(kBlock, count - 1 - k))) return false;
-  return true;
-}
-
-template <class Element> bool areAscending(const Rows<Element> &rows, mint count) {
-  for (mint k = 1; k < count; ++k)
-    if (rows.isGreater(k, k + 1)) return false;
-  return true;
-}
-// Each row greater than the next beyond doubt: no NaN has a say in it.
-template <class Element> bool areDescending(const Rows<Element> &rows, mint count) {
-  for (mint k = 1; k < count; ++k)
-    if (rows.compare(k + 1, k) >= 0) return false;
-  return true;
-}
 
 bool holdsNaN(const mint *, mint) { return false; }
 bool isBlockNaN(const mreal *x, mint count) {
@@ -59,8 +23,8 @@ bool isBlockNaN(const mreal *x, mint count) {
   return found != 0;
 }
 bool holdsNaN(const mreal *x, size_t count) {
-  for (size_t k = 0; k < count; k += kBlock)
-    if (isBlockNaN(x + k, static_cast<mint>(std::min<size_t>(kBlock, count - k)))) return true;
+  for (size_t k = 0; k < count; k += kRunBlock)
+    if (isBlockNaN(x + k, static_cast<mint>(std::min<size_t>(kRunBlock, count - k)))) return true;
   return false;
 }
 bool holdsNaN(const mreal *x, mint count) { return holdsNaN(x, static_cast<size_t>(count)); }
@@ -68,11 +32,10 @@ bool holdsNaN(const mcomplex *x, mint count) { return holdsNaN(&x->re, 2 * stati
 
 // False where the memory cannot be had.
 template <class Element> bool orderByRadix(mint *rows, RowKeys<Element> keys, mint count) {
-  const auto words = uint64_t{sizeof(uint64_t)} * static_cast<uint32_t>(count);
-  const Scratch front(words, kQuiet), back(words, kQuiet), counts(sizeof(DigitCounts), kQuiet);
-  if (!front || !back || !counts) return false;
-  RadixOrder<Element>(keys, front.as<uint64_t>(), back.as<uint64_t>(), counts.as<DigitCounts>())
-      .order(rows, count);
+  const Scratch words(2 * sizeof(uint64_t) * uint64_t{static_cast<uint32_t>(count)}, kQuiet);
+  const Scratch counts(sizeof(DigitCounts), kQuiet);
+  if (!words || !counts) return false;
+  RadixOrder<Element>(keys, words.as<uint64_t>(), count, counts.as<DigitCounts>()).order(rows, count);
   return true;
 }
 

@@ -1,8 +1,9 @@
 // The order of a tensor's rows, and what is built on it.
 //
 // A tensor of extents d1, ..., dr has d1 rows of elementCount / d1 elements, numbered from 1. They order
-// lexicographically, equal rows by their number. A permutation is an integer vector whose entry k is the number
-// of the row at place k. Statuses are those of the named functions; a tensor without extents has none of these.
+// lexicographically, equal rows by their number. A permutation is an integer vector whose entry k is the
+// number of the row at place k. Statuses are those of the named functions; a tensor without extents has none
+// of these.
 #pragma once
 
 #include "../tensor/tensor.h"
@@ -19,8 +20,11 @@ inline mint rowLengthOf(const MTensor *tensor) {
 // order. A tensor without elements has nothing written. 0, or 403 where scratch cannot be had.
 mint orderRows(mint *rows, const MTensor *tensor, bool *wereInOrder);
 
-// A tensor whose row k is row indices[k] of `tensor`, in the slot, which may hold `tensor`. Indices count from
-// 1; one above d1 gives status 3, one below 1 is the caller's mistake.
+// Writes rows of `bytes` bytes by their numbers; the two places do not overlap.
+void gatherRows(void *to, const void *from, const mint *rows, mint count, size_t bytes);
+
+// A tensor whose row k is row indices[k] of `tensor`, in the slot, which may hold `tensor`. Indices count
+// from 1; one above d1 gives status 3, one below 1 is the caller's mistake.
 mint MTensor_gatherRows(MTensor **resultSlot, MTensor *tensor, const MTensor *indices);
 
 // The number of the first smallest row (direction 1) or of the last largest (-1). There is a row at least.
@@ -28,8 +32,5 @@ mint MTensor_extremePosition(const MTensor *tensor, mint direction);
 
 // Whether no row is greater than the next: 1 or 0; -1 for a type that has no order.
 mint areRowsOrdered(const MTensor *tensor);
-
-// Orders a vector's elements in place as its rows would be. 0, or 403 where scratch cannot be had.
-mint sortElements(mint type, void *data, mint count);
 
 } // namespace torvane

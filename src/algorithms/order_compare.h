@@ -38,8 +38,8 @@ template <class Element> struct Rows {
   bool exchangesPair(mint left, mint right) const { return isGreater(left, right); }
 };
 
-// Rows of one element. Those of reals take a NaN for neither greater nor smaller, and leave it where it is; but
-// where it is one of two rows in all, the two change places. Deliberate, and relied upon.
+// Rows of one element. Those of reals take a NaN for neither greater nor smaller, and leave it where it is;
+// but where it is one of two rows in all, the two change places. Deliberate, and relied upon.
 template <class Element> struct SingleRows {
   const Element *data;
 

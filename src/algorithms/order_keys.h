@@ -1,7 +1,7 @@
 // Elements as unsigned numbers that order as they do: what radix sorting works on. No NaN has a key.
 //
-// A row gives one key after another, most significant first: one an element, of a complex three. The two zeros
-// of a real have one key, since neither is greater.
+// A row gives one key after another, most significant first: one an element, of a complex three. The two
+// zeros of a real have one key, since neither is greater.
 #pragma once
 
 #include "order_compare.h"

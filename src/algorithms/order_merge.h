@@ -2,9 +2,9 @@
 // faster way of order_radix.h does not serve (NaNs among reals, long rows, few rows).
 //
 // Its course is fixed, because a NaN makes the outcome depend on it: ranges above six rows are halved, the
-// smaller half first; ranges of up to six are ordered without recursion, as 1+1, 2+1, 2+2, 2+3 and 3+3. A range
-// whose halves are in order already is left alone, so that ordered rows take linear time. Merging moves the
-// left half aside and fills the range from its start, so that scratch for half of the rows is enough.
+// smaller half first; ranges of up to six are ordered without recursion, as 1+1, 2+1, 2+2, 2+3 and 3+3. A
+// range whose halves are in order already is left alone, so that ordered rows take linear time. Merging moves
+// the left half aside and fills the range from its start, so that scratch for half of the rows is enough.
 #pragma once
 
 #include "../runtime/types.h"
@@ -18,8 +18,8 @@ inline constexpr mint kLongestTree = 6;
 
 template <class Order> class MergeSort {
 public:
-  // `scratch` holds count / 2 numbers.
-  MergeSort(const Order &order, mint *scratch) : order(order), scratch(scratch) {}
+  // `space` holds count / 2 numbers.
+  MergeSort(const Order &comparison, mint *space) : order(comparison), scratch(space) {}
 
   // Whether the rows were in order already.
   bool sort(mint *rows, mint count) const {

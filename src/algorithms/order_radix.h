@@ -1,11 +1,11 @@
 // The stable order of rows without a NaN among them, by radix.
 //
-// Each key is taken relative to the smallest one and cut to the upper 32 bits of the span that the keys cover; a
-// word of such a cut key over the row's number is then sorted by its digits, the least significant first. Rows
-// whose cut keys agree are told apart afterwards, a run of them at a time: a short run by merging, a long one
-// by what was cut off or by the row's next key. A run covers less than 2^32 of its key, so that one turn more
-// decides it. (LSD radix sort: D. E. Knuth, The Art of Computer Programming 3, 5.2.5; digits of 8 to 11 bits
-// as in I. J. Davis, "A fast radix sort", The Computer Journal 35, 1992.)
+// Each key is taken relative to the smallest one and cut to the upper 32 bits of the span that the keys
+// cover; a word of such a cut key over the row's number is then sorted by its digits, the least significant
+// first. Rows whose cut keys agree are told apart afterwards, a run of them at a time: a short run by
+// merging, a long one by what was cut off or by the row's next key. A run covers less than 2^32 of its key,
+// so that one turn more decides it. (LSD radix sort: D. E. Knuth, The Art of Computer Programming 3, 5.2.5;
+// digits of 8 to 11 bits as in I. J. Davis, "A fast radix sort", The Computer Journal 35, 1992.)
 #pragma once
 
 #include "order_keys.h"
@@ -45,9 +45,9 @@ template <class Element> class RadixOrder {
 public:
   using Keys = RowKeys<Element>;
 
-  // `front` and `back` hold a word a row.
-  RadixOrder(const Keys &keys, uint64_t *front, uint64_t *back, DigitCounts *counts)
-      : keys(keys), front(front), back(back), counts(counts) {}
+  // `words` holds two words a row.
+  RadixOrder(const Keys &rowKeys, uint64_t *words, mint count, DigitCounts *digits)
+      : keys(rowKeys), front(words), back(words + count), counts(digits) {}
 
   // `rows` is 1, 2, ..., count on entry.
   void order(mint *rows, mint count) { orderRun(rows, 0, count, 0); }
@@ -118,7 +118,8 @@ private:
     return from - first;
   }
 
-  // The entries of a run are spent once its rows are written, so that a longer one may sort itself in their place.
+  // The entries of a run are spent once its rows are written, so that a longer one may sort itself in their
+  // place.
   void takeRuns(mint *rows, const uint64_t *sorted, mint first, mint count, mint level) {
     const mint end = first + count;
     for (mint start = first, stop; start < end; start = stop) {

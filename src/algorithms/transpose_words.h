@@ -1,0 +1,19 @@
+// Elements by their size, read and written as what they are: a register for reals may change the bits of a
+// NaN.
+#pragma once
+
+#include "../runtime/types.h"
+
+namespace torvane {
+
+struct __attribute__((may_alias)) Word4 {
+  uint32_t bits;
+};
+struct __attribute__((may_alias)) Word8 {
+  uint64_t bits;
+};
+struct __attribute__((may_alias)) Word16 {
+  uint64_t low, high;
+};
+
+} // namespace torvane
