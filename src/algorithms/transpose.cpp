@@ -92,12 +92,12 @@ mint copyMapped(MTensor **slot, MTensor *tensor, Level *levels, mint count, mint
 }
 
 mint transposeMapped(MTensor **slot, MTensor *tensor, const LevelMap &map, mint conjugate,
-                     mint expectedRank) {
+                     const mint *expectedRank) {
   const Scratch levels(static_cast<uint64_t>(map.resultRank) * sizeof(Level), kReport);
   if (!levels && map.resultRank > 0) return kSizeFailed;
   const mint status = buildLevels(map, tensor, levels.as<Level>());
   if (status != kSuccess) return status;
-  if (expectedRank != kAnyRank && expectedRank != map.resultRank) return kWrongRank;
+  if (expectedRank != nullptr && *expectedRank != map.resultRank) return kWrongRank;
   return copyMapped(slot, tensor, levels.as<Level>(), map.resultRank, conjugate);
 }
 
@@ -140,19 +140,18 @@ mint MTensor_transpose12(MTensor **resultSlot, MTensor *tensor, mint conjugate) 
   if (tensor->rank < 2) return kWrongRank;
   if (*resultSlot == tensor) return transpose12InPlace(tensor, conjugate);
   const mint swapped[] = {2, 1};
-  return transposeMapped(resultSlot, tensor, {swapped, 2, 2, tensor->rank, tensor->rank}, conjugate,
-                         kAnyRank);
+  return transposeMapped(resultSlot, tensor, {swapped, 2, 2, tensor->rank, tensor->rank}, conjugate, nullptr);
 }
 
 mint MTensor_transposeLevels(MTensor **resultSlot, MTensor *tensor, const MTensor *permutation,
-                             mint conjugate, mint expectedRank) {
+                             mint conjugate, const mint *expectedRank) {
   if (const mint status = checkPermutation(tensor, permutation)) return status;
   const mint length = permutation->elementCount, *entries = integersOf(permutation);
   const mint highest = length > 0 ? *std::max_element(entries, entries + length) : 0;
   const LevelMap map = {entries, length, highest, tensor->rank, highest - length + tensor->rank};
   const bool isIdentity = isIdentityFrom(entries, length, 0), isSwap = swapsFirstTwo(entries, length);
   if (!isIdentity && !isSwap) return transposeMapped(resultSlot, tensor, map, conjugate, expectedRank);
-  if (expectedRank != kAnyRank && expectedRank != tensor->rank) return kWrongRank;
+  if (expectedRank != nullptr && *expectedRank != tensor->rank) return kWrongRank;
   return isSwap ? MTensor_transpose12(resultSlot, tensor, conjugate)
                 : copyLevel(resultSlot, tensor, conjugate);
 }
@@ -164,7 +163,7 @@ mint transposeByName(mint argumentCount, void *const *arguments, void *result, m
   MTensor *tensor = tensorArgument(arguments, 0);
   if (argumentCount == 1) return MTensor_transpose12(tensorResult(result), tensor, conjugate);
   return MTensor_transposeLevels(tensorResult(result), tensor, tensorArgument(arguments, 1), conjugate,
-                                 integerArgument(arguments, 2));
+                                 &argument<mint>(arguments, 2));
 }
 
 } // namespace

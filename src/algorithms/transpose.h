@@ -10,11 +10,10 @@ namespace torvane {
 mint MTensor_transpose12(MTensor **resultSlot, MTensor *tensor, mint conjugate);
 
 // Level k of `tensor` becomes level permutation[k] of the result; levels behind the permutation follow.
-// Levels that go to the same one leave their diagonal. Statuses as Runtime_MTensor_ndimTransposeConjugate;
-// kAnyRank, or the rank that the result must have, else 2.
-inline constexpr mint kAnyRank = -1;
+// Levels that go to the same one leave their diagonal. Statuses as Runtime_MTensor_ndimTransposeConjugate,
+// and 2 where the result would have another rank than the one expected, if any is.
 mint MTensor_transposeLevels(MTensor **resultSlot, MTensor *tensor, const MTensor *permutation,
-                             mint conjugate, mint expectedRank = kAnyRank);
+                             mint conjugate, const mint *expectedRank = nullptr);
 
 // The conjugates of a complex tensor's elements, or a copy of another one, into an allocated tensor of its
 // shape and type, which may be the tensor itself. Status 0, or 4.

@@ -141,7 +141,6 @@ template <class Element> void expectSurvivesFailures(Values values, mint length,
     EXPECT_EQ(usedBytesOfThisThread(), used);
   });
   EXPECT_TRUE(hasFailed || inPlace);
-  EXPECT_EQ(heap.blocksOut(), 0);
 }
 
 TEST(Sort, WithoutMemoryFailsCleanlyOrFindsAnotherWay) {
@@ -260,7 +259,6 @@ TEST(Median, WithoutMemoryFailsAndLeavesNothing) {
         EXPECT_EQ(usedBytesOfThisThread(), used);
       });
       EXPECT_GE(failures, 2);
-      EXPECT_EQ(heap.blocksOut(), 0);
     }
 }
 
