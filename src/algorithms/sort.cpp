@@ -46,6 +46,7 @@ template <class Element> mint sortByValue(MTensor **slot, MTensor *tensor, bool 
 template <class Element> mint sortSingles(MTensor **slot, MTensor *tensor) {
   const SingleRows<Element> rows{static_cast<const Element *>(tensor->data)};
   if (tensor->elementCount > 2 && areAscending(rows, tensor->elementCount)) return copyInto(slot, tensor);
+  if (areDescending(rows, tensor->elementCount)) return sortRows(slot, tensor);
   bool isDone = false;
   const mint status = sortByValue<Element>(slot, tensor, &isDone);
   return status != kSuccess || isDone ? status : sortRows(slot, tensor);

@@ -12,7 +12,9 @@ namespace torvane {
 namespace {
 
 constexpr mint kTile = 8;
-constexpr mint kSquare = 64; // elements along the side of a square of tiles
+constexpr mint kSquare = 64;               // elements along the side of a square of tiles
+constexpr size_t kSmallBytes = 256 * 1024; // of a matrix that the caches hold with its transpose
+constexpr mint kManyColumns = 16384;       // lines that the second cache holds no more
 
 template <class Word> const Word *wordsAt(const char *data, ptrdiff_t offset) {
   return reinterpret_cast<const Word *>(data + offset);
@@ -76,13 +78,14 @@ template <class Word> void copyTile(const char *from, ptrdiff_t fromStride, char
     }
 }
 
-template <class Word> void copySmall(const MatrixCopy &m) {
+// Matrices are passed by value: a store of raw bytes might change one that is referred to.
+template <class Word> void copySmall(MatrixCopy m) {
   for (mint j = 0; j < m.columns; ++j)
     for (mint i = 0; i < m.rows; ++i)
       wordsAt<Word>(m.to, j * m.toStride)[i] = wordsAt<Word>(m.from, i * m.fromStride)[j];
 }
 
-template <class Word> MatrixCopy partOf(const MatrixCopy &m, mint i, mint j, mint rows, mint columns) {
+template <class Word> MatrixCopy partOf(MatrixCopy m, mint i, mint j, mint rows, mint columns) {
   constexpr auto bytes = static_cast<ptrdiff_t>(sizeof(Word));
   return {m.from + i * m.fromStride + j * bytes,
           m.to + j * m.toStride + i * bytes,
@@ -92,7 +95,7 @@ template <class Word> MatrixCopy partOf(const MatrixCopy &m, mint i, mint j, min
           columns};
 }
 
-template <class Word> void copySquare(const MatrixCopy &m) {
+template <class Word> void copyStrip(MatrixCopy m) {
   const mint rows = m.rows / kTile * kTile, columns = m.columns / kTile * kTile;
   for (mint j = 0; j < columns; j += kTile)
     for (mint i = 0; i < rows; i += kTile) {
@@ -104,20 +107,20 @@ template <class Word> void copySquare(const MatrixCopy &m) {
 }
 
 // A few rows or columns: every line on the long side is read or written from end to end.
-template <class Word, mint kRows> void copyFewRows(const MatrixCopy &m) {
+template <class Word, mint kRows> void copyFewRows(MatrixCopy m) {
   for (mint j = 0; j < m.columns; ++j) {
     Word *to = wordsAt<Word>(m.to, j * m.toStride);
     for (mint i = 0; i < kRows; ++i) to[i] = wordsAt<Word>(m.from, i * m.fromStride)[j];
   }
 }
-template <class Word, mint kColumns> void copyFewColumns(const MatrixCopy &m) {
+template <class Word, mint kColumns> void copyFewColumns(MatrixCopy m) {
   for (mint i = 0; i < m.rows; ++i) {
     const Word *from = wordsAt<Word>(m.from, i * m.fromStride);
     for (mint j = 0; j < kColumns; ++j) wordsAt<Word>(m.to, j * m.toStride)[i] = from[j];
   }
 }
-template <class Word> using Copy = void (*)(const MatrixCopy &);
-template <class Word> bool copyThin(const MatrixCopy &m) {
+template <class Word> using Copy = void (*)(MatrixCopy);
+template <class Word> bool copyThin(MatrixCopy m) {
   constexpr Copy<Word> rows[] = {copyFewRows<Word, 1>, copyFewRows<Word, 2>, copyFewRows<Word, 3>,
                                  copyFewRows<Word, 4>, copyFewRows<Word, 5>, copyFewRows<Word, 6>,
                                  copyFewRows<Word, 7>};
@@ -133,12 +136,26 @@ template <class Word> bool copyThin(const MatrixCopy &m) {
   return true;
 }
 
-template <class Word> void copyWords(const MatrixCopy &m) {
+// A strip of the source: two lines of the result wide where all of them stay in the cache until they are
+// full, else a part of it, for lines at a distance of a power of two compete for the same few places.
+struct Strip {
+  mint rows, columns;
+};
+template <class Word> Strip stripOf(MatrixCopy m) {
+  constexpr auto bytes = static_cast<mint>(sizeof(Word));
+  if (static_cast<size_t>(m.rows) * static_cast<size_t>(m.columns) * sizeof(Word) <= kSmallBytes)
+    return {m.rows, m.columns};
+  if (m.toStride % 2048 == 0 || m.columns > kManyColumns) return {256 / bytes, 2048 / bytes};
+  return {128 / bytes, m.columns};
+}
+
+template <class Word> void copyWords(MatrixCopy m) {
   if (copyThin<Word>(m)) return;
-  for (mint j = 0; j < m.columns; j += kSquare)
-    for (mint i = 0; i < m.rows; i += kSquare)
-      copySquare<Word>(
-          partOf<Word>(m, i, j, std::min(kSquare, m.rows - i), std::min(kSquare, m.columns - j)));
+  const Strip strip = stripOf<Word>(m);
+  for (mint j = 0; j < m.columns; j += strip.columns)
+    for (mint i = 0; i < m.rows; i += strip.rows)
+      copyStrip<Word>(
+          partOf<Word>(m, i, j, std::min(strip.rows, m.rows - i), std::min(strip.columns, m.columns - j)));
 }
 
 // Short blocks are moved by the word: a copy of a length known only at run time costs a call.
@@ -154,7 +171,7 @@ void copyBlock(char *to, const char *from, size_t bytes) {
   if (at < size) *wordsAt<Word4>(to, at) = *wordsAt<Word4>(from, at);
 }
 
-void copyBlocks(const MatrixCopy &m, size_t bytes) {
+void copyBlocks(MatrixCopy m, size_t bytes) {
   const auto step = static_cast<ptrdiff_t>(bytes);
   for (mint first = 0; first < m.columns; first += kSquare) {
     const mint last = std::min(m.columns, first + kSquare);

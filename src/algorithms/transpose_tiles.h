@@ -1,9 +1,8 @@
 // Transposed copies of matrices, and of square ones in place, by the bytes of an element.
 //
-// Elements are moved as what they are, without regard to their type. Both forms go through the matrix in
-// tiles of eight by eight: of reals, that is one whole cache line of each of eight rows on either side, so
-// that a line is fetched once even where the rows of a power of two compete for the same places in the cache.
-// Tiles in turn are taken by the square, so that few pages are in use at a time.
+// Elements are moved as what they are, without regard to their type, in tiles of eight by eight: of reals,
+// that is a whole cache line of each of eight rows on either side, so that a line is fetched once even where
+// rows at a distance of a power of two compete for the same places in the cache.
 #pragma once
 
 #include "../runtime/types.h"
