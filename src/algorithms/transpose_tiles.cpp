@@ -95,15 +95,32 @@ template <class Word> MatrixCopy partOf(MatrixCopy m, mint i, mint j, mint rows,
           columns};
 }
 
-template <class Word> void copyStrip(MatrixCopy m) {
-  const mint rows = m.rows / kTile * kTile, columns = m.columns / kTile * kTile;
-  for (mint j = 0; j < columns; j += kTile)
-    for (mint i = 0; i < rows; i += kTile) {
-      const MatrixCopy tile = partOf<Word>(m, i, j, kTile, kTile);
-      copyTile<Word>(tile.from, tile.fromStride, tile.to, tile.toStride);
+// What tiles leave over, by cells.
+template <class Word> void copyEdge(MatrixCopy m) {
+  constexpr mint side = Cell<Word>::kSide;
+  const mint rows = m.rows / side * side, columns = m.columns / side * side;
+  for (mint j = 0; j < columns; j += side)
+    for (mint i = 0; i < rows; i += side) {
+      const MatrixCopy part = partOf<Word>(m, i, j, side, side);
+      Cell<Word> cell;
+      cell.read(part.from, part.fromStride);
+      cell.write(part.to, part.toStride);
     }
   if (rows < m.rows) copySmall<Word>(partOf<Word>(m, rows, 0, m.rows - rows, m.columns));
   if (columns < m.columns) copySmall<Word>(partOf<Word>(m, 0, columns, rows, m.columns - columns));
+}
+
+template <class Word> void copyStrip(MatrixCopy m) {
+  constexpr auto step = static_cast<ptrdiff_t>(kTile * sizeof(Word));
+  const mint rows = m.rows / kTile * kTile, columns = m.columns / kTile * kTile;
+  for (mint j = 0; j < columns; j += kTile) {
+    const char *from = partOf<Word>(m, 0, j, 0, 0).from;
+    char *to = partOf<Word>(m, 0, j, 0, 0).to;
+    for (mint i = 0; i < rows; i += kTile, from += kTile * m.fromStride, to += step)
+      copyTile<Word>(from, m.fromStride, to, m.toStride);
+    if (rows < m.rows) copyEdge<Word>(partOf<Word>(m, rows, j, m.rows - rows, kTile));
+  }
+  if (columns < m.columns) copyEdge<Word>(partOf<Word>(m, 0, columns, m.rows, m.columns - columns));
 }
 
 // A few rows or columns: every line on the long side is read or written from end to end.
@@ -149,13 +166,30 @@ template <class Word> Strip stripOf(MatrixCopy m) {
   return {128 / bytes, m.columns};
 }
 
-template <class Word> void copyWords(MatrixCopy m) {
-  if (copyThin<Word>(m)) return;
+// Rows of the source to copy first, so that every tile is stored at the start of a line, or of a register's
+// width, in the rows of the result, where these stand alike to it.
+template <class Word> mint leadingRows(MatrixCopy m) {
+  const ptrdiff_t boundary = m.toStride % 64 == 0 ? 64 : m.toStride % 16 == 0 ? 16 : 1;
+  const auto beyond = static_cast<ptrdiff_t>(reinterpret_cast<uintptr_t>(m.to) & (boundary - 1));
+  const ptrdiff_t missing = (boundary - beyond) % boundary;
+  return missing % static_cast<ptrdiff_t>(sizeof(Word)) == 0
+             ? static_cast<mint>(missing / ptrdiff_t{sizeof(Word)})
+             : 0;
+}
+
+template <class Word> void copyStrips(MatrixCopy m) {
   const Strip strip = stripOf<Word>(m);
   for (mint j = 0; j < m.columns; j += strip.columns)
     for (mint i = 0; i < m.rows; i += strip.rows)
       copyStrip<Word>(
           partOf<Word>(m, i, j, std::min(strip.rows, m.rows - i), std::min(strip.columns, m.columns - j)));
+}
+
+template <class Word> void copyWords(MatrixCopy m) {
+  if (copyThin<Word>(m)) return;
+  const mint lead = std::min(m.rows, leadingRows<Word>(m));
+  copySmall<Word>(partOf<Word>(m, 0, 0, lead, m.columns));
+  copyStrips<Word>(partOf<Word>(m, lead, 0, m.rows - lead, m.columns));
 }
 
 // Short blocks are moved by the word: a copy of a length known only at run time costs a call.
