@@ -23,28 +23,29 @@ template <class Word> Word *wordsAt(char *data, ptrdiff_t offset) {
   return reinterpret_cast<Word *>(data + offset);
 }
 
+__m128i load(const char *from) { return _mm_loadu_si128(reinterpret_cast<const __m128i *>(from)); }
+void store(char *to, __m128i value) { _mm_storeu_si128(reinterpret_cast<__m128i *>(to), value); }
+
 // Two by two reals, four by four integers: the smallest square that registers hold.
 template <class Word> struct Cell;
 template <> struct Cell<Word8> {
   static constexpr mint kSide = 2;
-  __m128d rows[2];
+  __m128i rows[2];
 
   void read(const char *from, ptrdiff_t stride) {
-    const __m128d a = _mm_loadu_pd(reinterpret_cast<const double *>(from));
-    const __m128d b = _mm_loadu_pd(reinterpret_cast<const double *>(from + stride));
-    rows[0] = _mm_unpacklo_pd(a, b);
-    rows[1] = _mm_unpackhi_pd(a, b);
+    const __m128i a = load(from), b = load(from + stride);
+    rows[0] = _mm_unpacklo_epi64(a, b);
+    rows[1] = _mm_unpackhi_epi64(a, b);
   }
   void write(char *to, ptrdiff_t stride) const {
-    _mm_storeu_pd(reinterpret_cast<double *>(to), rows[0]);
-    _mm_storeu_pd(reinterpret_cast<double *>(to + stride), rows[1]);
+    store(to, rows[0]);
+    store(to + stride, rows[1]);
   }
 };
 template <> struct Cell<Word4> {
   static constexpr mint kSide = 4;
   __m128i rows[4];
 
-  static __m128i load(const char *from) { return _mm_loadu_si128(reinterpret_cast<const __m128i *>(from)); }
   void read(const char *from, ptrdiff_t stride) {
     const __m128i a = load(from), b = load(from + stride), c = load(from + 2 * stride),
                   d = load(from + 3 * stride);
@@ -56,15 +57,15 @@ template <> struct Cell<Word4> {
     rows[3] = _mm_unpackhi_epi64(ef, gh);
   }
   void write(char *to, ptrdiff_t stride) const {
-    for (int i = 0; i < 4; ++i) _mm_storeu_si128(reinterpret_cast<__m128i *>(to + i * stride), rows[i]);
+    for (int i = 0; i < 4; ++i) store(to + i * stride, rows[i]);
   }
 };
 template <> struct Cell<Word16> {
   static constexpr mint kSide = 1;
   __m128i row;
 
-  void read(const char *from, ptrdiff_t) { row = _mm_loadu_si128(reinterpret_cast<const __m128i *>(from)); }
-  void write(char *to, ptrdiff_t) const { _mm_storeu_si128(reinterpret_cast<__m128i *>(to), row); }
+  void read(const char *from, ptrdiff_t) { row = load(from); }
+  void write(char *to, ptrdiff_t) const { store(to, row); }
 };
 
 template <class Word> void copyTile(const char *from, ptrdiff_t fromStride, char *to, ptrdiff_t toStride) {
@@ -170,7 +171,7 @@ template <class Word> Strip stripOf(MatrixCopy m) {
 // width, in the rows of the result, where these stand alike to it.
 template <class Word> mint leadingRows(MatrixCopy m) {
   const ptrdiff_t boundary = m.toStride % 64 == 0 ? 64 : m.toStride % 16 == 0 ? 16 : 1;
-  const auto beyond = static_cast<ptrdiff_t>(reinterpret_cast<uintptr_t>(m.to) & (boundary - 1));
+  const auto beyond = static_cast<ptrdiff_t>(reinterpret_cast<intptr_t>(m.to) & (boundary - 1));
   const ptrdiff_t missing = (boundary - beyond) % boundary;
   return missing % static_cast<ptrdiff_t>(sizeof(Word)) == 0
              ? static_cast<mint>(missing / ptrdiff_t{sizeof(Word)})
