@@ -220,7 +220,7 @@ TEST(Transpose, TwiceInPlaceIsNothing) {
 
 TEST(Transpose, ByCyclesIsTheSame) {
   for (const Extents &shape : {Extents{2, 3}, Extents{31, 33}, Extents{64, 20}, Extents{1, 9}, Extents{9, 1}})
-    for (const size_t bytes : {4, 8, 12, 16, 40}) {
+    for (const size_t bytes : std::vector<size_t>{4, 8, 12, 16, 40}) {
       std::vector<char> data(static_cast<size_t>(productOf(shape)) * bytes);
       for (size_t k = 0; k < data.size(); ++k) data[k] = static_cast<char>(k * 7 % 251);
       std::vector<char> expected(data.size());
