@@ -18,6 +18,11 @@ namespace torvane {
 inline constexpr mint kWidestDigit = 11;
 inline constexpr mint kShortRun = 64; // rows that merging orders sooner than digits do
 inline constexpr mint kMaxDigits = 4;
+inline constexpr mint kFewForDigits = 3000; // narrower digits and fewer of them do for less than this
+
+// How many of a key's upper bits are sorted by digits, of 32 or a little more that could be: a few rows agree
+// in fewer of them only by chance.
+inline mint windowOf(mint count, mint most) { return count < kFewForDigits ? 24 : most; }
 
 struct DigitCounts {
   uint32_t of[kMaxDigits][1 << kWidestDigit];
@@ -28,7 +33,7 @@ struct DigitPlan {
   mint passes, width;
 
   DigitPlan(mint bits, mint count) {
-    const mint widest = count < 3000 ? 8 : kWidestDigit;
+    const mint widest = count < kFewForDigits ? 8 : kWidestDigit;
     passes = (bits + widest - 1) / widest;
     width = (bits + passes - 1) / passes;
   }
@@ -80,9 +85,9 @@ private:
     return std::pair(least, greatest);
   }
 
-  void orderBy(mint *rows, mint first, mint count, mint level, uint64_t least, uint64_t span) {
+  template <class Key> void orderBy(mint *rows, mint first, mint count, mint level, Key least, Key span) {
     const mint bits = static_cast<mint>(std::bit_width(span));
-    const mint shift = bits > 32 ? bits - 32 : 0;
+    const mint shift = std::max(0, bits - (sizeof least == 8 ? windowOf(count, 32) : 32));
     const DigitPlan plan(bits - shift, count);
     cut(rows + first, first, count, level, least, shift, plan);
     const bool decided = shift == 0 && level + 1 == keys.count();
@@ -101,13 +106,16 @@ private:
     }
   }
 
-  // The buffer with the entries in order; with `rows` given, their row numbers go there instead.
+  // The buffer with the entries in order, dealt out by every digit that varies; with `rows` given, their row
+  // numbers go there instead.
   const uint64_t *sortEntries(mint first, mint count, DigitPlan plan, mint *rows) {
     uint64_t *from = front + first, *to = back + first;
     for (mint pass = 0; pass < plan.passes; ++pass) {
       uint32_t *starts = counts->of[pass];
-      toStarts(starts, 1u << plan.width);
       const mint shift = 32 + pass * plan.width;
+      if (starts[from[0] >> shift & plan.mask()] == static_cast<uint32_t>(count))
+        continue; // never the last one
+      toStarts(starts, 1u << plan.width);
       if (rows != nullptr && pass + 1 == plan.passes)
         for (mint k = 0; k < count; ++k)
           rows[first + static_cast<mint>(starts[from[k] >> shift & plan.mask()]++)] = rowOf(from[k]);

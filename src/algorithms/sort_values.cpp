@@ -82,7 +82,7 @@ public:
     if (count <= kShortRun) return std::sort(front + first, front + first + count);
     if (least == greatest) return;
     const mint bits = static_cast<mint>(std::bit_width(greatest - least));
-    const mint shift = std::max(0, bits - 3 * kWidestDigit);
+    const mint shift = std::max(0, bits - windowOf(count, 3 * kWidestDigit));
     dealDigits(first, count, least, shift, DigitPlan(bits - shift, count));
     if (shift > 0) sortRuns(first, count, least, shift);
   }
