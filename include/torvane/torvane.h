@@ -7,6 +7,7 @@
 #include "failure.h"
 #include "startup.h"
 #include "tensor.h"
+#include "lists.h"
 #include "operators.h"
 #include "elementwise.h"
 #include "tolerance.h"

@@ -6,13 +6,7 @@ namespace torvane {
 
 mint handleCopyTensor(TorvaneLibraryData *, mint argumentCount, void *const *arguments, void *result) {
   if (argumentCount != 1) return kWrongArguments;
-  const MTensor *source = tensorArgument(arguments, 0);
-  ResultTensor copy(tensorResult(result));
-  if (copy.isIn(source)) return kSuccess;
-  const mint status = copy.allocateLike(source->type, source);
-  if (status != kSuccess) return status;
-  MTensor_copyContiguousData(copy.get(), 0, source, 0, source->elementCount);
-  return copy.commit();
+  return copyToSlot(tensorResult(result), tensorArgument(arguments, 0));
 }
 
 namespace {
@@ -21,7 +15,7 @@ bool isTensorType(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TO
 
 } // namespace
 
-// What rounds raises where it does not fit, as in every coercion; the status stays 0.
+// A value that no integer holds is unspecified in the result, as in every coercion: the status stays 0.
 mint handleCoerceTensor(TorvaneLibraryData *, mint argumentCount, void *const *arguments, void *result) {
   if (argumentCount != 2) return kWrongArguments;
   const mint type = integerArgument(arguments, 0);

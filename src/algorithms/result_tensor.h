@@ -26,7 +26,7 @@ public:
   // Whether the slot holds this tensor.
   bool isIn(const MTensor *tensor) const { return *slot != nullptr && *slot == tensor; }
 
-  // Before the allocation: one operand more that is read while the result is written.
+  // Before the allocation: one operand more.
   void avoid(const MTensor *operand) { isApart = isApart || isIn(operand); }
 
   // Shape and type; the status of MTensor_allocateCommon.
@@ -43,5 +43,13 @@ private:
   MTensor *made = nullptr; // not yet the caller's
   bool isApart = false, isFresh = false;
 };
+
+// The tensor itself as the result; nothing happens when the slot holds it already. Other operands are left
+// whole by a failure.
+mint copyToSlot(MTensor **slot, const MTensor *tensor, std::initializer_list<const MTensor *> others = {});
+
+// The same with other extents for as many elements. A slot that holds the tensor has it reshaped in place.
+mint reshapeToSlot(MTensor **slot, MTensor *tensor, mint rank, const mint *dimensions, mint errorMode,
+                   std::initializer_list<const MTensor *> others = {});
 
 } // namespace torvane

@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <set>
 #include <string>
+#include <thread>
 
 using namespace torvane;
 using namespace torvane::test;
@@ -89,6 +91,19 @@ TEST_F(Registry, FixedCountsAreCheckedBeforeAnArgumentIsTouched) {
       if (!allowed.count(count))
         EXPECT_EQ(row.entry.function(nullptr, count, nullptr, nullptr), 12) << row.name;
   }
+}
+
+TEST_F(Registry, ConcurrentLookupsFindTheirHandlers) {
+  std::atomic<int> wrong = 0;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i)
+    threads.emplace_back([&wrong] {
+      for (int time = 0; time < 50; ++time)
+        for (const RuntimeFunctionRow &row : kRuntimeFunctions)
+          wrong += lookupRuntimeFunction(row.name) != row.entry.function;
+    });
+  for (std::thread &thread : threads) thread.join();
+  EXPECT_EQ(wrong, 0);
 }
 
 mint answer(TorvaneLibraryData *, mint, void *const *, void *) { return 42; }
