@@ -1,13 +1,14 @@
 // The stable order of rows without a NaN among them, by radix.
 //
-// Each key is taken relative to the smallest one and cut to the upper 32 bits of the span that the keys
-// cover; a word of such a cut key over the row's number is then sorted by its digits, the least significant
-// first. Rows whose cut keys agree are told apart afterwards, a run of them at a time: a short run by
-// merging, a long one by what was cut off or by the row's next key. A run covers less than 2^32 of its key,
-// so that one turn more decides it. (LSD radix sort: D. E. Knuth, The Art of Computer Programming 3, 5.2.5;
+// Each key is taken relative to the smallest one and cut to the upper bits of the span that the keys cover; a
+// word of such a cut key over the row's number is then sorted by its digits, the least significant first.
+// Rows whose cut keys agree are told apart afterwards, a run of them at a time: a short run by merging, a
+// long one by what was cut off or by the row's next key. Many rows with few distinct keys are counted
+// instead. (LSD radix sort and counting: D. E. Knuth, The Art of Computer Programming 3, 5.2.5 and 5.2;
 // digits of 8 to 11 bits as in I. J. Davis, "A fast radix sort", The Computer Journal 35, 1992.)
 #pragma once
 
+#include "order_distinct.h"
 #include "order_keys.h"
 #include "order_merge.h"
 
@@ -69,10 +70,33 @@ private:
   // Of the rows at first ... first + count, which agree in all keys before `level`.
   void orderRun(mint *rows, mint first, mint count, mint level) {
     for (; level < keys.count(); ++level) {
+      if (count > kShortRun && orderByCounting(rows, first, count, level)) return;
       auto [least, greatest] = spanOf(rows + first, count, level);
       if (least == greatest) continue;
       return orderBy(rows, first, count, level, least, greatest - least);
     }
+  }
+
+  // False, and nothing is changed, where the keys of the level are too many.
+  bool orderByCounting(mint *rows, mint first, mint count, mint level) {
+    DistinctKeys distinct(count);
+    auto *numbers = reinterpret_cast<uint8_t *>(back + first);
+    for (mint k = 0; k < count; ++k) {
+      const mint number = distinct.count(keys.at(rows[first + k] - 1, level));
+      if (number == DistinctKeys::kNone) return false;
+      numbers[k] = static_cast<uint8_t>(number);
+    }
+    mint places[DistinctKeys::kMost], place = 0;
+    distinct.forEachAscending(
+        [&](mint number, uint64_t, mint times) { places[number] = std::exchange(place, place + times); });
+    auto *ordered = reinterpret_cast<mint *>(front + first);
+    for (mint k = 0; k < count; ++k) ordered[places[numbers[k]]++] = rows[first + k];
+    memcpy(rows + first, ordered, static_cast<size_t>(count) * sizeof(mint));
+    distinct.forEachAscending([&](mint, uint64_t, mint times) {
+      takeRun(rows, first, times, level + 1);
+      first += times;
+    });
+    return true;
   }
 
   auto spanOf(const mint *rows, mint count, mint level) const {

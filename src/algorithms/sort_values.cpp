@@ -1,8 +1,8 @@
 // Values by radix, as their rows in order_radix.h, without row numbers to carry.
 //
-// Integers of a short span are counted and written out again. Reals are sorted as the unsigned words of
-// order_keys.h by the upper 33 bits of their span; runs that agree in those are sorted once more, by the
-// rest.
+// Integers of a short span, and few distinct values, are counted and written out again. Reals are sorted as
+// the unsigned words of order_keys.h by the upper 33 bits of their span; runs that agree in those are sorted
+// once more, by the rest.
 #include "sort_values.h"
 
 #include "order_radix.h"
@@ -50,6 +50,21 @@ void writeCounted(const mint *from, mint *to, mint count, mint least, uint32_t s
   for (mint k = 0; k < count; ++k) ++counts[from[k] - least];
   for (uint32_t value = 0; value <= span; ++value)
     to = std::fill_n(to, counts[value], least + static_cast<mint>(value));
+}
+
+mint valueOf(uint64_t key, const mint *) {
+  return static_cast<mint>(static_cast<uint32_t>(key) ^ 0x80000000u);
+}
+mreal valueOf(uint64_t key, const mreal *) { return std::bit_cast<mreal>(bitsOfKey(key)); }
+
+// False, and nothing is written, where too many are distinct.
+template <class Element> bool writeDistinct(const Element *from, Element *to, mint count) {
+  DistinctKeys distinct(count);
+  for (mint k = 0; k < count; ++k)
+    if (distinct.count(keyOf(from[k])) == DistinctKeys::kNone) return false;
+  distinct.forEachAscending(
+      [&](mint, uint64_t key, mint times) { to = std::fill_n(to, times, valueOf(key, to)); });
+  return true;
 }
 
 void dealIntegers(const mint *from, mint *to, mint *scratch, mint count, uint32_t least, mint bits,
@@ -138,6 +153,7 @@ bool sortValues(const mint *from, mint *to, mint count) {
     writeCounted(from, to, count, static_cast<mint>(least ^ 0x80000000u), span, counts.as<uint32_t>());
     return true;
   }
+  if (writeDistinct(from, to, count)) return true;
   const Scratch scratch(sizeof(mint) * uint64_t{static_cast<uint32_t>(count)}, kQuiet);
   if (!scratch) return false;
   dealIntegers(from, to, scratch.as<mint>(), count, least, static_cast<mint>(std::bit_width(span)),
@@ -149,6 +165,7 @@ bool sortValues(const mreal *from, mreal *to, mint count) {
   const auto span = spanOf(from, count);
   if (!isOfNumbers(span) || holdsNegativeZero(from, count)) return false;
   if (count < kFewValues) return sortFew(from, to, count);
+  if (writeDistinct(from, to, count)) return true;
   const auto bytes = sizeof(mreal) * uint64_t{static_cast<uint32_t>(count)};
   const Scratch front(bytes, kQuiet), back(bytes, kQuiet), counts(sizeof(DigitCounts), kQuiet);
   if (!front || !back || !counts) return false;

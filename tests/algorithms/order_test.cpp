@@ -83,6 +83,24 @@ TEST(Order, OfManyRowsIsTheMergeSorts) {
   }
 }
 
+// Around the number of distinct keys up to which they are counted.
+TEST(Order, OfAnyNumberOfDistinctKeysIsTheMergeSorts) {
+  Generator generator(12);
+  for (const mint distinct : {1, 2, 31, 32, 127, 128, 129, 130, 300})
+    for (const mint rows : {1000, 4100, 6000}) {
+      std::vector<mint> integers;
+      std::vector<mreal> reals;
+      for (mint k = 0; k < rows; ++k) {
+        const mint drawn = static_cast<mint>(generator() % static_cast<unsigned>(distinct));
+        integers.push_back(drawn * 7654321 - 1000000000);
+        reals.push_back(std::ldexp(1.0, drawn - 100) * (drawn % 2 ? -1 : 1));
+      }
+      expectModelsOrder(integers, 1, "distinct integers");
+      expectModelsOrder(reals, 1, "distinct reals");
+      expectModelsOrder(reals, 2, "distinct reals");
+    }
+}
+
 // A run that agrees in its upper bits and is too long for merging, inside a span of all exponents.
 TEST(Order, TellsLongRunsOfNeighbouringRealsApart) {
   Generator generator(7);

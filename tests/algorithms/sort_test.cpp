@@ -74,6 +74,24 @@ TEST(Sort, OfManyValuesIsInOrder) {
   }
 }
 
+// Around the number of distinct values up to which they are counted.
+TEST(Sort, OfAnyNumberOfDistinctValuesIsInOrder) {
+  Generator generator(10);
+  for (const mint distinct : {1, 2, 127, 128, 129, 300}) {
+    std::vector<mint> integers;
+    std::vector<mreal> reals;
+    for (mint k = 0; k < 6000; ++k) {
+      integers.push_back(static_cast<mint>(generator() % static_cast<unsigned>(distinct)) * 7000000 -
+                         900000000);
+      reals.push_back(integers.back() * 0.1);
+    }
+    for (const Slot slot : {Slot::empty, Slot::argument}) {
+      expectSorted(integers, 1, slot);
+      expectSorted(reals, 1, slot);
+    }
+  }
+}
+
 TEST(Sort, KeepsTheZerosOfEitherSignInTheirOrder) {
   std::vector<mreal> zeros(1000, 0.0);
   for (size_t k = 0; k < zeros.size(); k += 3) zeros[k] = -0.0;
