@@ -41,6 +41,39 @@ struct DigitPlan {
   uint32_t mask() const { return (1u << width) - 1; }
 };
 
+// The span of keys, and the gap in it between the keys of negative numbers and the others. Reals of both
+// signs leave nearly all of their span to numbers next to zero that hardly ever come.
+template <class Key> struct KeySpan {
+  static constexpr Key kMiddle = Key{1} << (8 * sizeof(Key) - 1);
+  Key least, greatest, below = 0, above = static_cast<Key>(-1);
+
+  // All ones for a key from the middle on: signs come at random, and a branch would be guessed wrong.
+  static Key maskOfUpper(Key key) { return Key{0} - (key >> (8 * sizeof(Key) - 1)); }
+
+  explicit KeySpan(Key key) : least(key), greatest(key) { add(key); }
+  void add(Key key) {
+    least = std::min(least, key);
+    greatest = std::max(greatest, key);
+    if constexpr (sizeof(Key) == 8) {
+      const Key upper = maskOfUpper(key);
+      below = std::max(below, key & ~upper);
+      above = std::min(above, key | ~upper);
+    }
+  }
+  Key gap() const {
+    return sizeof(Key) == 8 && least < kMiddle && greatest >= kMiddle ? above - below - 1 : 0;
+  }
+};
+
+template <class Key> struct KeyCut {
+  Key least, gap;
+  mint shift;
+
+  uint32_t operator()(Key key) const {
+    return static_cast<uint32_t>((key - least - (gap & KeySpan<Key>::maskOfUpper(key))) >> shift);
+  }
+};
+
 // Counts into where each digit's first entry goes.
 inline void toStarts(uint32_t *counts, uint32_t digits) {
   uint32_t start = 0;
@@ -71,9 +104,8 @@ private:
   void orderRun(mint *rows, mint first, mint count, mint level) {
     for (; level < keys.count(); ++level) {
       if (count > kShortRun && orderByCounting(rows, first, count, level)) return;
-      auto [least, greatest] = spanOf(rows + first, count, level);
-      if (least == greatest) continue;
-      return orderBy(rows, first, count, level, least, greatest - least);
+      const auto span = spanOf(rows + first, count, level);
+      if (span.least != span.greatest) return orderBy(rows, first, count, level, span);
     }
   }
 
@@ -100,29 +132,28 @@ private:
   }
 
   auto spanOf(const mint *rows, mint count, mint level) const {
-    auto least = keys.at(rows[0] - 1, level), greatest = least;
-    for (mint k = 1; k < count; ++k) {
-      const auto key = keys.at(rows[k] - 1, level);
-      least = std::min(least, key);
-      greatest = std::max(greatest, key);
-    }
-    return std::pair(least, greatest);
+    KeySpan span(keys.at(rows[0] - 1, level));
+    for (mint k = 1; k < count; ++k) span.add(keys.at(rows[k] - 1, level));
+    return span;
   }
 
-  template <class Key> void orderBy(mint *rows, mint first, mint count, mint level, Key least, Key span) {
-    const mint bits = static_cast<mint>(std::bit_width(span));
-    const mint shift = std::max(0, bits - (sizeof least == 8 ? windowOf(count, 32) : 32));
+  template <class Key>
+  void orderBy(mint *rows, mint first, mint count, mint level, const KeySpan<Key> &span) {
+    const Key gap = span.gap();
+    const mint bits = static_cast<mint>(std::bit_width(static_cast<Key>(span.greatest - span.least - gap)));
+    const mint shift = std::max(0, bits - (sizeof(Key) == 8 ? windowOf(count, 32) : 32));
     const DigitPlan plan(bits - shift, count);
-    cut(rows + first, first, count, level, least, shift, plan);
+    cut(rows + first, first, count, level, KeyCut<Key>{span.least, gap, shift}, plan);
     const bool decided = shift == 0 && level + 1 == keys.count();
     const uint64_t *sorted = sortEntries(first, count, plan, decided ? rows : nullptr);
     if (!decided) takeRuns(rows, sorted, first, count, shift == 0 ? level + 1 : level);
   }
 
-  void cut(const mint *rows, mint first, mint count, mint level, uint64_t least, mint shift, DigitPlan plan) {
+  template <class Key>
+  void cut(const mint *rows, mint first, mint count, mint level, KeyCut<Key> keyCut, DigitPlan plan) {
     memset(counts->of, 0, static_cast<size_t>(plan.passes) * sizeof counts->of[0]);
     for (mint k = 0; k < count; ++k) {
-      const auto key = static_cast<uint32_t>((keys.at(rows[k] - 1, level) - least) >> shift);
+      const uint32_t key = keyCut(keys.at(rows[k] - 1, level));
       front[first + k] = entry(key, rows[k]);
       uint32_t rest = key;
       for (mint pass = 0; pass < plan.passes; ++pass, rest >>= plan.width)
