@@ -4,7 +4,7 @@
 // Short inputs come as many different ones, one after another, so that no branch predictor learns them by
 // heart.
 //
-//   bench_sorting [rounds [largest count]]
+//   bench_sorting [rounds [largest count [smallest count]]]
 #include "algorithms/order.h"
 
 #include <torvane/torvane.h>
@@ -150,7 +150,8 @@ void measure(const char *name, mint rows, mint length, const Draw &draw) {
 
 int main(int argc, char **argv) {
   if (argc > 1) rounds = std::atoi(argv[1]);
-  const mint largest = argc > 2 ? std::atoi(argv[2]) : 10000000;
+  const mint largest = argc > 2 ? std::atoi(argv[2]) : 10000000,
+             smallest = argc > 3 ? std::atoi(argv[3]) : 1000;
   InitializeRuntimeLibrary();
   std::mt19937 random(1);
   std::uniform_real_distribution<> uniform(0, 1);
@@ -161,7 +162,7 @@ int main(int argc, char **argv) {
   };
   std::printf("%-24s %9s %8s %8s %8s %6s | %8s %8s %8s\n", "ns a row", "rows", "order", "std", "flat",
               "ratio", "sort", "gathered", "spread");
-  for (mint rows = 1000; rows <= largest; rows *= 10) {
+  for (mint rows = smallest; rows <= largest; rows *= 10) {
     measure<mint>("integers", rows, 1, integer);
     measure<mreal>("reals, uniform", rows, 1, [&](mint) { return uniform(random); });
     measure<mreal>("reals, normal", rows, 1, [&](mint) { return normal(random); });
