@@ -16,6 +16,8 @@
 #include "text.h"
 #include "parallel.h"
 #include "registry.h"
+#include "sorting.h"
+#include "transposition.h"
 #include "machfuncs.h"
 #include "vectors.h"
 

@@ -8,10 +8,12 @@
 #include <torvane/memory.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
+#include <torvane/sorting.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
 #include <torvane/text.h>
 #include <torvane/tolerance.h>
+#include <torvane/transposition.h>
 #include <torvane/vectors.h>
 
 #include <cstring>
