@@ -234,17 +234,17 @@ mint machfunc_ccc_adxmy(void *result, const void *a, const void *x, const void *
 }
 
 mint machfunc_i_total(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::total, mint>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().i_total, accumulator, data, count, strides, flags);
 }
 mint machfunc_d_total(mreal *accumulator, const mreal *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::total, mreal>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().d_total, accumulator, data, count, strides, flags);
 }
 mint machfunc_c_total(mcomplex *accumulator, const mcomplex *data, mint count, const mint *strides,
                       mint flags) {
-  return driveReduction(kReductionLoop<reduction::total, ComplexReal64>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().c_total, accumulator, data, count, strides, flags);
 }
 
 mint machfunc_ii_dot(mint *accumulator, const mint *x, const mint *y, mint count, const mint *strides,
                      mint flags) {
-  return drivePairReduction(kPairReductionLoop<reduction::dot, mint>, accumulator, x, y, count, strides, flags);
+  return drivePairReduction(loops().ii_dot, accumulator, x, y, count, strides, flags);
 }

@@ -1,5 +1,6 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
+#include "../reduction.h"
 #include "arithmetic_loops.h"
 #include "../../scalar/bodies/arithmetic.h"
 
@@ -60,4 +61,8 @@ const torvane_loops::ArithmeticLoops torvane_loops::TORVANE_LOOPS_HERE(arithmeti
     .ccc_ymax = kTernaryLoop<ternary::ymax, ComplexReal64>,
     .ddd_adxmy = kTernaryLoop<ternary::adxmy, mreal>,
     .ccc_adxmy = kTernaryLoop<ternary::adxmy, ComplexReal64>,
+    .i_total = kReductionLoop<reduction::total, mint>,
+    .d_total = kReductionLoop<reduction::total, mreal>,
+    .c_total = kReductionLoop<reduction::total, ComplexReal64>,
+    .ii_dot = kPairReductionLoop<reduction::dot, mint>,
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../levels.h"
+#include "../reduction_loops.h"
 
 namespace torvane_loops {
 
@@ -60,6 +61,10 @@ struct ArithmeticLoops {
   TernaryLoop ccc_ymax;
   TernaryLoop ddd_adxmy;
   TernaryLoop ccc_adxmy;
+  ReductionLoop i_total;
+  ReductionLoop d_total;
+  ReductionLoop c_total;
+  PairReductionLoop ii_dot;
 };
 extern const ArithmeticLoops arithmetic_baseline, arithmetic_avx2, arithmetic_avx512;
 

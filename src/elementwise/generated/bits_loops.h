@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../levels.h"
+#include "../reduction_loops.h"
 
 namespace torvane_loops {
 

@@ -167,33 +167,33 @@ mint machfunc_cd_unitize(void *result, const void *x, const void *y, mint count,
 }
 
 mint machfunc_i_max(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::max, mint>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().i_max, accumulator, data, count, strides, flags);
 }
 mint machfunc_d_max(mreal *accumulator, const mreal *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::max, mreal>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().d_max, accumulator, data, count, strides, flags);
 }
 
 mint machfunc_i_min(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::min, mint>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().i_min, accumulator, data, count, strides, flags);
 }
 mint machfunc_d_min(mreal *accumulator, const mreal *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::min, mreal>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().d_min, accumulator, data, count, strides, flags);
 }
 
 mint machfunc_i_minmax(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::minmax, mint>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().i_minmax, accumulator, data, count, strides, flags);
 }
 mint machfunc_d_minmax(mreal *accumulator, const mreal *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::minmax, mreal>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().d_minmax, accumulator, data, count, strides, flags);
 }
 
 mint machfunc_i_maxabs(mint *accumulator, const mint *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::maxabs, mint>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().i_maxabs, accumulator, data, count, strides, flags);
 }
 mint machfunc_d_maxabs(mreal *accumulator, const mreal *data, mint count, const mint *strides, mint flags) {
-  return driveReduction(kReductionLoop<reduction::maxabs, mreal>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().d_maxabs, accumulator, data, count, strides, flags);
 }
 mint machfunc_c_maxabs(mreal *accumulator, const mcomplex *data, mint count, const mint *strides,
                        mint flags) {
-  return driveReduction(kReductionLoop<reduction::maxabs, ComplexReal64>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().c_maxabs, accumulator, data, count, strides, flags);
 }

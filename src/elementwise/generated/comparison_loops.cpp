@@ -1,5 +1,6 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
+#include "../reduction.h"
 #include "comparison_loops.h"
 #include "../../scalar/bodies/comparison.h"
 
@@ -44,4 +45,13 @@ const torvane_loops::ComparisonLoops torvane_loops::TORVANE_LOOPS_HERE(compariso
     .ii_unitize = kBinaryLoop<binary::unitize, mint, mint>,
     .dd_unitize = kBinaryLoop<binary::unitize, mreal, mreal>,
     .cd_unitize = kBinaryLoop<binary::unitize, ComplexReal64, mreal>,
+    .i_max = kReductionLoop<reduction::max, mint>,
+    .d_max = kReductionLoop<reduction::max, mreal>,
+    .i_min = kReductionLoop<reduction::min, mint>,
+    .d_min = kReductionLoop<reduction::min, mreal>,
+    .i_minmax = kReductionLoop<reduction::minmax, mint>,
+    .d_minmax = kReductionLoop<reduction::minmax, mreal>,
+    .i_maxabs = kReductionLoop<reduction::maxabs, mint>,
+    .d_maxabs = kReductionLoop<reduction::maxabs, mreal>,
+    .c_maxabs = kReductionLoop<reduction::maxabs, ComplexReal64>,
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../levels.h"
+#include "../reduction_loops.h"
 
 namespace torvane_loops {
 
@@ -44,6 +45,15 @@ struct ComparisonLoops {
   BinaryLoop ii_unitize;
   BinaryLoop dd_unitize;
   BinaryLoop cd_unitize;
+  ReductionLoop i_max;
+  ReductionLoop d_max;
+  ReductionLoop i_min;
+  ReductionLoop d_min;
+  ReductionLoop i_minmax;
+  ReductionLoop d_minmax;
+  ReductionLoop i_maxabs;
+  ReductionLoop d_maxabs;
+  ReductionLoop c_maxabs;
 };
 extern const ComparisonLoops comparison_baseline, comparison_avx2, comparison_avx512;
 

@@ -91,9 +91,9 @@ mint machfunc_c_sign(void *result, const void *x, mint count, const mint *stride
 
 mint machfunc_d_fpexception(mint *accumulator, const mreal *data, mint count, const mint *strides,
                             mint flags) {
-  return driveReduction(kReductionLoop<reduction::fpexception, mreal>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().d_fpexception, accumulator, data, count, strides, flags);
 }
 mint machfunc_c_fpexception(mint *accumulator, const mcomplex *data, mint count, const mint *strides,
                             mint flags) {
-  return driveReduction(kReductionLoop<reduction::fpexception, ComplexReal64>, accumulator, data, count, strides, flags);
+  return driveReduction(loops().c_fpexception, accumulator, data, count, strides, flags);
 }

@@ -1,5 +1,6 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
+#include "../reduction.h"
 #include "parts_loops.h"
 #include "../../scalar/bodies/parts.h"
 
@@ -27,4 +28,6 @@ const torvane_loops::PartsLoops torvane_loops::TORVANE_LOOPS_HERE(parts) = {
     .i_sign = kUnaryLoop<unary::sign, mint>,
     .d_sign = kUnaryLoop<unary::sign, mreal>,
     .c_sign = kUnaryLoop<unary::sign, ComplexReal64>,
+    .d_fpexception = kReductionLoop<reduction::fpexception, mreal>,
+    .c_fpexception = kReductionLoop<reduction::fpexception, ComplexReal64>,
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../levels.h"
+#include "../reduction_loops.h"
 
 namespace torvane_loops {
 
@@ -27,6 +28,8 @@ struct PartsLoops {
   UnaryLoop i_sign;
   UnaryLoop d_sign;
   UnaryLoop c_sign;
+  ReductionLoop d_fpexception;
+  ReductionLoop c_fpexception;
 };
 extern const PartsLoops parts_baseline, parts_avx2, parts_avx512;
 

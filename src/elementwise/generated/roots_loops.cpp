@@ -1,5 +1,6 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
+#include "../reduction.h"
 #include "roots_loops.h"
 #include "../../scalar/bodies/roots.h"
 

@@ -1,5 +1,6 @@
 // Generated from src/scalar/operators.def by tools/generate; not to be edited.
 #include "../kernel.h"
+#include "../reduction.h"
 #include "rounding_loops.h"
 #include "../../scalar/bodies/rounding.h"
 
