@@ -27,21 +27,26 @@ struct Routine {
 
 inline std::vector<Routine> allRoutines() {
   std::vector<Routine> all;
+  const auto add = [&all](const char *arity, mint number, auto &routine, const mint(&kinds)[3]) {
+    if (routine == nullptr) return;
+    Routine one;
+    one.name = std::string(arity) + std::to_string(number) + " of kinds " + std::to_string(kinds[1]) + " " +
+               std::to_string(kinds[2]);
+    if constexpr (requires { one.unary = routine; })
+      one.unary = routine;
+    else
+      one.binary = routine;
+    std::copy(kinds, kinds + 3, one.kinds);
+    all.push_back(std::move(one));
+  };
   for (mint number = 1; number < 85; ++number)
-    for (mint kind = 2; kind <= 4; ++kind)
-      if (TorvaneUnaryRoutine routine = machfunsarray_1[3 * number + kind - 2])
-        all.push_back({"unary " + std::to_string(number) + " of kind " + std::to_string(kind),
-                       routine,
-                       nullptr,
-                       {storedKind1(number, kind), kind, 0}});
+    for (mint x = 2; x <= 4; ++x)
+      add("unary ", number, machfunsarray_1[3 * number + x - 2], {storedKind1(number, x), x, 0});
   for (mint number = 257; number < 278; ++number)
-    for (mint column = 0; column < 9; ++column)
-      if (TorvaneBinaryRoutine routine = machfunsarray_2[9 * (number - 256) + column])
-        all.push_back(
-            {"binary " + std::to_string(number) + " column " + std::to_string(column),
-             nullptr,
-             routine,
-             {storedKind2(number, column / 3 + 2, column % 3 + 2), column / 3 + 2, column % 3 + 2}});
+    for (mint x = 2; x <= 4; ++x)
+      for (mint y = 2; y <= 4; ++y)
+        add("binary ", number, machfunsarray_2[9 * (number - 256) + 3 * (x - 2) + y - 2],
+            {storedKind2(number, x, y), x, y});
   return all;
 }
 

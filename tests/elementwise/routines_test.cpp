@@ -249,16 +249,78 @@ TEST_P(TypedRoutines, OfTwoOperandsAreTheirTypedEntriesAtEveryShapeLengthAndFlag
       for (const mint flags : kFlagSettings)
         for (mint count = 0; count <= 67; ++count) {
           for (const auto &strides : shapes)
-            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, strides, flags, Place::apart, random));
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, strides, flags, Place::apart, random));
           const bool sameWidth = storedKind2(op.row.number, kind1, kind2) == kind1;
           if (sameWidth)
-            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, Place::first, random));
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, Place::first, random));
           if (sameWidth)
-            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, {1, 1, 0}, flags, Place::first, random));
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, {1, 1, 0}, flags, Place::first, random));
           if (storedKind2(op.row.number, kind1, kind2) == kind2)
             ASSERT_NO_FATAL_FAILURE(
                 checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, Place::second, random));
         }
+    }
+}
+
+// One element, alone and filling a run of registers, so that no neighbour hides what it accrues. `call` runs
+// the routine on so many copies of what `sample` has drawn.
+constexpr mint kCopies = 37;
+template <class Op, class Apply, class Sample, class Call>
+void checkAccrual(const Op &op, mint kind, mint storedKind, Apply apply, Sample sample, Call call) {
+  const Testing testing = testingOf(op.row, kind, TORVANE_CHECK_REALS, false);
+  if (testing != Testing::inBulk) return;
+  for (int k = 0; k < 1000; ++k) {
+    sample();
+    const Expectation expected = expectation(op, kind, storedKind, testing, 1, apply);
+    ASSERT_EQ(call(1), expected.position) << op.row.vector << " sample " << k;
+    ASSERT_EQ(call(kCopies), expected.position) << op.row.vector << " sample " << k;
+  }
+}
+
+void fill(Buffer &buffer, const Element &element) {
+  for (size_t k = 0; k < buffer.count(); ++k) buffer.set(ptrdiff_t(k), element);
+}
+
+TEST_P(TypedRoutines, OfOneOperandAccrueWhatTheirTypedEntriesAccrue) {
+  std::mt19937_64 random(3);
+  const mint dense[2] = {1, 1};
+  for (const UnaryOperator &op : unaryOperators())
+    for (mint kind = 3; kind <= 4; ++kind) {
+      if (op.row.number == 0 || (op.row.columns >> (kind - 2) & 1) == 0) continue;
+      const TorvaneUnaryRoutine routine = machfunsarray_1[3 * op.row.number + kind - 2];
+      Buffer x(kind, kCopies), result(storedKind1(op.row.number, kind), kCopies);
+      SCOPED_TRACE(kKindNames[kind - 2]);
+      ASSERT_NO_FATAL_FAILURE(checkAccrual(
+          op, kind, result.kind, [&](const TypedUnary &entry, mint k) { return entry(x.get(k)); },
+          [&] { fill(x, sampleElement(kind, random)); },
+          [&](mint count) { return routine(result.data(), x.data(), count, dense, TORVANE_CHECK_REALS); }));
+    }
+}
+
+TEST_P(TypedRoutines, OfTwoOperandsAccrueWhatTheirTypedEntriesAccrue) {
+  std::mt19937_64 random(4);
+  const mint dense[3] = {1, 1, 1};
+  for (const BinaryOperator &op : binaryOperators())
+    for (mint column = 0; column < 9; ++column) {
+      const mint kind1 = column / 3 + 2, kind2 = column % 3 + 2, kind = std::max(kind1, kind2);
+      if (op.row.number == 0 || (op.row.columns >> column & 1) == 0) continue;
+      if (kind1 != kind2 && !widensMixedPairs(op.row)) continue;
+      const TorvaneBinaryRoutine routine = machfunsarray_2[9 * (op.row.number - 256) + column];
+      Buffer x(kind1, kCopies), y(kind2, kCopies), result(storedKind2(op.row.number, kind1, kind2), kCopies);
+      SCOPED_TRACE(column);
+      ASSERT_NO_FATAL_FAILURE(checkAccrual(
+          op, kind, result.kind,
+          [&](const TypedBinary &entry, mint k) { return entry(x.get(k).as(kind), y.get(k).as(kind)); },
+          [&] {
+            fill(x, sampleElement(kind1, random));
+            fill(y, sampleElement(kind2, random));
+          },
+          [&](mint count) {
+            return routine(result.data(), x.data(), y.data(), count, dense, TORVANE_CHECK_REALS);
+          }));
     }
 }
 
