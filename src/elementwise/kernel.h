@@ -102,6 +102,27 @@ inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t ste
   return 0;
 }
 
+// Elements before the first that begins a cache line: a wide store that crosses two lines costs as much as two.
+// None where the run is too short to gain, or where no element ever begins a line.
+inline constexpr mint kLineBytes = 64, kWorthAligning = 128;
+template <class Result> mint elementsBeforeLine(const Result *result, mint count) {
+  const uintptr_t past = reinterpret_cast<uintptr_t>(result) % kLineBytes;
+  if (count < kWorthAligning || past == 0 || past % sizeof(Result) != 0) return 0;
+  return static_cast<mint>((kLineBytes - past) / sizeof(Result));
+}
+
+// Runs `run(start, length)` up to the first line and then from there on; the position of the first failure.
+template <class Run> inline __attribute__((always_inline)) mint fromLine(mint head, mint count, Run run) {
+  mint start = 0, length = head == 0 ? count : head;
+  for (;;) {
+    const mint position = run(start, length);
+    if (position != 0) return start + position;
+    start += length;
+    if (start == count) return 0;
+    length = count - start;
+  }
+}
+
 // ---- blocks of lanes -------------------------------------------------------------------------------
 
 // Elements between two looks at what the lanes suspect: few enough that a block to be run again is in the
@@ -137,8 +158,10 @@ bool runLanes(Result *result, mint count, X... operands) {
 template <class Form, class Op, class T, class Result, class... X>
 mint runBlocks(Result *result, mint count, bool inPlace, X... operands) {
   using Lanes = LanesOf<Op, Form, T>;
-  for (mint start = 0; start < count; start += kLaneBlock) {
-    const mint size = count - start < kLaneBlock ? count - start : kLaneBlock;
+  mint size = elementsBeforeLine(result, count);
+  if (size == 0) size = kLaneBlock;
+  for (mint start = 0; start < count; start += size, size = kLaneBlock) {
+    if (count - start < size) size = count - start;
     const bool isSuspect = inPlace ? runLanes<false, Lanes, T>(result + start, size, operands.from(start)...)
                                    : runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
     if (isSuspect) [[unlikely]] {
@@ -158,7 +181,9 @@ mint runDense(Result *result, mint count, X... operands) {
     const bool inPlace = ((sharingOf(result, count, operands) == Sharing::same) || ...);
     if (!overlaps) return runBlocks<Form, Op, T>(result, count, inPlace, operands...);
   }
-  return runLoop<Form, Op, T>(result, 1, count, operands...);
+  return fromLine(elementsBeforeLine(result, count), count, [&](mint start, mint length) {
+    return runLoop<Form, Op, T>(result + start, 1, length, operands.from(start)...);
+  });
 }
 
 // ---- shapes ----------------------------------------------------------------------------------------
