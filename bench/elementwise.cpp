@@ -123,6 +123,10 @@ void realRows(Data &d) {
     if (isWanted(op.name))
       compare(op.name, d.count, binary(op.routine, d.result.data(), d.x.data(), d.y.data(), d.count, 0),
               peersOf(op.name, d), double(d.count));
+  if (isWanted("checked real plus")) // beside peers that test nothing
+    compare("checked real plus", d.count,
+            binary(machfunc_dd_plus, d.result.data(), d.x.data(), d.y.data(), d.count, TORVANE_CHECK_REALS),
+            peersOf("plus", d), double(d.count));
   struct Unary {
     const char *name;
     mint number;
@@ -137,7 +141,8 @@ void realRows(Data &d) {
 }
 
 void integerRows(Data &d) {
-  const std::pair<const char *, mint> roundings[] = {{"round", 49}, {"floor", 50}, {"ceiling", 51}};
+  const std::pair<const char *, mint> roundings[] = {
+      {"round", 49}, {"floor", 50}, {"ceiling", 51}, {"sign", 44}};
   for (const auto &[name, number] : roundings)
     if (isWanted(name))
       compare(name, d.count, unary(machfunsarray_1[3 * number + 1], d.words.data(), d.x.data(), d.count),

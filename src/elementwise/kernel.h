@@ -15,11 +15,10 @@
 #pragma once
 
 #include "../scalar/evaluate.h"
+#include "exceptions.h"
 #include "lanes.h"
 #include "loops.h"
 #include <torvane/operators.h>
-
-#include <fenv.h>
 
 namespace torvane {
 
@@ -102,13 +101,21 @@ inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t ste
   return 0;
 }
 
-// Elements before the first that begins a cache line: a wide store that crosses two lines costs as much as two.
-// None where the run is too short to gain, or where no element ever begins a line.
+// Elements before the first that begins a cache line: a wide access that crosses two lines costs as much as
+// two. Of the result, or of the first operand where its elements are wider and its lines so more. None where
+// the run is too short to gain, or where no element ever begins a line.
 inline constexpr mint kLineBytes = 64, kWorthAligning = 128;
-template <class Result> mint elementsBeforeLine(const Result *result, mint count) {
-  const uintptr_t past = reinterpret_cast<uintptr_t>(result) % kLineBytes;
-  if (count < kWorthAligning || past == 0 || past % sizeof(Result) != 0) return 0;
-  return static_cast<mint>((kLineBytes - past) / sizeof(Result));
+template <class T> mint elementsBeforeLine(const T *data, mint count) {
+  const uintptr_t past = reinterpret_cast<uintptr_t>(data) % kLineBytes;
+  if (count < kWorthAligning || past == 0 || past % sizeof(T) != 0) return 0;
+  return static_cast<mint>((kLineBytes - past) / sizeof(T));
+}
+template <class Result, class First, class... Rest>
+mint elementsBeforeLine(const Result *result, mint count, const First &first, const Rest &...) {
+  if constexpr (requires { requires sizeof(*first.data) > sizeof(Result); })
+    return elementsBeforeLine(first.data, count);
+  else
+    return elementsBeforeLine(result, count);
 }
 
 // Runs `run(start, length)` up to the first line and then from there on; the position of the first failure.
@@ -158,7 +165,7 @@ bool runLanes(Result *result, mint count, X... operands) {
 template <class Form, class Op, class T, class Result, class... X>
 mint runBlocks(Result *result, mint count, bool inPlace, X... operands) {
   using Lanes = LanesOf<Op, Form, T>;
-  mint size = elementsBeforeLine(result, count);
+  mint size = elementsBeforeLine(result, count, operands...);
   if (size == 0) size = kLaneBlock;
   for (mint start = 0; start < count; start += size, size = kLaneBlock) {
     if (count - start < size) size = count - start;
@@ -181,7 +188,7 @@ mint runDense(Result *result, mint count, X... operands) {
     const bool inPlace = ((sharingOf(result, count, operands) == Sharing::same) || ...);
     if (!overlaps) return runBlocks<Form, Op, T>(result, count, inPlace, operands...);
   }
-  return fromLine(elementsBeforeLine(result, count), count, [&](mint start, mint length) {
+  return fromLine(elementsBeforeLine(result, count, operands...), count, [&](mint start, mint length) {
     return runLoop<Form, Op, T>(result + start, 1, length, operands.from(start)...);
   });
 }
@@ -223,9 +230,6 @@ mint runShape(Result *result, mint count, const mint *strides, const A *a, const
                               Strided<Y>{y, strides[3]});
 }
 
-// Underflow and inexact never fail an element.
-inline constexpr int kFailingExceptions = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
-
 template <class Op, class... T> constexpr bool isTestedBy(mint flags) {
   constexpr bool ofIntegers = isInteger<CellTypeOf<Op, T...>>;
   return (flags & (ofIntegers ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS)) != 0 &&
@@ -243,10 +247,10 @@ mint runRoutine(void *result, mint count, const mint *strides, mint flags, const
   if (!isTestedBy<Op, T...>(flags)) return runShape<Plain, Op, T1>(target, count, strides, first, rest...);
   if (isInteger<CellTypeOf<Op, T...>> || result == static_cast<const void *>(first))
     return runShape<Checked, Op, T1>(target, count, strides, first, rest...);
-  feclearexcept(kFailingExceptions);
+  clearFailingExceptions();
   const mint position = runShape<Plain, Op, T1>(target, count, strides, first, rest...);
   if (position != 0) return position;
-  return fetestexcept(kFailingExceptions) != 0 ? 1 : 0;
+  return hasFailingExceptions() ? 1 : 0;
 }
 
 template <class Op, class X>

@@ -61,96 +61,75 @@ struct WideIntegerLanes { // for what 64 bits hold exactly
   }
 };
 
-#define TORVANE_LANES(base, op, form, T) template <> struct LanesOf<op, form, T> : base
-
-TORVANE_LANES(IntegerLanes, binary::plus, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x, mint y){return sum(suspicion, x, y);
-} // namespace torvane
-}
-;
-TORVANE_LANES(IntegerLanes, binary::subtract, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x, mint y){return difference(suspicion, x, y);
-}
-}
-;
-TORVANE_LANES(WideIntegerLanes, binary::times, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint x,
-                                               mint y){return fitted(suspicion, int64_t{x} * y);
-}
-}
-;
-TORVANE_LANES(WideIntegerLanes, unary::square, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x){return fitted(suspicion, int64_t{x} * x);
-}
-}
-;
-TORVANE_LANES(WideIntegerLanes, unary::abssquare, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x){return fitted(suspicion, int64_t{x} * x);
-}
-}
-;
-TORVANE_LANES(IntegerLanes, unary::minus, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint x){
+template <> struct LanesOf<binary::plus, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) { return sum(suspicion, x, y); }
+};
+template <> struct LanesOf<binary::subtract, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) { return difference(suspicion, x, y); }
+};
+template <> struct LanesOf<binary::times, Checked, mint> : WideIntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) {
+    return fitted(suspicion, int64_t{x} * y);
+  }
+};
+template <> struct LanesOf<unary::square, Checked, mint> : WideIntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x) { return fitted(suspicion, int64_t{x} * x); }
+};
+template <> struct LanesOf<unary::abssquare, Checked, mint> : WideIntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x) { return fitted(suspicion, int64_t{x} * x); }
+};
+template <> struct LanesOf<unary::minus, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x) {
     return unlessReserved(suspicion, wrapped(0 - bitsOf(x)));
-}
-}
-;
-TORVANE_LANES(IntegerLanes, unary::abs, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x){return unlessReserved(suspicion, magnitude(x));
-}
-}
-;
-TORVANE_LANES(IntegerLanes, unary::bit_not, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x){return unlessReserved(suspicion, ~x);
-}
-}
-;
-TORVANE_LANES(IntegerLanes, binary::bit_and, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x, mint y){return unlessReserved(suspicion, x &y);
-}
-}
-;
-TORVANE_LANES(IntegerLanes, binary::bit_or, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x, mint y){return unlessReserved(suspicion, x | y);
-}
-}
-;
-TORVANE_LANES(IntegerLanes, binary::bit_xor, Checked, mint){
-    static constexpr mint lane(Suspicion & suspicion, mint x, mint y){return unlessReserved(suspicion, x ^ y);
-}
-}
-;
-TORVANE_LANES(IntegerLanes, binary::abserr, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint x,
-                                               mint y){return magnitude(difference(suspicion, x, y));
-}
-}
-;
-TORVANE_LANES(IntegerLanes, binary::maxabs, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint x, mint y){
+  }
+};
+template <> struct LanesOf<unary::abs, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x) { return unlessReserved(suspicion, magnitude(x)); }
+};
+template <> struct LanesOf<unary::bit_not, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x) { return unlessReserved(suspicion, ~x); }
+};
+template <> struct LanesOf<binary::bit_and, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) {
+    return unlessReserved(suspicion, x & y);
+  }
+};
+template <> struct LanesOf<binary::bit_or, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) {
+    return unlessReserved(suspicion, x | y);
+  }
+};
+template <> struct LanesOf<binary::bit_xor, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) {
+    return unlessReserved(suspicion, x ^ y);
+  }
+};
+template <> struct LanesOf<binary::abserr, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) {
+    return magnitude(difference(suspicion, x, y));
+  }
+};
+template <> struct LanesOf<binary::maxabs, Checked, mint> : IntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint x, mint y) {
     const mint a = magnitude(unlessReserved(suspicion, x)), b = magnitude(unlessReserved(suspicion, y));
-return a < b ? b : a;
-}
-}
-;
-TORVANE_LANES(WideIntegerLanes, ternary::axpy, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint a, mint x,
-                                               mint y){return fitted(suspicion, int64_t{a} * x + y);
-}
-}
-;
-TORVANE_LANES(WideIntegerLanes, ternary::axmy, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint a, mint x,
-                                               mint y){return fitted(suspicion, int64_t{a} * x - y);
-}
-}
-;
-TORVANE_LANES(WideIntegerLanes, ternary::ymax, Checked,
-              mint){static constexpr mint lane(Suspicion & suspicion, mint a, mint x,
-                                               mint y){return fitted(suspicion, y - int64_t{a} * x);
-}
-}
-;
+    return a < b ? b : a;
+  }
+};
+template <> struct LanesOf<ternary::axpy, Checked, mint> : WideIntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint a, mint x, mint y) {
+    return fitted(suspicion, int64_t{a} * x + y);
+  }
+};
+template <> struct LanesOf<ternary::axmy, Checked, mint> : WideIntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint a, mint x, mint y) {
+    return fitted(suspicion, int64_t{a} * x - y);
+  }
+};
+template <> struct LanesOf<ternary::ymax, Checked, mint> : WideIntegerLanes {
+  static constexpr mint lane(Suspicion &suspicion, mint a, mint x, mint y) {
+    return fitted(suspicion, y - int64_t{a} * x);
+  }
+};
 
 // ---- reals: what both forms refuse ------------------------------------------------------------------
 
@@ -158,85 +137,80 @@ struct RealLanes {
   using Suspicion = Mask;
 };
 
-// The processor converts what does not fit, and a NaN, to the reserved value. Next to the ends of the range
-// the body decides.
+// Reals to words without the processor's conversion, which levels have at different widths and C++ only where
+// the value fits. A sum with 3 * 2^51 is rounded to an integer, by the rounding in force, and holds it in the
+// low bits of its pattern: T. J. Dekker's device for the double format. What is not well inside the range of
+// a word, a NaN among it, is left to the body.
 struct WordLanes {
-  struct Suspicion {
-    mint lowest = 0, highest = 0;
-    constexpr bool any() const { return lowest <= -kMaximumWord || highest == kMaximumWord; }
-  };
-  static constexpr mint kMaximumWord = 0x7FFFFFFF;
+  using Suspicion = Mask;
+  static constexpr mreal kRounder = 6755399441055744.0, kSafe = 2147483645.0;
 
-  static constexpr mint guarded(Suspicion &suspicion, mint x) {
-    suspicion.lowest = x < suspicion.lowest ? x : suspicion.lowest;
-    suspicion.highest = x > suspicion.highest ? x : suspicion.highest;
-    return x;
+  static constexpr int64_t patternOf(mreal x) { return __builtin_bit_cast(int64_t, x); }
+
+  // As a comparison of the patterns of magnitudes, which orders NaN last and accrues nothing.
+  static constexpr void guard(Suspicion &suspicion, mreal x) {
+    suspicion.signs |= patternOf(kSafe) - patternOf(__builtin_fabs(x));
   }
-  // From the nearest integer, which every level but the lowest finds in one instruction that leaves the
-  // exceptions alone; the floor itself is a call for a compiler that minds them. What does not fit comes out
-  // as one of the ends. The sign of a zero does not show in an integer.
+  static constexpr mint lowWord(int64_t pattern) { return wrapped(static_cast<uint32_t>(pattern)); }
+
+  // From the nearest integer. The sign of a zero does not show in a word.
   static mint floorOf(Suspicion &suspicion, mreal x) {
-    const mreal nearest = __builtin_rint(x);
-    return guarded(suspicion, wrapped(bitsOf(static_cast<mint>(nearest)) - (nearest > x)));
+    guard(suspicion, x);
+    const mreal sum = x + kRounder;
+    return lowWord(patternOf(sum) - (sum - kRounder > x));
   }
 };
 
-TORVANE_LANES(WordLanes, unary::round, Plain, mreal){static mint lane(Suspicion & suspicion, mreal x){
-    return guarded(suspicion, static_cast<mint>(__builtin_rint(x)));
-}
-}
-;
-TORVANE_LANES(WordLanes, unary::floor, Plain,
-              mreal){static mint lane(Suspicion & suspicion, mreal x){return floorOf(suspicion, x);
-}
-}
-;
-TORVANE_LANES(WordLanes, unary::ceiling, Plain, mreal){
-    static mint lane(Suspicion & suspicion, mreal x){return wrapped(0 - bitsOf(floorOf(suspicion, -x)));
-}
-}
-;
-TORVANE_LANES(WordLanes, unary::intpart, Plain, mreal){
-    static mint lane(Suspicion & suspicion, mreal x){return guarded(suspicion, static_cast<mint>(x));
-}
-}
-;
-TORVANE_LANES(WordLanes, binary::quotient, Plain, mreal){
-    static mint lane(Suspicion & suspicion, mreal x, mreal y){return floorOf(suspicion, x / y);
-}
-}
-;
-TORVANE_LANES(RealLanes, unary::sqrt, Plain,
-              mreal){static mreal lane(Suspicion & suspicion, mreal x){suspicion.add(x < 0);
-return __builtin_sqrt(x);
-}
-}
-;
-TORVANE_LANES(RealLanes, unary::rsqrt, Plain,
-              mreal){static mreal lane(Suspicion & suspicion, mreal x){suspicion.add(x < 0);
-return 1 / __builtin_sqrt(x);
-}
-}
-;
-TORVANE_LANES(RealLanes, unary::arg, Plain,
-              mreal){static mreal lane(Suspicion & suspicion, mreal x){suspicion.add(x < 0);
-return 0;
-}
-}
-;
-TORVANE_LANES(RealLanes, binary::chop, Plain, mreal){
-    static mreal lane(Suspicion & suspicion, mreal x, mreal tolerance){suspicion.add(tolerance < 0);
-return tolerance > __builtin_fabs(x) ? 0 : x;
-}
-}
-;
-TORVANE_LANES(RealLanes, binary::unitize, Plain, mreal){
-    static mint lane(Suspicion & suspicion, mreal x, mreal tolerance){suspicion.add(tolerance < 0);
-return __builtin_fabs(x) >= tolerance;
-}
-}
-;
-
-#undef TORVANE_LANES
+template <> struct LanesOf<unary::round, Plain, mreal> : WordLanes {
+  static mint lane(Suspicion &suspicion, mreal x) {
+    guard(suspicion, x);
+    return lowWord(patternOf(x + kRounder));
+  }
+};
+template <> struct LanesOf<unary::floor, Plain, mreal> : WordLanes {
+  static mint lane(Suspicion &suspicion, mreal x) { return floorOf(suspicion, x); }
+};
+template <> struct LanesOf<unary::ceiling, Plain, mreal> : WordLanes {
+  static mint lane(Suspicion &suspicion, mreal x) { return wrapped(0 - bitsOf(floorOf(suspicion, -x))); }
+};
+template <> struct LanesOf<unary::intpart, Plain, mreal> : WordLanes {
+  static mint lane(Suspicion &suspicion, mreal x) {
+    const mint whole = floorOf(suspicion, __builtin_fabs(x));
+    return x < 0 ? wrapped(0 - bitsOf(whole)) : whole;
+  }
+};
+template <> struct LanesOf<binary::quotient, Plain, mreal> : WordLanes {
+  static mint lane(Suspicion &suspicion, mreal x, mreal y) { return floorOf(suspicion, x / y); }
+};
+template <> struct LanesOf<unary::sqrt, Plain, mreal> : RealLanes {
+  static mreal lane(Suspicion &suspicion, mreal x) {
+    suspicion.add(x < 0);
+    return __builtin_sqrt(x);
+  }
+};
+template <> struct LanesOf<unary::rsqrt, Plain, mreal> : RealLanes {
+  static mreal lane(Suspicion &suspicion, mreal x) {
+    suspicion.add(x < 0);
+    return 1 / __builtin_sqrt(x);
+  }
+};
+template <> struct LanesOf<unary::arg, Plain, mreal> : RealLanes {
+  static mreal lane(Suspicion &suspicion, mreal x) {
+    suspicion.add(x < 0);
+    return 0;
+  }
+};
+template <> struct LanesOf<binary::chop, Plain, mreal> : RealLanes {
+  static mreal lane(Suspicion &suspicion, mreal x, mreal tolerance) {
+    suspicion.add(tolerance < 0);
+    return tolerance > __builtin_fabs(x) ? 0 : x;
+  }
+};
+template <> struct LanesOf<binary::unitize, Plain, mreal> : RealLanes {
+  static mint lane(Suspicion &suspicion, mreal x, mreal tolerance) {
+    suspicion.add(tolerance < 0);
+    return __builtin_fabs(x) >= tolerance;
+  }
+};
 
 } // namespace torvane
