@@ -1,26 +1,10 @@
 #include "drivers.h"
 
 #include "../parallel/first_failure.h"
-#include "../parallel/parallel.h"
-
-#include <algorithm>
 
 namespace torvane {
 
 namespace {
-
-// The bytes that `count` elements at a stride touch; a negative stride walks down from `first`.
-struct ByteRange {
-  uintptr_t from, to;
-
-  ByteRange(const void *first, ptrdiff_t stride, ptrdiff_t bytes, mint count) {
-    const auto address = reinterpret_cast<uintptr_t>(first);
-    const uintptr_t last = address + static_cast<uintptr_t>(stride * bytes * (ptrdiff_t{count} - 1));
-    from = std::min(address, last);
-    to = std::max(address, last) + static_cast<uintptr_t>(bytes);
-  }
-  bool meets(const ByteRange &other) const { return from < other.to && other.from < to; }
-};
 
 template <int arity> struct Call {
   const torvane_loops::Loop<arity> &loop;
@@ -70,13 +54,9 @@ template <int arity> struct LongRun {
   }
 };
 
-// Pieces of one length where there are more of them than workers, else one piece a worker.
 template <int arity> mint runInPieces(const Call<arity> &call, mint count) {
   LongRun<arity> run = {call};
-  constexpr ParallelPartition pieces = {kOfSize, 1, 0};
-  const bool byLength = (count - 1) / kPieceLength + 1 > workerCount();
-  parallelLoop(&run, nullptr, LongRun<arity>::runPiece, 0, count, byLength ? kPieceLength : 1,
-               byLength ? &pieces : nullptr);
+  runElementPieces(&run, LongRun<arity>::runPiece, count);
   return run.failure.outcome();
 }
 

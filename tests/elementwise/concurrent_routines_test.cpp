@@ -46,10 +46,10 @@ protected:
 std::vector<mint> pieceStarts(mint count) {
   const mint workers = workerCount();
   const ParallelPartition ofLength = {kOfSize, 1, 0};
-  const bool byLength = (count - 1) / kPieceLength + 1 > workers;
+  const bool byLength = (count - 1) / kElementsAPiece + 1 > workers;
   PieceCutter cutter;
-  EXPECT_TRUE(cutByPartition(&cutter, {0, count}, byLength ? kPieceLength : 1, byLength ? &ofLength : nullptr,
-                             workers));
+  EXPECT_TRUE(cutByPartition(&cutter, {0, count}, byLength ? kElementsAPiece : 1,
+                             byLength ? &ofLength : nullptr, workers));
   std::vector<mint> starts;
   while (!cutter.isEmpty()) starts.push_back(cutter.cut().first);
   return starts;
@@ -122,7 +122,7 @@ TEST_F(ConcurrentRoutines, OfManyPiecesAreSerialOnesOfEveryTableEntry) {
   const std::vector<Routine> routines = allRoutines();
   for (size_t k = 0; k < routines.size(); k += 7) // each costs a hundred thousand elements and more
     if (!mixesIntegers(routines[k]))
-      ASSERT_NO_FATAL_FAILURE(checkFailures(routines[k], 6, 4 * kPieceLength + 77, random));
+      ASSERT_NO_FATAL_FAILURE(checkFailures(routines[k], 6, 4 * kElementsAPiece + 77, random));
 }
 
 TEST_F(ConcurrentRoutines, WalkEveryStride) {
@@ -149,7 +149,7 @@ TEST_F(ConcurrentRoutines, WalkEveryStride) {
 // Whichever piece ends first, the smallest position is told and all before it is written.
 TEST_F(ConcurrentRoutines, TellTheSmallestOfManyFailures) {
   setWorkerCount(4);
-  constexpr mint kCount = 9 * kPieceLength;
+  constexpr mint kCount = 9 * kElementsAPiece;
   std::vector<mreal> x(kCount, 4), result(kCount);
   for (mint round = 0; round < 40; ++round) {
     const mint first = (round * 3701) % kCount;
@@ -174,7 +174,7 @@ TEST_F(SerialThread, MakesNoPoolBelowTheThresholdOfItsArity) {
   std::vector<mreal> x(kDefaultParallelLength, 2), result(x.size());
   EXPECT_EQ(squareOf(result, x, kDefaultParallelLength - 1), 0);
   EXPECT_FALSE(poolExists());
-  setVectorParallelLengthThreshold(kBinaryThreshold, 5);
+  setVectorParallelLengthThreshold(kBinary, 5);
   EXPECT_EQ(squareOf(result, x, 100), 0);
   EXPECT_FALSE(poolExists());
   EXPECT_EQ(machfunc_dd_plus(result.data(), x.data(), x.data(), 4, kDense, 0), 0);
