@@ -1,5 +1,6 @@
-# The generator writes what follows from the operator table and the export list. Its output is committed;
-# `cmake --build <dir> --target generate` rewrites it and the test `generated_current` holds it.
+# The generator writes what follows from the operator table, the export list and the table of named functions.
+# Its output is committed; `cmake --build <dir> --target generate` rewrites it and the test `generated_current`
+# holds it.
 file(GLOB generator_sources CONFIGURE_DEPENDS tools/generate/*.cpp)
 add_executable(torvane_generate EXCLUDE_FROM_ALL ${generator_sources})
 target_include_directories(torvane_generate PRIVATE include src)

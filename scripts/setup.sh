@@ -2,6 +2,7 @@
 build_packages=(cmake ninja-build g++ libtbb-dev libopenblas-dev)
 check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev libmpc-dev pkg-config)
 packages_32=(g++-multilib)
+blas_packages_32=(libblas3:i386 libblas-dev:i386)
 
 say() { printf '[%02d:%02d] %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*" >&2; }
 
@@ -33,6 +34,39 @@ need_packages() {
     echo "    sudo apt-get install -y --no-install-recommends ${missing[*]}" >&2
     return 1
   fi
+}
+
+# Whether the system has a BLAS for the 32-bit target: it may know that architecture, and then has its own way.
+has_blas_32() {
+  echo 'extern "C" double cblas_dnrm2(...); int main() { return cblas_dnrm2(0, nullptr, 1) != 0; }' |
+    g++ -m32 -x c++ - -o /dev/null -lblas 2>/dev/null
+}
+
+# apt with lists of its own, those of the 32-bit architecture, under DIR; signatures are checked by the system's keys.
+apt_32() {
+  local dir=$1
+  shift
+  timeout 300 apt-get -q -o APT::Architecture=i386 -o APT::Sandbox::User=root -o Acquire::http::Timeout=20 \
+    -o Dir::State::lists="$dir/lists" -o Dir::Cache="$dir/cache" -o Dir::State::status=/dev/null "$@" </dev/null
+}
+
+# unpack_blas_32 PREFIX: puts the 32-bit BLAS under PREFIX, in lib and include, once. To install it would teach the system a second
+# architecture, whose lists every later update would depend on; unpacked, it needs nobody's leave and changes
+# nothing. Fails without apt, the network or the packages. Whether the lists are complete is not asked: the
+# packages' being there is what counts.
+unpack_blas_32() {
+  local prefix=$1 work package
+  [ ! -e "$prefix" ] || return 0
+  work=$(mktemp -d) && mkdir -p "$work/lists/partial" "$work/cache/archives/partial" || return 1
+  apt_32 "$work" update || true
+  (cd "$work" && apt_32 "$work" download "${blas_packages_32[@]}" &&
+    for package in ./*.deb; do dpkg -x "$package" all || exit 1; done &&
+    mkdir -p new/lib new/include && cp -d all/usr/lib/i386-linux-gnu/blas/libblas.so* new/lib &&
+    cp all/usr/include/i386-linux-gnu/cblas* new/include && mv new/include/cblas-netlib.h new/include/cblas.h) &&
+    mkdir -p "${prefix%/*}" && mv "$work/new" "$prefix"
+  local status=$?
+  rm -rf "$work"
+  return $status
 }
 
 # logged LOG COMMAND...: runs the command into the log; when it fails, shows the log's end and where it is.

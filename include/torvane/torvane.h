@@ -7,6 +7,7 @@
 #include "failure.h"
 #include "startup.h"
 #include "tensor.h"
+#include "lists.h"
 #include "operators.h"
 #include "elementwise.h"
 #include "tolerance.h"
@@ -14,6 +15,7 @@
 #include "integers.h"
 #include "text.h"
 #include "parallel.h"
+#include "registry.h"
 #include "machfuncs.h"
 #include "vectors.h"
 

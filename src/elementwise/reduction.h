@@ -266,8 +266,9 @@ struct fpexception {
 
 private:
   static void takeParts(Finiteness<mreal> &state, const Run<ComplexReal64> &run) {
-    foldDense(state, &run.data->re, run.count);
-    foldDense(state, &run.data->re + run.count, run.count);
+    const auto *parts = reinterpret_cast<const mreal *>(run.data); // of no elements there may be no data
+    foldDense(state, parts, run.count);
+    foldDense(state, parts + run.count, run.count);
   }
 };
 

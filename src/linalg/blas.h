@@ -2,8 +2,8 @@
 //
 // Which BLAS it is decides how a sum is cut, and so its last bits: with n elements, a sum of magnitudes is
 // within n ulp, a Euclidean norm within n / 2 + 3 ulp, and neither overflows or underflows on the way. A
-// build without BLAS has loops of its own here, with the same bounds. The number of threads that a BLAS runs
-// on is the host's setting and is left alone.
+// build without BLAS takes the loops of plain_norms.h, with the same bounds. The number of threads that a
+// BLAS runs on is the host's setting and is left alone.
 #pragma once
 
 #include "../runtime/types.h"

@@ -4,6 +4,9 @@
 //
 // Grades: one for the aligned areas of slabs with bare cells, and then eight for each doubling from 9 KiB
 // to 1 MiB, which are exactly the area sizes of the classes with cell headers. Larger areas are not kept.
+//
+// What a heap keeps when its thread ends goes into one store of the process, bounded likewise, and serves the
+// threads that come: a program whose threads come and go does not touch fresh pages with each of them.
 #pragma once
 
 #include "heap_size_class.h"
@@ -64,8 +67,11 @@ inline void giveArea(AreaCache &cache, void *area, uint32_t grade);
 void *takeNewArea(uint32_t bytes, uint32_t grade);
 void giveAreaWithoutRoom(AreaCache &cache, void *area, uint32_t grade);
 
-// Gives all kept areas back and keeps none from now on.
+// Leaves all kept areas to the process's store and keeps none from now on.
 void closeAreaCache(AreaCache &cache);
+
+// Gives back what ended threads have left.
+void emptyAreaStore();
 
 inline void *takeKept(AreaCache &cache, uint32_t grade) {
   KeptArea *area = cache.lists[grade];

@@ -1,5 +1,6 @@
 #include "heap_state.h"
 
+#include "heap_area.h"
 #include "heap_thread.h"
 #include "memory.h"
 #include "startup.h"
@@ -95,6 +96,7 @@ void tearDownMemory() {
   AllocatorState *state = currentState();
   if (state == nullptr) return;
   while (state->threads != nullptr) dropHeap(state->threads);
+  emptyAreaStore();
   destroyState(state);
   allocatorState.store(nullptr, std::memory_order_release);
   forgetHeap();

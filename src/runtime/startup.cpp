@@ -29,7 +29,7 @@ void tearDownMemoryModule() {
 const StartupModule kStartupModules[kStartupModuleCount] = {
     {"memory", initializeMemory, tearDownMemoryModule},
     {"hash and numeric constants", initializeHashConstants, nullptr},
-    {"function registry", nullptr, nullptr},
+    {"function registry", initializeRuntimeFunctionTable, tearDownRuntimeFunctionTable},
     {"numeric array conversion tables", initializeElementTypeNames, tearDownElementTypeNames},
     {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
     {"sparse arrays", nullptr, nullptr},

@@ -11,6 +11,7 @@ namespace torvane {
 // reserved, 4 makes what needs all modules. A restart runs them again: what lives must survive it.
 void initializeMemory(mint stage);
 void initializeHashConstants(mint stage);
+void initializeRuntimeFunctionTable(mint stage);
 void initializeElementTypeNames(mint stage);
 void initializeRankZeroTensors(mint stage);
 void initializeThresholds(mint stage);
@@ -19,6 +20,7 @@ void initializeAbortPoll(mint stage);
 
 // Release what the modules hold outside the allocator, or would find again after it is gone.
 void tearDownThreadHookLists();
+void tearDownRuntimeFunctionTable();
 void tearDownElementTypeNames();
 void tearDownRankZeroTensors();
 void tearDownEternalTensor();

@@ -30,6 +30,7 @@ enum Status : mint {
   kNoMemory = 5,
   kNoSuchService = 6,
   kWrongArguments = 12,
+  kNotInThisForm = 14,
   kNegativeRank = 401,
   kNegativeExtent = 402,
   kSizeFailed = 403,

@@ -4,6 +4,7 @@
 #include "support/kinds.h"
 
 #include <gtest/gtest.h>
+#include <numeric>
 #include <torvane/elementwise.h>
 #include <torvane/machfuncs.h>
 #include <torvane/operators.h>
@@ -215,6 +216,42 @@ TEST_F(ConcurrentMoves, InPiecesStoreWhatOneLoopStores) {
       ASSERT_EQ(zeroed, cleared) << count;
       ASSERT_EQ(mixed, both) << count;
     }
+}
+
+// In one loop, since a piece would read what another has written.
+TEST_F(ConcurrentMoves, OntoAnOperandMakeNoPool) {
+  constexpr mint kCount = 60000;
+  std::vector<mint> compacted(2 * kCount);
+  std::iota(compacted.begin(), compacted.end(), 0);
+  const mint everySecond[2] = {1, 2};
+  EXPECT_EQ(machfunc_i_copy(compacted.data(), compacted.data(), kCount, everySecond, 0), 0);
+  EXPECT_FALSE(poolExists());
+  for (mint k = 0; k < kCount; ++k) ASSERT_EQ(compacted[size_t(k)], 2 * k);
+  const mint dense[3] = {1, 1, 1};
+  std::vector<uint8_t> x(kCount, 5), y(kCount, 3);
+  EXPECT_EQ(machfunc_bb_bitxor(x.data(), x.data(), y.data(), kCount, dense, 0), 0);
+  EXPECT_EQ(machfunc_bb_bitxor(y.data(), x.data(), y.data(), kCount, dense, 0), 0);
+  EXPECT_FALSE(poolExists());
+  EXPECT_EQ(x, std::vector<uint8_t>(kCount, 6));
+  EXPECT_EQ(y, std::vector<uint8_t>(kCount, 5));
+}
+
+// A compensated sum is one of the routines of two operands: its bulk test tells the piece.
+TEST_F(ConcurrentMoves, CompensatedPlusInPiecesStoresWhatOneLoopStores) {
+  std::mt19937_64 random(46);
+  const mint dense[3] = {1, 1, 1};
+  for (const mint count : kLongCounts) {
+    std::vector<mreal> x(static_cast<size_t>(count)), y(x.size()), pieces(x.size()), whole(x.size());
+    for (size_t k = 0; k < x.size(); ++k) {
+      x[k] = std::ldexp(mreal(int64_t(random())), int(random() % 80) - 40);
+      y[k] = std::ldexp(mreal(int64_t(random())), int(random() % 80) - 40);
+    }
+    ASSERT_EQ(machfunc_ddd_compplus(pieces.data(), x.data(), y.data(), count, dense, 2), 0);
+    const mint before = setParallelDisabled(1);
+    ASSERT_EQ(machfunc_ddd_compplus(whole.data(), x.data(), y.data(), count, dense, 2), 0);
+    setParallelDisabled(before);
+    ASSERT_EQ(pieces, whole);
+  }
 }
 
 } // namespace

@@ -223,6 +223,37 @@ TEST_F(ConcurrentReductions, AreSerialWhereTheyAreForbiddenToBeParallel) {
   EXPECT_TRUE(sameReal<double>(total(), serial));
 }
 
+// Runs at the default threshold of one entry, all other entries allowing anything or nothing.
+template <class Run> void expectParallelFrom32768(mint entry, Run runOver) {
+  for (const mint others : {1, INT32_MAX})
+    for (const mint count : {32767, 32768}) {
+      tearDownPool();
+      for (mint index = 0; index < 5; ++index)
+        setVectorParallelLengthThreshold(index, index == entry ? 32768 : others);
+      runOver(count);
+      EXPECT_EQ(poolExists(), count == 32768) << "entry " << entry << ", others " << others;
+    }
+}
+
+TEST_F(ConcurrentReductions, MakeAPoolFromTheThresholdOfTheirOwnEntryOn) {
+  const std::vector<mint> words(32768, 1);
+  std::vector<mint> copies(32768);
+  const std::vector<mcomplex> complexes(32768, mcomplex{1, 2});
+  const std::vector<uint8_t> bytes(32768, 1);
+  std::vector<uint8_t> mixed(32768);
+  mint word;
+  mcomplex complex;
+  expectParallelFrom32768(0, [&](mint n) { machfunc_i_total(&word, words.data(), n, kDense, 0); });
+  expectParallelFrom32768(0, [&](mint n) { machfunc_c_total(&complex, complexes.data(), n, kDense, 2); });
+  expectParallelFrom32768(0, [&](mint n) { machfunc_c_fpexception(&word, complexes.data(), n, kDense, 2); });
+  expectParallelFrom32768(2,
+                          [&](mint n) { machfunc_ii_dot(&word, words.data(), words.data(), n, kDense, 4); });
+  expectParallelFrom32768(1, [&](mint n) { machfunc_i_copy(copies.data(), words.data(), n, kDense, 0); });
+  expectParallelFrom32768(1, [&](mint n) { machfunc_i_zero(copies.data(), nullptr, n, kDense, 0); });
+  expectParallelFrom32768(
+      3, [&](mint n) { machfunc_bb_bitxor(mixed.data(), bytes.data(), bytes.data(), n, kDense, 0); });
+}
+
 // Memory is short on a thread whose heap has nothing yet; the pool has been made before.
 TEST_F(ConcurrentReductions, WithoutMemoryForTheAccumulatorsRunInOnePiece) {
   const std::vector<mreal> data = roundingReals(1000);

@@ -469,6 +469,18 @@ TEST(IntegerDot, ACheckedOneAsksWhetherTheWholeFits) {
   EXPECT_EQ(dotOf({1, INT32_MIN, 1}, {1, INT32_MIN, 1}, 4).status, 2);
 }
 
+// A product of 2 to the 32 or 33 wraps to nothing: it may not be taken for a small one.
+TEST(IntegerDot, ACheckedOneIsNotDeceivedByProductsThatWrap) {
+  for (const mint sign : {1, -1})
+    for (int bits = 31; bits <= 34; ++bits)
+      for (int bit = bits - 30; bit <= 30; ++bit) {
+        const mint x = 1 << bit, y = sign * (1 << (bits - bit));
+        EXPECT_EQ(dotOf({x}, {y}, 4).status, 1) << x << " times " << y;
+        EXPECT_EQ(dotOf({1, x, 1}, {1, y, 1}, 4).status, sign == -1 && bits == 31 ? 0 : 2)
+            << x << " times " << y;
+      }
+}
+
 TEST(IntegerDot, AgreesWithExactSumsAtEveryLengthAndMagnitude) {
   std::mt19937_64 random(6);
   for (int round = 0; round < 3000; ++round) {

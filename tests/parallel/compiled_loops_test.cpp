@@ -1,4 +1,6 @@
 // The exported loops over a compiled function.
+#include "parallel/parallel.h"
+#include "runtime/memory.h"
 #include "runtime/platform_thread.h"
 #include <torvane/exception.hpp>
 #include <torvane/failure.h>
@@ -189,6 +191,35 @@ TEST_F(ConcurrentMap, OtherExceptionsPassThrough) {
     fill(count);
     EXPECT_THROW(map(throwOther), std::runtime_error);
   }
+}
+
+TEST_F(ConcurrentMap, GivesBackItsMemoryHoweverItEnds) {
+  torvane::free(allocate(8, 0, kFatal));
+  fill(5000);
+  const uint32_t before = usedBytesOfThisThread();
+  map(function);
+  EXPECT_EQ(usedBytesOfThisThread(), before);
+  raising = {4500};
+  map(raiseAt);
+  EXPECT_EQ(usedBytesOfThisThread(), before);
+  EXPECT_THROW(map(throwOther), std::runtime_error);
+  EXPECT_EQ(usedBytesOfThisThread(), before);
+}
+
+// The map's tasks are not the pool's: inside one of the pool's loops it runs as it does elsewhere.
+TEST_F(ConcurrentMap, RunsInsideALoopOfThePool) {
+  fill(9000);
+  struct Closure {
+    ConcurrentMap *self;
+    mint code;
+  } closure = {this, -1};
+  const auto body = [](void *c, ParallelWorker *) {
+    auto *inner = static_cast<Closure *>(c);
+    inner->code = inner->self->map(function);
+  };
+  EXPECT_EQ(parallelLoop(&closure, nullptr, body, 0, 1, 1, nullptr), 0);
+  EXPECT_EQ(closure.code, 0);
+  for (size_t i = 0; i < 9000; ++i) ASSERT_EQ(target[i], function(static_cast<int64_t>(i)));
 }
 
 int64_t raiseByStyle(int64_t x) {

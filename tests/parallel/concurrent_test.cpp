@@ -7,7 +7,9 @@
 #include <torvane/exception.hpp>
 
 #include <atomic>
+#include <mutex>
 #include <random>
+#include <set>
 
 namespace torvane::test {
 namespace {
@@ -170,6 +172,35 @@ TEST_F(ConcurrentPool, LoopsOfTwoHostThreadsKeepTheirOwnStatuses) {
   third.join();
 }
 
+// Each form by turns, on its own data: a body that runs twice, or after its loop has returned, is a race.
+void loopOfEachForm(int rounds, mint mark) {
+  for (int round = 0; round < rounds; ++round) {
+    std::vector<mint> values(60, -1);
+    const auto fill = [](void *closure, ParallelWorker *worker) {
+      auto &list = *static_cast<std::vector<mint> *>(closure);
+      for (mint i = ParallelWorker_first(worker); i < ParallelWorker_last(worker); ++i)
+        list[size_t(i)] += i + 1;
+    };
+    ASSERT_EQ(round % 2 == 0 ? parallelLoopEven(&values, nullptr, fill, 0, 60, 1)
+                             : parallelLoop(&values, nullptr, fill, 0, 60, 1, nullptr),
+              0);
+    for (mint i = 0; i < 60; ++i) ASSERT_EQ(values[size_t(i)], i) << mark;
+    mint visits[4] = {};
+    const auto visit = [](void *closure, ParallelWorker *worker) {
+      ++static_cast<mint *>(closure)[ParallelWorker_index(worker)];
+    };
+    ASSERT_EQ(parallelOnEveryWorker(visits, visit, 0), 0);
+    const mint all = visits[0] + visits[1] + visits[2] + visits[3];
+    ASSERT_TRUE(all == 3 || all == 0) << "every worker, or none while the other thread has the pool";
+  }
+}
+
+TEST_F(ConcurrentPool, HostThreadsMixLoopsOfAllForms) {
+  std::thread other(loopOfEachForm, kRounds / 3, 1);
+  loopOfEachForm(kRounds / 3, 2);
+  other.join();
+}
+
 TEST_F(ConcurrentPool, HostThreadsChangeTheWorkerCountUnderEachOther) {
   std::thread other([] {
     for (int round = 0; round < kRounds / 10; ++round) {
@@ -191,6 +222,30 @@ TEST_F(ConcurrentPool, CallsOnEveryWorkerAlternateWithLoops) {
     ASSERT_EQ(visits, (std::vector<mint>{1, 1, 1}));
     fillAndCheck(1 + round % 9, round, nullptr);
   }
+}
+
+// Pieces that sleep leave the processor to helpers, which must carry pieces and not repeat their own call.
+TEST_F(ConcurrentPool, ThreadsCalledOnEveryWorkerHelpWithTheNextLoop) {
+  const ParallelPartition pieces = {kOfSize, 1, 0};
+  std::set<std::thread::id> threads;
+  std::mutex threadsLock;
+  for (int round = 0; round < 10; ++round) {
+    std::atomic<int> visits{0}, covered{0};
+    const auto visit = [](void *closure, ParallelWorker *) { ++*static_cast<std::atomic<int> *>(closure); };
+    ASSERT_EQ(parallelOnEveryWorker(&visits, visit, 0), 0);
+    loopOver(
+        0, 8, 1,
+        [&](ParallelWorker *worker) {
+          sleepMilliseconds(1);
+          covered += ParallelWorker_last(worker) - ParallelWorker_first(worker);
+          const std::lock_guard guard(threadsLock);
+          threads.insert(std::this_thread::get_id());
+        },
+        &pieces);
+    ASSERT_EQ(covered, 8);
+    ASSERT_EQ(visits, 3);
+  }
+  EXPECT_GE(threads.size(), 2u) << "or no thread has helped";
 }
 
 TEST_F(ConcurrentPool, BlocksOfABodyMayBeFreedByTheCaller) {

@@ -143,6 +143,24 @@ TEST_F(ParallelLoop, PrepareRunsOnceBeforeThePiecesAndSeesTheWorkers) {
   EXPECT_EQ(closure.early, 0);
 }
 
+TEST_F(ParallelLoop, PrepareRunsOnceWhereTheLoopIsSerialToo) {
+  mint prepared = 0;
+  const auto prepare = [](void *c, ParallelPool *) { ++*static_cast<mint *>(c); };
+  const auto body = [](void *, ParallelWorker *) {};
+  const ParallelPartition serial = {kAtLeast, 1, 1}, tooShort = {kOfSize, 100, 0};
+  parallelLoop(&prepared, prepare, body, 0, 50, 1, &serial);
+  EXPECT_EQ(prepared, 1) << "forced";
+  parallelLoop(&prepared, prepare, body, 0, 50, 1, &tooShort);
+  EXPECT_EQ(prepared, 2) << "too short";
+  loopOver(0, 1, 1, [&](ParallelWorker *) { parallelLoop(&prepared, prepare, body, 0, 50, 1, nullptr); });
+  EXPECT_EQ(prepared, 3) << "nested";
+  setWorkerCount(1);
+  parallelLoop(&prepared, prepare, body, 0, 50, 1, nullptr);
+  EXPECT_EQ(prepared, 4) << "one worker";
+  parallelLoop(&prepared, prepare, body, 50, 50, 1, nullptr);
+  EXPECT_EQ(prepared, 4) << "nothing to do";
+}
+
 TEST_F(ParallelLoop, StatusOfAFailedPieceIsTheResultAndTheOthersRun) {
   const ParallelPartition grains = {kOfSize, 1, 0};
   std::atomic<int> pieces{0};
@@ -198,6 +216,35 @@ TEST_F(ParallelLoop, LoopInsideABodyReturnsItsOwnStatus) {
   EXPECT_EQ(failing, 41);
   EXPECT_EQ(fine, 0);
   EXPECT_EQ(outer, 40) << "the inner loops neither add to the outer one's failure nor take it away";
+}
+
+// Whatever the outer and the inner loop are.
+mint loopOfForm(int form, void *closure, ParallelBody body) {
+  if (form == 0) return parallelLoop(closure, nullptr, body, 0, 10, 1, nullptr);
+  if (form == 1) return parallelLoopEven(closure, nullptr, body, 0, 10, 1);
+  return parallelOnEveryWorker(closure, body, 0);
+}
+struct Nesting {
+  int inner;
+  std::atomic<int> wrong{0}, bodies{0};
+};
+void nest(void *closure, ParallelWorker *) {
+  auto *self = static_cast<Nesting *>(closure);
+  Recorder inner;
+  const mint status = loopOfForm(self->inner, &inner, Recorder::body);
+  const bool isRight = self->inner == 2 ? inner.calls().empty() : inner.calls() == kOneCallOf10;
+  if (status != 0 || !isRight || !allOnThisThread(inner.calls())) ++self->wrong;
+  ++self->bodies;
+}
+
+TEST_F(ParallelLoop, LoopsOfEveryFormAreRefusedThePoolInsideOnesOfEveryForm) {
+  for (const int outer : {0, 1, 2})
+    for (const int inner : {0, 1, 2}) {
+      Nesting nesting = {inner};
+      EXPECT_EQ(loopOfForm(outer, &nesting, nest), 0);
+      EXPECT_EQ(nesting.wrong, 0) << inner << " in " << outer;
+      EXPECT_EQ(nesting.bodies, 3);
+    }
 }
 
 TEST_F(ParallelLoop, LoopIsRunningWhileItsBodiesAre) {

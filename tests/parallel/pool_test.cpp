@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <set>
+#include <sys/resource.h>
 
 namespace torvane::test {
 namespace {
@@ -156,6 +157,51 @@ TEST_F(Pool, WorkerKnowsItsOwnThread) {
   parallelOnEveryWorker(&right, body, 0);
   EXPECT_EQ(right, 3);
 }
+
+int niceOfThisThread() { return getpriority(PRIO_PROCESS, 0); }
+std::atomic<int> niceOfWorkers{0};
+
+TEST_F(Pool, ThreadsAskForAPriorityTwoStepsAboveTheirCreators) {
+  const int own = niceOfThisThread();
+  const ChildOutcome child =
+      runInChild([=] { endProcess(setpriority(PRIO_PROCESS, 0, own - 2) == 0 ? 42 : 43); });
+  niceOfWorkers = 99;
+  addWorkerStartHook([](ParallelWorker *) { niceOfWorkers = niceOfThisThread(); });
+  visitWorkers();
+  EXPECT_EQ(niceOfWorkers, child.status == 42 ? std::max(own - 2, -20) : own);
+  EXPECT_EQ(niceOfThisThread(), own);
+}
+
+#if !defined(__SANITIZE_THREAD__) // which takes a thread that joins itself for a mistake of its own
+// A thread of a pool cannot join itself: the pool that it destroys has to stay, for it is still to be used.
+struct Destroying {
+  ParallelPool *pool;
+  std::atomic<int> outcome{-1};
+};
+
+TEST_F(Pool, OfAThreadThatCannotBeJoinedStays) {
+  Destroying destroying = {createPool(2)};
+  ParallelPool *pool = destroying.pool;
+  ParallelWorker *worker = &pool->workers[0];
+  const auto body = [](void *closure, ParallelWorker *) {
+    auto *self = static_cast<Destroying *>(closure);
+    self->outcome = destroyPool(self->pool) ? 1 : 0;
+  };
+  pool->busyWorkers = 1;
+  {
+    const LockGuard<Lock> guard(worker->lock);
+    worker->seatTask = {0, 0, 1, body, &destroying};
+    worker->task = &worker->seatTask;
+    worker->ownTask = 1;
+  }
+  wakeWorker(worker);
+  ASSERT_TRUE(joinThread(worker->thread));
+  EXPECT_EQ(destroying.outcome, 0);
+  EXPECT_EQ(pool->busyWorkers, 0) << "its records are still there";
+  free(pool->workersBlock);
+  free(pool->block);
+}
+#endif
 
 TEST_F(Pool, MoreWorkersThanProcessorsAreServed) {
   setWorkerCount(40);

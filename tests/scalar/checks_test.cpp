@@ -91,14 +91,14 @@ void expectMet(const Cell &cell) {
 }
 
 template <class T, class Entry>
-void checkUnary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain, Entry *checked) {
+[[gnu::noinline]] void checkUnary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain, Entry *checked) {
   Cell cell(std::string("unary_") + typed + "_" + type, checksFor<T>(cells));
   for (const T x : samples<T>()) ASSERT_NO_FATAL_FAILURE(cell.meet(call(plain, x), call(checked, x)));
   expectMet(cell);
 }
 
 template <class T, class Entry>
-void checkBinary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain,
+[[gnu::noinline]] void checkBinary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain,
                  Entry *checked) {
   Cell cell(std::string("binary_") + typed + "_" + type, checksFor<T>(cells));
   size_t turn = 0;
@@ -109,7 +109,7 @@ void checkBinary(const char *typed, const char *type, const ClassChecks &cells, 
 }
 
 template <class T, class Entry>
-void checkTernary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain,
+[[gnu::noinline]] void checkTernary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain,
                   Entry *checked) {
   Cell cell(std::string("ternary_") + typed + "_" + type, checksFor<T>(cells));
   const std::vector<T> all = samples<T>();
@@ -160,7 +160,7 @@ TEST(Checks, OfEveryTernaryCellAreMetAndNoOthers) {
 
 // Powers of two types stand in the cell of their result.
 template <class X, class Y, class Entry>
-void checkPower(const char *x, const char *y, Entry *plain, Entry *checked) {
+[[gnu::noinline]] void checkPower(const char *x, const char *y, Entry *plain, Entry *checked) {
   Cell cell(std::string("binary_pow_") + x + "_" + y, kChecks<binary::pow, X, Y>);
   size_t turn = 0;
   for (const X a : samples<X>())

@@ -78,7 +78,7 @@ struct Met {
   std::set<mint> codes = {};
 };
 
-template <class Entry, class... T> void meet(Met &met, Entry *entry, T... x) {
+template <class Entry, class... T> [[gnu::noinline]] void meet(Met &met, Entry *entry, T... x) {
   const mint code = call(entry, x...).code;
   if (code != 0 && met.codes.insert(code).second) expectRaised(code, met.name, entry, x...);
 }
@@ -93,13 +93,13 @@ template <class T> bool isTrap(const std::string &name, T x, T y) {
          (name.find("_mod_") != name.npos || name.find("_quotient_") != name.npos);
 }
 
-template <class T, class Entry> void raiseUnary(const char *name, bool isUndefined, Entry *entry) {
+template <class T, class Entry> [[gnu::noinline]] void raiseUnary(const char *name, bool isUndefined, Entry *entry) {
   Met met = {name};
   for (const T x : samples<T>()) meet(met, entry, x);
   expectUndefined(met, isUndefined);
 }
 
-template <class X, class Y, class Entry> void raiseBinary(const char *name, bool isUndefined, Entry *entry) {
+template <class X, class Y, class Entry> [[gnu::noinline]] void raiseBinary(const char *name, bool isUndefined, Entry *entry) {
   Met met = {name};
   size_t turn = 0;
   for (const X x : samples<X>())
@@ -111,7 +111,7 @@ template <class X, class Y, class Entry> void raiseBinary(const char *name, bool
   expectUndefined(met, isUndefined);
 }
 
-template <class T, class Entry> void raiseTernary(const char *name, bool isUndefined, Entry *entry) {
+template <class T, class Entry> [[gnu::noinline]] void raiseTernary(const char *name, bool isUndefined, Entry *entry) {
   Met met = {name};
   const std::vector<T> all = samples<T>();
   for (size_t k = 0; k < 4000; ++k) {

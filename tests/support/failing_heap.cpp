@@ -1,5 +1,7 @@
 #include "failing_heap.h"
 
+#include "runtime/heap_area.h"
+
 #include <atomic>
 #include <cstdlib>
 
@@ -45,7 +47,9 @@ void giveAligned(void *block) {
 
 const ProcessHeap failingHeap = {take, give, takeZeroed, takeAligned, giveAligned};
 
+// Areas that ended threads have left would serve requests that are to reach this heap.
 void arm(int64_t k, bool andLater) {
+  emptyAreaStore();
   seen = 0;
   didFail = false;
   onwards = andLater;
@@ -60,13 +64,19 @@ FailingHeap::FailingHeap() {
   processHeap = &failingHeap;
 }
 
-FailingHeap::~FailingHeap() { processHeap = &platformProcessHeap; }
+FailingHeap::~FailingHeap() {
+  emptyAreaStore();
+  processHeap = &platformProcessHeap;
+}
 
 void FailingHeap::failRequest(int64_t k) { arm(k, false); }
 void FailingHeap::failFrom(int64_t k) { arm(k, true); }
 void FailingHeap::succeed() { arm(0, false); }
 bool FailingHeap::failed() const { return didFail; }
 int64_t FailingHeap::requests() const { return seen; }
-int64_t FailingHeap::blocksOut() const { return out; }
+int64_t FailingHeap::blocksOut() const {
+  emptyAreaStore();
+  return out;
+}
 
 } // namespace torvane::test

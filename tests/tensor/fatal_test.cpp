@@ -1,47 +1,29 @@
-// What ends the process. The fatal path waits three seconds, so all the children of a test run at once.
+// What ends the process.
 #include "runtime/memory.h"
 #include "runtime/platform.h"
 #include "runtime/startup.h"
+#include "support/child_process.h"
 #include "support/failing_heap.h"
 #include "support/tensor_builders.h"
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <functional>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace torvane;
 using namespace torvane::test;
 
 namespace {
 
-constexpr int kReturned = 99;
+constexpr int kReturned = 99; // of a child whose body returned
 
 struct FatalCase {
   const char *name;
   std::function<void()> body;
 };
 
-pid_t startChild(const std::function<void()> &body) {
-  const pid_t child = fork();
-  if (child != 0) return child;
-  dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
-  body();
-  _exit(kReturned);
-}
-
-int exitStatusOf(pid_t child) {
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 void expectStatus(const std::vector<FatalCase> &cases, int status) {
-  std::vector<pid_t> children;
-  for (const FatalCase &fatal : cases) children.push_back(startChild(fatal.body));
-  for (size_t i = 0; i < cases.size(); ++i) EXPECT_EQ(exitStatusOf(children[i]), status) << cases[i].name;
+  for (const FatalCase &fatal : cases) EXPECT_EQ(runInChild(fatal.body).status, status) << fatal.name;
 }
 
 mint allocateFresh(mint type, const Extents &extents, mint errorMode) {

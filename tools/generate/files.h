@@ -13,6 +13,7 @@ using Files = std::map<std::string, std::string>;
 void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries);
 void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines);
 void writeOperatorTables(Files &files);
+void writeRegistryPage(Files &files);
 void writeExportFiles(Files &files, const std::vector<Signature> &exports);
 
 inline const char *const kGeneratedNote =

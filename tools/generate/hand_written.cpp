@@ -4,6 +4,7 @@
 #include <torvane/elementwise.h>
 #include <torvane/failure.h>
 #include <torvane/integers.h>
+#include <torvane/lists.h>
 #include <torvane/memory.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
@@ -109,12 +110,18 @@ template <class R, class... P> struct Reader<R(P...)> {
   }
 };
 
+// A word as wide as a pointer: the compiler knows it only as the integer of its size.
+void spellWords(Signature &signature) {
+  if (signature.name == "Runtime_MTensor_TakeDrop") signature.parameters[3].type.c = "const intptr_t *";
+}
+
 template <class T> Signature describe(const char *family, const char *name) {
   Signature signature;
   signature.family = family;
   signature.name = name;
   signature.returnsTwice = std::strcmp(name, "SetJumpStack_PushAux") == 0;
   Reader<T>::read(signature);
+  spellWords(signature);
   return signature;
 }
 

@@ -22,6 +22,7 @@ Files generateAll() {
   writeScalarFiles(files, entries);
   writeRoutineFiles(files, routines);
   writeOperatorTables(files);
+  writeRegistryPage(files);
   writeExportFiles(files, exports);
   return files;
 }

@@ -1,0 +1,94 @@
+// Copying a box: a walk over the outer axes, and one loop over the rows of the innermost, chosen by the size
+// of a block before the walk begins. Blocks of a few registers are moved by them: the call of memcpy would
+// cost more.
+#include "box.h"
+
+#include <string.h>
+
+namespace torvane {
+
+namespace {
+
+template <size_t kBlock> void moveFixed(char *target, const char *source) {
+  char held[kBlock];
+  memcpy(held, source, kBlock);
+  memcpy(target, held, kBlock);
+}
+
+// Any number of bytes from kStep on: whole steps, then one that ends where the block ends.
+template <size_t kStep> void moveSteps(char *target, const char *source, size_t bytes) {
+  size_t done = 0;
+  for (; done + kStep <= bytes; done += kStep) moveFixed<kStep>(target + done, source + done);
+  if (done < bytes) moveFixed<kStep>(target + bytes - kStep, source + bytes - kStep);
+}
+
+template <class Move> void forRows(char *target, const char *source, const BoxAxis &rows, Move move) {
+  for (size_t i = 0; i < rows.count; ++i, target += rows.target, source += rows.source) move(target, source);
+}
+
+// Blocks of one element or two. A run that stands backwards in its source has a loop with constant strides,
+// which the compiler vectorises.
+template <size_t kBlock> void copyFixed(char *target, const char *source, size_t, const BoxAxis &rows) {
+  constexpr auto kBytes = static_cast<ptrdiff_t>(kBlock);
+  const auto move = [](char *to, const char *from) { moveFixed<kBlock>(to, from); };
+  if (rows.target == kBytes && rows.source == -kBytes)
+    forRows(target, source, {rows.count, kBytes, -kBytes}, move);
+  else
+    forRows(target, source, rows, move);
+}
+
+template <size_t kStep> void copySteps(char *target, const char *source, size_t block, const BoxAxis &rows) {
+  forRows(target, source, rows, [block](char *to, const char *from) { moveSteps<kStep>(to, from, block); });
+}
+
+void copyBlocks(char *target, const char *source, size_t block, const BoxAxis &rows) {
+  forRows(target, source, rows, [block](char *to, const char *from) { memcpy(to, from, block); });
+}
+
+constexpr size_t kLongBlock = 256; // from here on memcpy is worth its call
+
+using Rows = void (*)(char *, const char *, size_t, const BoxAxis &);
+
+Rows rowsFor(size_t block) {
+  switch (block) {
+  case sizeof(mint):
+    return copyFixed<sizeof(mint)>;
+  case sizeof(mreal):
+    return copyFixed<sizeof(mreal)>;
+  case sizeof(mcomplex):
+    return copyFixed<sizeof(mcomplex)>;
+  default:
+    return block < 16 ? copySteps<8> : block < kLongBlock ? copySteps<16> : copyBlocks;
+  }
+}
+
+} // namespace
+
+void Box::add(size_t count, ptrdiff_t target, ptrdiff_t source) {
+  if (count == 1) return;
+  const auto steps = static_cast<ptrdiff_t>(count);
+  if (rank > 0 && axes[rank - 1].target == steps * target && axes[rank - 1].source == steps * source)
+    axes[rank - 1] = {axes[rank - 1].count * count, target, source};
+  else
+    axes[rank++] = {count, target, source};
+}
+
+void Box::walk(mint axis, char *target, const char *source, size_t block, Rows copyRows) const {
+  const BoxAxis &here = axes[axis];
+  if (axis == rank - 1) return copyRows(target, source, block, here);
+  forRows(target, source, here,
+          [&](char *to, const char *from) { walk(axis + 1, to, from, block, copyRows); });
+}
+
+void Box::copy(char *target, const char *source, size_t block) {
+  const auto bytes = static_cast<ptrdiff_t>(block);
+  if (rank > 0 && axes[rank - 1].target == bytes && axes[rank - 1].source == bytes)
+    block *= axes[--rank].count;
+  if (rank == 0) {
+    memcpy(target, source, block);
+    return;
+  }
+  walk(0, target, source, block, rowsFor(block));
+}
+
+} // namespace torvane
