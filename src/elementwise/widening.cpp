@@ -136,13 +136,6 @@ bool widenDivided(const UnaryPair &pair, mcomplex *result, const Division &divis
   return true;
 }
 
-// Asks for the result's lines while the block is computed: it is a page, and where it ends so does what the
-// processor fetches ahead by itself.
-void fetchAhead(const mcomplex *result, mint count) {
-  constexpr mint kElementsALine = 64 / sizeof(mcomplex);
-  for (mint k = 0; k < count; k += kElementsALine) __builtin_prefetch(result + k, 1);
-}
-
 bool isKnown(RealDomain domain) { return domain.low > kUnknownDomain.low; }
 
 // Each routine once over what is its own. When one refuses something, nothing is certain, and the attempts
@@ -150,7 +143,6 @@ bool isKnown(RealDomain domain) { return domain.low > kUnknownDomain.low; }
 mint widenBlock(const UnaryPair &pair, mcomplex *result, const mreal *x, Range range, mint flags,
                 mint *kinds) {
   Division division;
-  fetchAhead(result + range.first, range.end - range.first);
   const mreal *from = x + range.first;
   if (!isKnown(pair.domain) || !tellApart(pair.domain, from, range.end - range.first, &division) ||
       !widenDivided(pair, result + range.first, division, flags))
