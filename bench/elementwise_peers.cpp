@@ -50,17 +50,31 @@ template <class T, class F> Run loop(std::vector<T> &result, std::vector<T> &x, 
 
 volatile bool overflowed;
 
-template <class F> Run checkedLoop(Data &d, F exact) {
-  return [&d, exact] {
+// What is refused: bits that are lost, and the most negative word.
+Run checkedSum(Data &d) {
+  return [&d] {
     mint *__restrict r = d.words.data();
     const mint *a = d.n.data(), *b = d.m.data();
-    bool any = false;
+    mint lost = 0, lowest = 0;
     for (std::size_t k = 0; k < d.count; ++k) {
-      const int64_t value = exact(int64_t{a[k]}, int64_t{b[k]});
-      r[k] = static_cast<mint>(value);
-      any |= value != r[k];
+      r[k] = static_cast<mint>(static_cast<uint32_t>(a[k]) + static_cast<uint32_t>(b[k]));
+      lost |= (a[k] ^ r[k]) & (b[k] ^ r[k]);
+      lowest = std::min(lowest, r[k]);
     }
-    overflowed = any;
+    overflowed = lost < 0 || lowest == INT32_MIN;
+  };
+}
+Run checkedProduct(Data &d) {
+  return [&d] {
+    mint *__restrict r = d.words.data();
+    const mint *a = d.n.data(), *b = d.m.data();
+    int64_t lost = 0;
+    for (std::size_t k = 0; k < d.count; ++k) {
+      const int64_t value = int64_t{a[k]} * b[k];
+      r[k] = static_cast<mint>(value);
+      lost |= (value + INT32_MAX) | (INT32_MAX - value);
+    }
+    overflowed = lost < 0;
   };
 }
 
@@ -211,6 +225,10 @@ Makers realMakers() {
 
 Makers integerMakers() {
   return {
+      {"sign",
+       [](Data &d) {
+         return Peers{loop(d.words, d.x, [](mreal a) { return mint{(a > 0) - (a < 0)}; }), {}, {}};
+       }},
       {"round",
        [](Data &d) {
          return Peers {
@@ -237,11 +255,11 @@ Makers integerMakers() {
        }},
       {"checked integer plus",
        [](Data &d) {
-         return Peers{checkedLoop(d, [](int64_t a, int64_t b) { return a + b; }), {}, {}};
+         return Peers{checkedSum(d), {}, {}};
        }},
       {"checked integer times",
        [](Data &d) {
-         return Peers{checkedLoop(d, [](int64_t a, int64_t b) { return a * b; }), {}, {}};
+         return Peers{checkedProduct(d), {}, {}};
        }},
       {"integer total",
        [](Data &d) {

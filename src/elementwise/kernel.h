@@ -9,13 +9,16 @@
 //               failing element and all later ones keep what an operand held;
 //   in bulk     reals and complexes elsewhere: one look at the accrued exceptions after the plain loop,
 //               which gives 1 and no position.
-// The error code is lost; the position, counted from 1, is what a routine returns.
+// The error code is lost; the position, counted from 1, is what a routine returns. Where an operator has
+// lanes (lanes.h), a dense loop runs in blocks of them and goes back to single elements in a block that may
+// hold a failure.
 #pragma once
 
 #include "../scalar/evaluate.h"
+#include "exceptions.h"
+#include "lanes.h"
+#include "loops.h"
 #include <torvane/operators.h>
-
-#include <fenv.h>
 
 namespace torvane {
 
@@ -35,12 +38,27 @@ template <class X, class Y> using WiderOf = ChooseOf<(kRank<X> < kRank<Y>), Y, X
 template <class T, class... Rest> struct First { using Type = T; };
 template <class... T> using FirstOf = typename First<T...>::Type;
 
-// Element k of an operand at a stride.
-template <class X> struct Walk {
+// Element k of an operand: dense, at a stride, or one value for all of them, which is read once.
+template <class X> struct Dense {
   const X *data;
-  mint stride;
-  X at(mint k) const { return data[ptrdiff_t{k} * stride]; }
+  X at(ptrdiff_t k) const { return data[k]; }
+  Dense from(ptrdiff_t k) const { return {data + k}; }
 };
+template <class X> struct Strided {
+  const X *data;
+  ptrdiff_t stride;
+  X at(ptrdiff_t k) const { return data[k * stride]; }
+};
+template <class X> struct Constant {
+  explicit Constant(const X *data) : value(*data) {}
+  X at(ptrdiff_t) const { return value; }
+  Constant from(ptrdiff_t) const { return *this; }
+
+  X value;
+};
+// Complex operators branch on their operands, and of one that does not change a compiler computes ahead what
+// only one branch asks for, exceptions and all: there the loops do not show that a stride is 0.
+template <class... T> inline constexpr bool mayBeConstant = !(isComplex<T> || ...);
 
 template <class T> constexpr T classified(error &code, T value) {
   if (code == error::none) code = classify(value);
@@ -69,47 +87,148 @@ template <class Op, class Form, class T, class... X> constexpr auto computeEleme
     return compute<Op, Form>(code, convertTo<T>(x)...);
 }
 
+// One by one, up to the first failure.
 template <class Form, class Op, class T, class Result, class... X>
-inline __attribute__((always_inline)) mint runLoop(Result *result, mint step, mint count,
-                                                   Walk<X>... operands) {
-  for (mint k = 0; k < count; ++k) {
+inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t step, mint count,
+                                                   X... operands) {
+  for (ptrdiff_t k = 0; k < count; ++k) {
     error code = error::none;
     const Result value = computeElement<Op, Form, T>(code, operands.at(k)...);
     if (code != error::none) [[unlikely]]
-      return k + 1;
-    result[ptrdiff_t{k} * step] = value;
+      return static_cast<mint>(k + 1);
+    result[k * step] = value;
   }
   return 0;
 }
 
+// Elements before the first that begins a cache line: a wide access that crosses two lines costs as much as
+// two. Of the result, or of the first operand where its elements are wider and its lines so more. None where
+// the run is too short to gain, or where no element ever begins a line.
+inline constexpr mint kLineBytes = 64, kWorthAligning = 128;
+template <class T> mint elementsBeforeLine(const T *data, mint count) {
+  const uintptr_t past = reinterpret_cast<uintptr_t>(data) % kLineBytes;
+  if (count < kWorthAligning || past == 0 || past % sizeof(T) != 0) return 0;
+  return static_cast<mint>((kLineBytes - past) / sizeof(T));
+}
+template <class Result, class First, class... Rest>
+mint elementsBeforeLine(const Result *result, mint count, const First &first, const Rest &...) {
+  if constexpr (requires { requires sizeof(*first.data) > sizeof(Result); })
+    return elementsBeforeLine(first.data, count);
+  else
+    return elementsBeforeLine(result, count);
+}
+
+// Runs `run(start, length)` up to the first line and then from there on; the position of the first failure.
+template <class Run> inline __attribute__((always_inline)) mint fromLine(mint head, mint count, Run run) {
+  mint start = 0, length = head == 0 ? count : head;
+  for (;;) {
+    const mint position = run(start, length);
+    if (position != 0) return start + position;
+    start += length;
+    if (start == count) return 0;
+    length = count - start;
+  }
+}
+
+// ---- blocks of lanes -------------------------------------------------------------------------------
+
+// Elements between two looks at what the lanes suspect: few enough that a block to be run again is in the
+// nearest cache, and many enough that the looks cost nothing.
+inline constexpr mint kLaneBlock = 4096;
+
+// Whether a block may be run again after it has been stored, or must be tested first because the result is
+// an operand; where they overlap in part, each element may depend on the one before.
+enum class Sharing { none, same, partly };
+
+template <class Result, class X> Sharing sharingOf(const Result *result, mint count, Dense<X> operand) {
+  if (static_cast<const void *>(result) == operand.data && sizeof(Result) == sizeof(X)) return Sharing::same;
+  const auto written = reinterpret_cast<uintptr_t>(result), read = reinterpret_cast<uintptr_t>(operand.data);
+  const auto elements = static_cast<uintptr_t>(count);
+  const bool meet = written < read + elements * sizeof(X) && read < written + elements * sizeof(Result);
+  return meet ? Sharing::partly : Sharing::none;
+}
+template <class Result, class X> Sharing sharingOf(const Result *, mint, Constant<X>) {
+  return Sharing::none;
+}
+
+// Stores a block, or only tests it; tells whether an element may have failed.
+template <bool stores, class Lanes, class T, class Result, class... X>
+bool runLanes(Result *result, mint count, X... operands) {
+  typename Lanes::Suspicion suspicion = {};
+  for (ptrdiff_t k = 0; k < count; ++k) {
+    const Result value = Lanes::lane(suspicion, convertTo<T>(operands.at(k))...);
+    if constexpr (stores) result[k] = value;
+  }
+  return suspicion.any();
+}
+
+template <class Form, class Op, class T, class Result, class... X>
+mint runBlocks(Result *result, mint count, bool inPlace, X... operands) {
+  using Lanes = LanesOf<Op, Form, T>;
+  mint size = elementsBeforeLine(result, count, operands...);
+  if (size == 0) size = kLaneBlock;
+  for (mint start = 0; start < count; start += size, size = kLaneBlock) {
+    if (count - start < size) size = count - start;
+    const bool isSuspect = inPlace ? runLanes<false, Lanes, T>(result + start, size, operands.from(start)...)
+                                   : runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
+    if (isSuspect) [[unlikely]] {
+      const mint position = runLoop<Form, Op, T>(result + start, 1, size, operands.from(start)...);
+      if (position != 0) return start + position;
+    } else if (inPlace) {
+      runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
+    }
+  }
+  return 0;
+}
+
+template <class Form, class Op, class T, class Result, class... X>
+mint runDense(Result *result, mint count, X... operands) {
+  if constexpr (requires { typename LanesOf<Op, Form, T>::Suspicion; }) {
+    const bool overlaps = ((sharingOf(result, count, operands) == Sharing::partly) || ...);
+    const bool inPlace = ((sharingOf(result, count, operands) == Sharing::same) || ...);
+    if (!overlaps) return runBlocks<Form, Op, T>(result, count, inPlace, operands...);
+  }
+  return fromLine(elementsBeforeLine(result, count, operands...), count, [&](mint start, mint length) {
+    return runLoop<Form, Op, T>(result + start, 1, length, operands.from(start)...);
+  });
+}
+
+// ---- shapes ----------------------------------------------------------------------------------------
+
 // The shapes with a loop of their own: dense, and dense with one operand at stride 0.
 template <class Form, class Op, class T, class Result, class X>
 mint runShape(Result *result, mint count, const mint *strides, const X *x) {
-  if (strides[0] == 1 && strides[1] == 1) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 1});
-  return runLoop<Form, Op, T>(result, strides[0], count, Walk<X>{x, strides[1]});
+  if (count <= 0) return 0;
+  if (strides[0] == 1 && strides[1] == 1) return runDense<Form, Op, T>(result, count, Dense<X>{x});
+  return runLoop<Form, Op, T>(result, strides[0], count, Strided<X>{x, strides[1]});
 }
 
 template <class Form, class Op, class T, class Result, class X, class Y>
 mint runShape(Result *result, mint count, const mint *strides, const X *x, const Y *y) {
+  if (count <= 0) return 0;
   const mint sx = strides[1], sy = strides[2];
   if (strides[0] == 1) {
-    if (sx == 1 && sy == 1) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 1}, Walk<Y>{y, 1});
-    if (sx == 1 && sy == 0) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 1}, Walk<Y>{y, 0});
-    if (sx == 0 && sy == 1) return runLoop<Form, Op, T>(result, 1, count, Walk<X>{x, 0}, Walk<Y>{y, 1});
+    if (sx == 1 && sy == 1) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Dense<Y>{y});
+    if constexpr (mayBeConstant<T, X, Y>) {
+      if (sx == 1 && sy == 0) return runDense<Form, Op, T>(result, count, Dense<X>{x}, Constant<Y>{y});
+      if (sx == 0 && sy == 1) return runDense<Form, Op, T>(result, count, Constant<X>{x}, Dense<Y>{y});
+    }
   }
-  return runLoop<Form, Op, T>(result, strides[0], count, Walk<X>{x, sx}, Walk<Y>{y, sy});
+  return runLoop<Form, Op, T>(result, strides[0], count, Strided<X>{x, sx}, Strided<Y>{y, sy});
 }
 
 template <class Form, class Op, class T, class Result, class A, class X, class Y>
 mint runShape(Result *result, mint count, const mint *strides, const A *a, const X *x, const Y *y) {
-  if (strides[0] == 1 && strides[1] == 0 && strides[2] == 1 && strides[3] == 1)
-    return runLoop<Form, Op, T>(result, 1, count, Walk<A>{a, 0}, Walk<X>{x, 1}, Walk<Y>{y, 1});
-  return runLoop<Form, Op, T>(result, strides[0], count, Walk<A>{a, strides[1]}, Walk<X>{x, strides[2]},
-                              Walk<Y>{y, strides[3]});
+  if (count <= 0) return 0;
+  if (strides[0] == 1 && strides[2] == 1 && strides[3] == 1) {
+    if constexpr (mayBeConstant<T>)
+      if (strides[1] == 0)
+        return runDense<Form, Op, T>(result, count, Constant<A>{a}, Dense<X>{x}, Dense<Y>{y});
+    if (strides[1] == 1) return runDense<Form, Op, T>(result, count, Dense<A>{a}, Dense<X>{x}, Dense<Y>{y});
+  }
+  return runLoop<Form, Op, T>(result, strides[0], count, Strided<A>{a, strides[1]}, Strided<X>{x, strides[2]},
+                              Strided<Y>{y, strides[3]});
 }
-
-// Underflow and inexact never fail an element.
-inline constexpr int kFailingExceptions = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
 
 template <class Op, class... T> constexpr bool isTestedBy(mint flags) {
   constexpr bool ofIntegers = isInteger<CellTypeOf<Op, T...>>;
@@ -128,10 +247,10 @@ mint runRoutine(void *result, mint count, const mint *strides, mint flags, const
   if (!isTestedBy<Op, T...>(flags)) return runShape<Plain, Op, T1>(target, count, strides, first, rest...);
   if (isInteger<CellTypeOf<Op, T...>> || result == static_cast<const void *>(first))
     return runShape<Checked, Op, T1>(target, count, strides, first, rest...);
-  feclearexcept(kFailingExceptions);
+  clearFailingExceptions();
   const mint position = runShape<Plain, Op, T1>(target, count, strides, first, rest...);
   if (position != 0) return position;
-  return fetestexcept(kFailingExceptions) != 0 ? 1 : 0;
+  return hasFailingExceptions() ? 1 : 0;
 }
 
 template <class Op, class X>
@@ -163,5 +282,28 @@ mint ternaryRoutine(void *result, const void *a, const void *x, const void *y, m
   return runRoutine<Op, X, X, X>(result, count, strides, flags, static_cast<const X *>(a),
                                  static_cast<const X *>(x), static_cast<const X *>(y));
 }
+
+// ---- records for the drivers -----------------------------------------------------------------------
+
+// The type that a routine stores.
+template <class Op, class T, class... X>
+using StoredOf = decltype(computeElement<Op, Plain, T>(*static_cast<error *>(nullptr), X{}...));
+
+template <class Op, class X>
+inline constexpr torvane_loops::UnaryLoop kUnaryLoop = {unaryRoutine<Op, X>,
+                                                        {sizeof(StoredOf<Op, X, X>), sizeof(X)}};
+
+template <class Op, class X, class Y> using PairType = ChooseOf<hasSeparateOperands<Op>, X, WiderOf<X, Y>>;
+template <class Op, class X, class Y>
+inline constexpr torvane_loops::BinaryLoop kBinaryLoop = {
+    binaryRoutine<Op, X, Y>, {sizeof(StoredOf<Op, PairType<Op, X, Y>, X, Y>), sizeof(X), sizeof(Y)}};
+
+template <class Op, class X, mint operand>
+inline constexpr torvane_loops::UnaryLoop kBoundLoop = {boundRoutine<Op, X, operand>,
+                                                        {sizeof(StoredOf<Op, X, X, X>), sizeof(X)}};
+
+template <class Op, class X>
+inline constexpr torvane_loops::TernaryLoop kTernaryLoop = {
+    ternaryRoutine<Op, X>, {sizeof(StoredOf<Op, X, X, X, X>), sizeof(X), sizeof(X), sizeof(X)}};
 
 } // namespace torvane

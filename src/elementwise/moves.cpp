@@ -1,12 +1,12 @@
 // What moves elements without an operator: copies, zeros, exclusive or of booleans, compensated sums of
 // pairs.
+#include "exceptions.h"
 #include "pieces.h"
 
 #include <torvane/machfuncs.h>
 #include <torvane/operators.h>
 #include <torvane/vectors.h>
 
-#include <fenv.h>
 #include <string.h>
 
 using namespace torvane;
@@ -20,6 +20,7 @@ template <class T> struct Target {
   T *data;
   mint stride;
   T *at(mint k) const { return data + ptrdiff_t{k} * stride; }
+  ByteRange bytes(mint count) const { return ByteRange(data, stride, sizeof(T), count); }
 };
 
 template <class T> struct Copy {
@@ -32,7 +33,7 @@ template <class T> struct Copy {
     else
       for (mint k = first; k < last; ++k) *result.at(k) = *x.at(k);
   }
-  bool isApart() const { return result.data != x.data; }
+  bool isApart(mint count) const { return !result.bytes(count).meets(x.bytes(count)); }
 };
 
 template <class T> struct Zero {
@@ -44,7 +45,7 @@ template <class T> struct Zero {
     else
       for (mint k = first; k < last; ++k) *result.at(k) = T{};
   }
-  bool isApart() const { return true; }
+  bool isApart(mint) const { return true; }
 };
 
 struct ExclusiveOr {
@@ -57,7 +58,10 @@ struct ExclusiveOr {
     else
       for (mint k = first; k < last; ++k) *result.at(k) = static_cast<uint8_t>(*x.at(k) ^ *y.at(k));
   }
-  bool isApart() const { return result.data != x.data && result.data != y.data; }
+  bool isApart(mint count) const {
+    const ByteRange written = result.bytes(count);
+    return !written.meets(x.bytes(count)) && !written.meets(y.bytes(count));
+  }
 
 private:
   static void runDense(uint8_t *to, const uint8_t *a, const uint8_t *b, mint count) {
@@ -69,10 +73,10 @@ template <class Move> void runPiece(void *closure, ParallelWorker *worker) {
   static_cast<const Move *>(closure)->run(ParallelWorker_first(worker), ParallelWorker_last(worker));
 }
 
-// One target for all elements is a race, and so may be a shared one: these run serially.
+// One target for all elements is a race, and so is one that another piece reads: these run serially.
 template <class Move> mint runMove(Move move, RoutineArity arity, mint count) {
   if (count <= 0) return 0;
-  if (move.result.stride != 0 && move.isApart() && goesParallel(arity, count))
+  if (goesParallel(arity, count) && move.result.stride != 0 && move.isApart(count))
     return runElementPieces(&move, runPiece<Move>, count);
   move.run(0, count);
   return 0;
@@ -93,10 +97,9 @@ template <class T> mint zeroRun(T *result, mint count, const mint *strides) {
 mint addPairs(TorvaneBinaryRoutine plus, void *result, const void *x, const void *y, mint count,
               const mint *strides, mint flags) {
   if (result != x || (flags & TORVANE_CHECK_REALS) == 0) return plus(result, x, y, count, strides, flags);
-  constexpr int kFailing = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
-  feclearexcept(kFailing);
+  clearFailingExceptions();
   plus(result, x, y, count, strides, flags & ~TORVANE_CHECK_REALS);
-  return fetestexcept(kFailing) != 0 ? 1 : 0;
+  return hasFailingExceptions() ? 1 : 0;
 }
 
 } // namespace

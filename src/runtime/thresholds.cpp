@@ -1,6 +1,7 @@
 #include "thresholds.h"
 
 #include "platform_cpu.h"
+#include "platform_cpu_level.h"
 #include "startup.h"
 #include <torvane/elementwise.h>
 
@@ -50,6 +51,7 @@ void initializeThresholds(mint stage) {
     setParallelDisabled(0);
     resetLengthThresholds();
     resetVendorThresholds();
+    setProcessorLevel(highestProcessorLevel());
   } else if (stage == 1) {
     countProcessors();
     if (workerCountFixed() == 0) setWorkerCount(coreCount());

@@ -1,5 +1,7 @@
 // Every vector routine of the operator tables against its typed entries, bit for bit: all shapes of
-// strides, lengths 0 to 67, in place and apart, every setting of the flags, red zones around each buffer.
+// strides, lengths 0 to 67, in place and apart, every setting of the flags, red zones around each buffer, at
+// each processor level that the machine has.
+#include "at_levels.h"
 #include "elementwise/result_types.h"
 #include "scalar/operator_table.h"
 #include "support/kinds.h"
@@ -120,8 +122,7 @@ Buffer filled(mint kind, mint count, mint stride, std::mt19937_64 &random) {
 }
 
 // Stored elements agree; the failing one and what a stride skips are untouched where that is promised.
-void expectStored(const Buffer &result, const Expectation &expected, mint count, mint stride,
-                  Testing testing) {
+void expectStored(const Buffer &result, const Expectation &expected, mint count, mint stride, bool inPlace) {
   std::vector<bool> mayChange(result.count());
   const ptrdiff_t first = firstIndex(count, stride);
   for (size_t k = 0; k < expected.elements.size(); ++k) {
@@ -130,7 +131,7 @@ void expectStored(const Buffer &result, const Expectation &expected, mint count,
     if (stride != 0 || k + 1 == expected.elements.size())
       ASSERT_EQ(result.get(index), expected.elements[k]) << "element " << k << " of " << count;
   }
-  const bool laterOnesMayChange = testing != Testing::byElement;
+  const bool laterOnesMayChange = !inPlace;
   for (mint k = 0; laterOnesMayChange && k < count; ++k)
     mayChange[size_t(first + ptrdiff_t{k} * stride)] = true;
   for (size_t k = 0; k < result.count(); ++k)
@@ -161,10 +162,13 @@ void checkUnary(const UnaryOperator &op, mint kind, mint count, const mint (&str
   ASSERT_EQ(routine(result.at(firstIndex(count, strides[0])), x.at(firstX), count, strides, flags),
             expected.position);
   ASSERT_EQ(setExceptionActive(pending), 77) << "a routine raises nothing";
-  expectStored(result, expected, count, strides[0], testing);
+  expectStored(result, expected, count, strides[0], inPlace);
 }
 
-TEST(UnaryRoutines, AreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
+using TypedRoutines = AtLevel;
+INSTANTIATE_TEST_SUITE_P(AtLevel, TypedRoutines, testing::Range(mint{0}, levelsToTest()));
+
+TEST_P(TypedRoutines, OfOneOperandAreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
   std::mt19937_64 random(1);
   const mint shapes[][2] = {{1, 1}, {1, 0}, {2, 1}, {1, 3}, {-1, 1}, {1, -2}, {3, -1}, {0, 1}};
   for (const UnaryOperator &op : unaryOperators())
@@ -182,6 +186,9 @@ TEST(UnaryRoutines, AreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
 }
 
 using BinaryOperator = Operator<BinaryRow, TypedBinary>;
+
+// Where the result goes: onto an operand, or apart from both.
+enum class Place { apart, first, second };
 
 // The processor traps on the most negative integer divided by -1.
 bool dividesIntegers(const BinaryRow &row, mint kind) {
@@ -201,7 +208,8 @@ bool widensMixedPairs(const BinaryRow &row) {
 }
 
 void checkBinary(const BinaryOperator &op, mint kind1, mint kind2, mint count, const mint (&strides)[3],
-                 mint flags, bool inPlace, std::mt19937_64 &random) {
+                 mint flags, Place place, std::mt19937_64 &random) {
+  const bool inPlace = place == Place::first;
   const TorvaneBinaryRoutine routine =
       machfunsarray_2[9 * (op.row.number - 256) + 3 * (kind1 - 2) + kind2 - 2];
   const mint kind = std::max(kind1, kind2); // both operands widen to the wider kind
@@ -216,20 +224,20 @@ void checkBinary(const BinaryOperator &op, mint kind1, mint kind2, mint count, c
   };
   const Expectation expected = expectation(op, kind, resultKind, testing, count, apply);
   Buffer apart(resultKind, extent(count, strides[0]));
-  Buffer &result = inPlace ? x : apart;
+  Buffer &result = place == Place::first ? x : place == Place::second ? y : apart;
   SCOPED_TRACE(testing::Message() << kKindNames[kind1 - 2] << kKindNames[kind2 - 2] << "_" << op.row.vector
                                   << " count " << count << " strides " << strides[0] << " " << strides[1]
-                                  << " " << strides[2] << " flags " << flags << " in place " << inPlace);
+                                  << " " << strides[2] << " flags " << flags << " place " << int(place));
   const mint pending = setExceptionActive(77);
   ASSERT_EQ(
       routine(result.at(firstIndex(count, strides[0])), x.at(firstX), y.at(firstY), count, strides, flags),
       expected.position);
   ASSERT_EQ(setExceptionActive(pending), 77) << "a routine raises nothing";
-  expectStored(result, expected, count, strides[0], testing);
+  expectStored(result, expected, count, strides[0], inPlace);
   ASSERT_TRUE(y.zonesHold());
 }
 
-TEST(BinaryRoutines, AreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
+TEST_P(TypedRoutines, OfTwoOperandsAreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
   std::mt19937_64 random(2);
   const mint shapes[][3] = {{1, 1, 1}, {1, 0, 1},   {1, 1, 0},  {1, 0, 0},
                             {2, 1, 3}, {-1, 1, -2}, {3, -1, 0}, {0, 1, 1}};
@@ -241,13 +249,78 @@ TEST(BinaryRoutines, AreTheirTypedEntriesAtEveryShapeLengthAndFlag) {
       for (const mint flags : kFlagSettings)
         for (mint count = 0; count <= 67; ++count) {
           for (const auto &strides : shapes)
-            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, strides, flags, false, random));
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, strides, flags, Place::apart, random));
           const bool sameWidth = storedKind2(op.row.number, kind1, kind2) == kind1;
           if (sameWidth)
-            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, true, random));
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, Place::first, random));
           if (sameWidth)
-            ASSERT_NO_FATAL_FAILURE(checkBinary(op, kind1, kind2, count, {1, 1, 0}, flags, true, random));
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, {1, 1, 0}, flags, Place::first, random));
+          if (storedKind2(op.row.number, kind1, kind2) == kind2)
+            ASSERT_NO_FATAL_FAILURE(
+                checkBinary(op, kind1, kind2, count, {1, 1, 1}, flags, Place::second, random));
         }
+    }
+}
+
+// One element, alone and filling a run of registers, so that no neighbour hides what it accrues. `call` runs
+// the routine on so many copies of what `sample` has drawn.
+constexpr mint kCopies = 37;
+template <class Op, class Apply, class Sample, class Call>
+void checkAccrual(const Op &op, mint kind, mint storedKind, Apply apply, Sample sample, Call call) {
+  const Testing testing = testingOf(op.row, kind, TORVANE_CHECK_REALS, false);
+  if (testing != Testing::inBulk) return;
+  for (int k = 0; k < 1000; ++k) {
+    sample();
+    const Expectation expected = expectation(op, kind, storedKind, testing, 1, apply);
+    ASSERT_EQ(call(1), expected.position) << op.row.vector << " sample " << k;
+    ASSERT_EQ(call(kCopies), expected.position) << op.row.vector << " sample " << k;
+  }
+}
+
+void fill(Buffer &buffer, const Element &element) {
+  for (size_t k = 0; k < buffer.count(); ++k) buffer.set(ptrdiff_t(k), element);
+}
+
+TEST_P(TypedRoutines, OfOneOperandAccrueWhatTheirTypedEntriesAccrue) {
+  std::mt19937_64 random(3);
+  const mint dense[2] = {1, 1};
+  for (const UnaryOperator &op : unaryOperators())
+    for (mint kind = 3; kind <= 4; ++kind) {
+      if (op.row.number == 0 || (op.row.columns >> (kind - 2) & 1) == 0) continue;
+      const TorvaneUnaryRoutine routine = machfunsarray_1[3 * op.row.number + kind - 2];
+      Buffer x(kind, kCopies), result(storedKind1(op.row.number, kind), kCopies);
+      SCOPED_TRACE(kKindNames[kind - 2]);
+      ASSERT_NO_FATAL_FAILURE(checkAccrual(
+          op, kind, result.kind, [&](const TypedUnary &entry, mint k) { return entry(x.get(k)); },
+          [&] { fill(x, sampleElement(kind, random)); },
+          [&](mint count) { return routine(result.data(), x.data(), count, dense, TORVANE_CHECK_REALS); }));
+    }
+}
+
+TEST_P(TypedRoutines, OfTwoOperandsAccrueWhatTheirTypedEntriesAccrue) {
+  std::mt19937_64 random(4);
+  const mint dense[3] = {1, 1, 1};
+  for (const BinaryOperator &op : binaryOperators())
+    for (mint column = 0; column < 9; ++column) {
+      const mint kind1 = column / 3 + 2, kind2 = column % 3 + 2, kind = std::max(kind1, kind2);
+      if (op.row.number == 0 || (op.row.columns >> column & 1) == 0) continue;
+      if (kind1 != kind2 && !widensMixedPairs(op.row)) continue;
+      const TorvaneBinaryRoutine routine = machfunsarray_2[9 * (op.row.number - 256) + column];
+      Buffer x(kind1, kCopies), y(kind2, kCopies), result(storedKind2(op.row.number, kind1, kind2), kCopies);
+      SCOPED_TRACE(column);
+      ASSERT_NO_FATAL_FAILURE(checkAccrual(
+          op, kind, result.kind,
+          [&](const TypedBinary &entry, mint k) { return entry(x.get(k).as(kind), y.get(k).as(kind)); },
+          [&] {
+            fill(x, sampleElement(kind1, random));
+            fill(y, sampleElement(kind2, random));
+          },
+          [&](mint count) {
+            return routine(result.data(), x.data(), y.data(), count, dense, TORVANE_CHECK_REALS);
+          }));
     }
 }
 
@@ -273,7 +346,7 @@ TEST(OperatorTables, HoldTheRowsAndNothingElse) {
   EXPECT_EQ(machfunsarray_2[9 * 4 + 5], machfunc_dc_div);
 }
 
-TEST(UnaryRoutines, ScalarOperandFillsTheResult) {
+TEST(RoutineShapes, ScalarOperandFillsTheResult) {
   const mreal x = 9;
   mreal result[5] = {};
   const mint strides[2] = {1, 0};
@@ -281,7 +354,7 @@ TEST(UnaryRoutines, ScalarOperandFillsTheResult) {
   for (const mreal element : result) EXPECT_EQ(element, 3);
 }
 
-TEST(UnaryRoutines, NegativeCountDoesNothing) {
+TEST(RoutineShapes, NegativeCountDoesNothing) {
   const mint strides[2] = {1, 1};
   EXPECT_EQ(machfunc_d_sqrt(nullptr, nullptr, -3, strides, 6), 0);
   EXPECT_EQ(machfunc_i_minus(nullptr, nullptr, INT32_MIN, strides, 6), 0);

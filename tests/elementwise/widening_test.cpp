@@ -4,6 +4,8 @@
 #include "elementwise/real_first.h"
 #include "elementwise/repetition.h"
 #include "elementwise/widening.h"
+#include "runtime/startup.h"
+#include "runtime/thresholds.h"
 #include "runtime/failure.h"
 #include "support/failing_heap.h"
 #include "support/kinds.h"
@@ -469,8 +471,10 @@ TEST(RealFirst, RefusesWhatDoesNotWiden) {
 // ---- memory
 // -------------------------------------------------------------------------------------------------
 
-// Every request for memory fails in turn: status 5, nothing lost. Yields how often the slot stayed empty.
+// Every request for memory fails in turn: status 5, nothing lost. Yields how often the slot stayed empty. On
+// one thread, since a pool that finds no memory is no failure of the call.
 template <class Call> int failEveryRequestOf(Call call) {
+  const mint parallelBefore = setParallelDisabled(1);
   FailingHeap heap;
   int empty = 0;
   const int64_t failures = failEveryRequest(heap, [&] {
@@ -481,6 +485,7 @@ template <class Call> int failEveryRequestOf(Call call) {
     MTensor_delete(slot);
   });
   EXPECT_GT(failures, 0) << "the test asks for memory that the heap had at hand";
+  setParallelDisabled(parallelBefore);
   return empty;
 }
 
@@ -500,6 +505,20 @@ TEST(DispatchMemory, AFailureIsStatusFiveForEveryOperation) {
             1);
   // The real result may stand when memory for the complex one cannot be had; it is the caller's.
   failEveryRequestOf([&](MTensor **slot) { return realFirstUnary(slot, x.get(), kSqrt, 0); });
+}
+
+TEST(DispatchMemory, AFailureOfThePoolLeavesTheWorkToTheCaller) {
+  const Tensor x = tensorOf<mreal>({kLarge}, Reals(size_t(kLarge), -4)),
+               held = tensorOf<mreal>({kLarge}, Reals(size_t(kLarge)));
+  FailingHeap heap;
+  const int64_t failures = failEveryRequest(heap, [&] {
+    tearDownPool();
+    MTensor *slot = held.get();
+    EXPECT_EQ(tensorMathUnary(&slot, x.get(), kSquare, kReal, 0), 0);
+    EXPECT_EQ(elements<mreal>(held)[kLarge - 1], 16);
+    elements<mreal>(held)[kLarge - 1] = 0;
+  });
+  EXPECT_TRUE(workerCount() < 2 || failures > 0);
 }
 
 TEST(DispatchMemory, AFailureLeavesTheTensorOfTheSlotWithItsOwner) {

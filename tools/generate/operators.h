@@ -10,6 +10,8 @@ namespace generate {
 struct DerivedExport {
   Signature signature;
   std::string definition; // the body between its braces
+  std::string loopRecord; // of a vector routine with a loop: the record's type, and what it holds
+  std::string loop;
 };
 
 // All exports of one operator, under one comment.
@@ -21,6 +23,11 @@ struct ExportGroup {
 
 std::vector<ExportGroup> typedEntries();
 std::vector<ExportGroup> vectorRoutines();
+
+// Whether the loops of a family are compiled once a processor level, and then the member of its record that
+// is a routine's loop.
+bool hasLevels(const std::string &family);
+std::string loopMember(const DerivedExport &routine);
 
 // The name of the routine in column `column` of a unary or binary row, empty where there is none.
 std::string unaryRoutineName(const torvane::UnaryRow &row, int column);

@@ -21,14 +21,52 @@ std::string header(const std::string &guard, const std::string &about,
   return text + "\nTORVANE_END_DECLARATIONS\n\n#endif\n";
 }
 
+std::string loopRecordOf(const std::string &family) {
+  return static_cast<char>(family[0] - 'a' + 'A') + family.substr(1) + "Loops";
+}
+
+// In the unit of the exports: the loops of the level in force.
+std::string loopsAccessor(const std::string &family) {
+  const std::string record = "torvane_loops::" + loopRecordOf(family);
+  return "\nstatic const " + record + " &loops() {\n  static constexpr const " + record +
+         " *byLevel[kProcessorLevels] = TORVANE_LOOPS_BY_LEVEL(" + family +
+         ");\n  return *byLevel[processorLevel()];\n}\n";
+}
+
+// For each family with levels the record of its loops, and the unit that fills it once a level.
+void writeLoopFiles(Files &files, const std::vector<ExportGroup> &routines) {
+  std::map<std::string, std::string> members, loops;
+  for (const ExportGroup &group : routines)
+    for (const DerivedExport &one : group.exports) {
+      if (!hasLevels(group.family) || one.loop.empty()) continue;
+      members[group.family] += "  " + one.loopRecord + " " + loopMember(one) + ";\n";
+      loops[group.family] += "    ." + loopMember(one) + " = " + one.loop + ",\n";
+    }
+  for (const auto &[family, text] : members) {
+    const std::string record = loopRecordOf(family), path = "src/elementwise/generated/" + family + "_loops";
+    files[path + ".h"] = std::string("// ") + kGeneratedNote +
+                         "\n#pragma once\n\n#include \"../levels.h\"\n#include \"../reduction_loops.h\"\n\nnamespace torvane_loops {\n\nstruct " +
+                         record + " {\n" + text + "};\nextern const " + record + " " + family + "_baseline, " +
+                         family + "_avx2, " + family + "_avx512;\n\n} // namespace torvane_loops\n";
+    files[path + ".cpp"] = std::string("// ") + kGeneratedNote + "\n#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include \"" +
+                           family + "_loops.h\"\n#include \"../../scalar/bodies/" + family +
+                           ".h\"\n\nusing namespace torvane;\n\nconst torvane_loops::" + record +
+                           " torvane_loops::TORVANE_LOOPS_HERE(" + family + ") = {\n" + loops[family] + "};\n";
+  }
+}
+
 // One translation unit a family: many small ones cost minutes of header reading.
 void writeUnits(Files &files, const std::string &folder, const std::string &includes,
                 const std::string &publicHeader, const std::vector<ExportGroup> &groups) {
   for (const ExportGroup &group : groups) {
     std::string &text = files[folder + "/generated/" + group.family + ".cpp"];
+    const bool isAtLevels = publicHeader == "machfuncs.h" && hasLevels(group.family);
+    const std::string loopsInclude = isAtLevels ? "#include \"" + group.family + "_loops.h\"\n" : "";
+    const std::string accessor = isAtLevels ? loopsAccessor(group.family) : "";
     if (text.empty())
       text = std::string("// ") + kGeneratedNote + "\n" + includes + "#include \"../../scalar/bodies/" +
-             group.family + ".h\"\n#include <torvane/" + publicHeader + ">\n\nusing namespace torvane;\n";
+             group.family + ".h\"\n" + loopsInclude + "#include <torvane/" + publicHeader +
+             ">\n\nusing namespace torvane;\n" + accessor;
     text += "\n";
     for (const DerivedExport &one : group.exports)
       text += prototype(one.signature, "") + " {\n  " + one.definition + "\n}\n";
@@ -89,8 +127,10 @@ void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines) {
       " * where that first occurs.",
       routines);
   writeUnits(files, "src/elementwise",
-             "#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include \"../reduction_driver.h\"\n",
+             "#include \"../drivers.h\"\n#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include "
+             "\"../reduction_driver.h\"\n",
              "machfuncs.h", routines);
+  writeLoopFiles(files, routines);
 }
 
 namespace {

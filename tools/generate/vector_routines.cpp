@@ -32,14 +32,25 @@ DerivedExport makeRoutine(const std::string &name, const std::string &shell,
   return routine;
 }
 
+// A routine that hands its loop to the driver of its arity: the loop of the level in force, or the only one.
+DerivedExport makeDriven(const std::string &family, const std::string &name, const std::string &arity,
+                         const std::string &loop, std::vector<std::string> operands) {
+  DerivedExport routine = makeRoutine(name, "drive" + arity, operands);
+  routine.loopRecord = arity + "Loop";
+  routine.loop = loop;
+  const std::string first = hasLevels(family) ? "loops()." + loopMember(routine) : loop;
+  routine.definition.replace(routine.definition.find("(result"), 1, "(" + first + ", ");
+  return routine;
+}
+
 ExportGroup unaryGroup(const UnaryRow &row) {
   ExportGroup group = {row.family, std::string("/* ") + row.vector + ": " + row.meaning + ". */", {}};
   for (int column = 0; column < 3; ++column) {
     const std::string name = unaryRoutineName(row, column);
     if (name.empty()) continue;
     const std::string functor = std::string("unary::") + row.typed;
-    group.exports.push_back(
-        makeRoutine(name, "unaryRoutine<" + listed({functor, kKindType[column]}) + ">", {"x"}));
+    group.exports.push_back(makeDriven(row.family, name, "Unary",
+                                       "kUnaryLoop<" + listed({functor, kKindType[column]}) + ">", {"x"}));
   }
   return group;
 }
@@ -51,7 +62,8 @@ ExportGroup binaryGroup(const BinaryRow &row) {
     if (name.empty()) continue;
     const std::string types =
         listed({std::string("binary::") + row.typed, kKindType[column / 3], kKindType[column % 3]});
-    group.exports.push_back(makeRoutine(name, "binaryRoutine<" + types + ">", {"x", "y"}));
+    group.exports.push_back(
+        makeDriven(row.family, name, "Binary", "kBinaryLoop<" + types + ">", {"x", "y"}));
   }
   return group;
 }
@@ -60,8 +72,8 @@ ExportGroup boundGroup(const BoundRow &row) {
   const std::string operand = std::to_string(row.operand), functor = std::string("binary::") + row.typed;
   ExportGroup group = {
       row.family, std::string("/* ") + row.vector + " with " + operand + " as second operand. */", {}};
-  const std::string shell = "boundRoutine<" + listed({functor, kKindType[0], operand}) + ">";
-  group.exports.push_back(makeRoutine(boundRoutineName(row), shell, {"x"}));
+  const std::string loop = "kBoundLoop<" + listed({functor, kKindType[0], operand}) + ">";
+  group.exports.push_back(makeDriven(row.family, boundRoutineName(row), "Unary", loop, {"x"}));
   return group;
 }
 
@@ -71,8 +83,9 @@ ExportGroup ternaryGroup(const TernaryRow &row) {
     if ((row.columns >> kind & 1) == 0) continue;
     const std::string name = "machfunc_" + std::string(3, kKindLetter[kind]) + "_" + row.typed;
     const std::string functor = std::string("ternary::") + row.typed;
-    group.exports.push_back(
-        makeRoutine(name, "ternaryRoutine<" + listed({functor, kKindType[kind]}) + ">", {"a", "x", "y"}));
+    group.exports.push_back(makeDriven(row.family, name, "Ternary",
+                                       "kTernaryLoop<" + listed({functor, kKindType[kind]}) + ">",
+                                       {"a", "x", "y"}));
   }
   return group;
 }
@@ -94,18 +107,29 @@ ExportGroup reductionGroup(const ReductionRow &row) {
     const std::string arity = isPair ? "PairReduction" : "Reduction";
     const std::string loop =
         "k" + arity + "Loop<" + listed({std::string("reduction::") + row.vector, kKindType[kind]}) + ">";
-    DerivedExport routine = isPair ? makeRoutine(name, "drive" + arity, {"x", "y"})
-                                   : makeRoutine(name, "drive" + arity, {"data"});
+    DerivedExport routine = isPair ? makeDriven(row.family, name, arity, loop, {"x", "y"})
+                                   : makeDriven(row.family, name, arity, loop, {"data"});
     routine.signature.parameters[0] = {accumulatorType(row, kind), "accumulator"};
     for (size_t k = 1; k <= static_cast<size_t>(row.operands); ++k)
       routine.signature.parameters[k].type = {operandTypes[kind], "ptr", ""};
-    routine.definition.replace(routine.definition.find("(result"), 7, "(" + loop + ", accumulator");
+    routine.definition.replace(routine.definition.find(", result"), 8, ", accumulator");
     group.exports.push_back(routine);
   }
   return group;
 }
 
 } // namespace
+
+// The families whose loops a compiler turns into vectors. The others spend their time in the C library.
+bool hasLevels(const std::string &family) {
+  for (const char *one : {"arithmetic", "bits", "comparison", "parts", "roots", "rounding"})
+    if (family == one) return true;
+  return false;
+}
+
+std::string loopMember(const DerivedExport &routine) {
+  return routine.signature.name.substr(std::string("machfunc_").size());
+}
 
 std::string unaryRoutineName(const UnaryRow &row, int column) {
   if ((row.columns >> column & 1) == 0) return "";

@@ -53,10 +53,11 @@ namespace binary {
 // The pair functions of C: a NaN on one side yields the other value. Of equal values the first.
 struct max {
   template <class Form, class T> static constexpr T apply(error &code, T x, T y) {
+    const T larger = x < y ? y : x; // one instruction, which passes a NaN of x
     if constexpr (isInteger<T>)
-      return Form::fit(code, false, x < y ? y : x);
+      return Form::fit(code, false, larger);
     else
-      return x < y || x != x ? y : x;
+      return x != x ? y : larger;
   }
   template <class Form> static constexpr Real16 pattern(error &, Real16 x, Real16 y) {
     if (isNaN(x)) return y;
@@ -66,10 +67,11 @@ struct max {
 
 struct min {
   template <class Form, class T> static constexpr T apply(error &code, T x, T y) {
+    const T smaller = y < x ? y : x;
     if constexpr (isInteger<T>)
-      return Form::fit(code, false, y < x ? y : x);
+      return Form::fit(code, false, smaller);
     else
-      return y < x || x != x ? y : x;
+      return x != x ? y : smaller;
   }
   template <class Form> static constexpr Real16 pattern(error &, Real16 x, Real16 y) {
     if (isNaN(x)) return y;
@@ -82,8 +84,11 @@ struct min {
 namespace unary {
 
 struct ramp {
-  template <class Form, class T> static constexpr T apply(error &code, T x) {
-    return binary::max::apply<Plain>(code, x, T(0));
+  template <class Form, class T> static constexpr T apply([[maybe_unused]] error &code, T x) {
+    if constexpr (isReal<T>)
+      return x >= T(0) ? x : T(0); // the zero of either sign stays, a NaN goes
+    else
+      return binary::max::apply<Plain>(code, x, T(0));
   }
 };
 
