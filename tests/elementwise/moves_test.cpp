@@ -254,4 +254,18 @@ TEST_F(ConcurrentMoves, CompensatedPlusInPiecesStoresWhatOneLoopStores) {
   }
 }
 
+// Ranges that meet are a race as well, whichever of them begins first; ranges that only touch are none.
+TEST_F(ConcurrentMoves, BetweenRangesThatMeetMakeNoPool) {
+  constexpr mint kCount = 60000;
+  const mint dense[2] = {1, 1}, down[2] = {-1, -1};
+  std::vector<mreal> list(2 * kCount, 1.0);
+  mreal *const data = list.data();
+  machfunc_d_copy(data + 1, data, kCount, dense, 0);
+  machfunc_d_copy(data, data + kCount - 1, kCount, dense, 0);
+  machfunc_d_copy(data + kCount, data + kCount - 1, kCount, down, 0);
+  EXPECT_FALSE(poolExists());
+  machfunc_d_copy(data, data + kCount, kCount, dense, 0);
+  EXPECT_TRUE(poolExists());
+}
+
 } // namespace

@@ -318,4 +318,50 @@ TEST_F(ConcurrentTernaries, FailAtTheSmallestPositionWithEverythingBeforeItStore
     }
 }
 
+// 101 elements on three workers: pieces start at 0, 33 and 67.
+TEST_F(ConcurrentTernaries, ABulkTestTellsTheStartOfTheFirstPieceThatFails) {
+  for (const Routine &routine : routines())
+    for (const auto &[at, start] : {std::pair{100, 67}, {67, 67}, {66, 33}, {33, 33}, {32, 0}, {0, 0}}) {
+      if (routine.kind == 2) continue;
+      Vectors vectors(routine, 101);
+      vectors.put(at, failing(routine));
+      vectors.put(100, failing(routine));
+      Operand own(routine.kind, 101, 1);
+      ASSERT_EQ(call(routine, own.start(), vectors.operands, {101, 2, apart}, kDense), start + 1)
+          << routine.name;
+      ASSERT_EQ(call(routine, vectors.operands[0].start(), vectors.operands, {101, 2, onA}, kDense), at + 1)
+          << routine.name;
+    }
+}
+
+TEST_F(ConcurrentTernaries, DivisionByAComplexZeroIsFoundAtItsElementInEveryPiece) {
+  const Routine &adxmy = routines().back();
+  for (const mint flags : {0, 2})
+    for (const mint at : {100, 67, 66, 33, 32, 0}) {
+      Vectors vectors(adxmy, 101);
+      vectors.put(at, {Element{4, {1, 1}}, Element{4, {2, 5}}, Element{4, {2, 5}}});
+      Operand own(4, 101, 1);
+      EXPECT_EQ(call(adxmy, own.start(), vectors.operands, {101, flags, apart}, kDense), at + 1);
+    }
+}
+
+TEST_F(ConcurrentTernaries, MakeAPoolFromTheThresholdOfTheirEntryOnUnlessTheyStoreOntoAnOperand) {
+  setVectorParallelLengthThreshold(4, 32768);
+  for (const Routine &routine : routines()) {
+    Vectors vectors(routine, 32768);
+    Operand own(routine.kind, 32768, 1);
+    const auto makesAPool = [&](mint count, void *result, const mint *strides) {
+      tearDownPool();
+      EXPECT_EQ(call(routine, result, vectors.operands, {count, 0, apart}, strides), 0);
+      return poolExists();
+    };
+    const mint oneResult[4] = {0, 1, 1, 1};
+    EXPECT_TRUE(makesAPool(32768, own.start(), kDense)) << routine.name;
+    EXPECT_FALSE(makesAPool(32767, own.start(), kDense)) << routine.name;
+    EXPECT_FALSE(makesAPool(32768, own.start(), oneResult)) << "one result for all";
+    for (Operand &operand : vectors.operands)
+      EXPECT_FALSE(makesAPool(32768, operand.start(), kDense)) << routine.name;
+  }
+}
+
 } // namespace
