@@ -1,6 +1,6 @@
-// Transpositions of reals beside Eigen and OpenBLAS, all in this process: rounds alternate between the
-// candidates, and the least of each counts. Prints nanoseconds an element and our ratio to the best peer.
-// OpenBLAS is asked for where the dynamic loader finds it.
+// Transpositions of reals beside Eigen, OpenBLAS and Fortran's own, all in this process: rounds alternate
+// between the candidates, and the least of each counts. Prints nanoseconds an element and our ratio to the best
+// peer. OpenBLAS is asked for where the dynamic loader finds it, Fortran where there is a compiler for it.
 //
 //   bench_transposition [rounds]
 #include "algorithms/transpose_rectangle.h"
@@ -17,6 +17,8 @@
 #include <cstring>
 #include <functional>
 #include <vector>
+
+extern "C" void transpose_by_fortran(const double *from, double *to, int rows, int columns);
 
 namespace {
 
@@ -67,13 +69,18 @@ void measureCopy(mint rows, mint columns) {
   MTensor *matrix = newMatrix(rows, columns), *result = newMatrix(columns, rows);
   auto *from = static_cast<mreal *>(matrix->data), *to = static_cast<mreal *>(result->data);
   const Run blas = [=] { blasCopy(101, 112, rows, columns, 1, from, columns, to, rows); };
+#ifdef TORVANE_FORTRAN
+  const Run fortran = [=] { transpose_by_fortran(from, to, rows, columns); };
+#else
+  const Run fortran;
+#endif
   const auto ns =
       leastOf({[&] { Runtime_MTensor_12TransposeConjugate(&result, matrix, 0); },
                [=] { Matrix(to, columns, rows).noalias() = Matrix(from, rows, columns).transpose(); },
-               blasCopy != nullptr ? blas : Run(),
+               blasCopy != nullptr ? blas : Run(), fortran,
                [=] { std::memcpy(to, from, sizeof(mreal) * static_cast<size_t>(matrix->elementCount)); }},
               static_cast<double>(matrix->elementCount));
-  print("copied", rows, columns, ns, 2);
+  print("copied", rows, columns, ns, 3);
   MTensor_delete(matrix);
   MTensor_delete(result);
 }
@@ -109,8 +116,8 @@ int main(int argc, char **argv) {
   setenv("OPENBLAS_NUM_THREADS", "1", 1);
   if (void *blas = dlopen("libopenblas.so.0", RTLD_NOW))
     blasCopy = reinterpret_cast<CopyTransposed>(dlsym(blas, "cblas_domatcopy"));
-  std::printf("%-10s %8s   %-8s %9s %9s %9s %9s %7s\n", "ns", "rows", "columns", "ours", "Eigen", "OpenBLAS",
-              "memcpy", "ratio");
+  std::printf("%-10s %8s   %-8s %9s %9s %9s %9s %9s %7s\n", "ns", "rows", "columns", "ours", "Eigen", "OpenBLAS",
+              "Fortran", "memcpy", "ratio");
   for (const auto &[rows, columns] :
        {std::pair{100, 100}, {1000, 1000}, {1500, 700}, {4096, 4096}, {3, 1000000}, {1000000, 3}})
     measureCopy(rows, columns);
