@@ -3,7 +3,7 @@
 
 #include "order_radix.h"
 #include "order_runs.h"
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 
 #include <torvane/sorting.h>
 
@@ -32,15 +32,15 @@ bool holdsNaN(const mcomplex *x, mint count) { return holdsNaN(&x->re, 2 * stati
 
 // False where the memory cannot be had.
 template <class Element> bool orderByRadix(mint *rows, RowKeys<Element> keys, mint count) {
-  const Scratch words(2 * sizeof(uint64_t) * uint64_t{static_cast<uint32_t>(count)}, kQuiet);
-  const Scratch counts(sizeof(DigitCounts), kQuiet);
+  const ScratchBytes words(2 * sizeof(uint64_t) * uint64_t{static_cast<uint32_t>(count)}, kQuiet);
+  const ScratchBytes counts(sizeof(DigitCounts), kQuiet);
   if (!words || !counts) return false;
   RadixOrder<Element>(keys, words.as<uint64_t>(), count, counts.as<DigitCounts>()).order(rows, count);
   return true;
 }
 
 template <class Order> mint orderByMerging(mint *rows, const Order &order, mint count, bool *wereInOrder) {
-  const Scratch scratch(uint64_t{sizeof(mint)} * static_cast<uint32_t>(count / 2), kReport);
+  const ScratchBytes scratch(uint64_t{sizeof(mint)} * static_cast<uint32_t>(count / 2), kReport);
   if (!scratch && count > 1) return kSizeFailed;
   *wereInOrder = MergeSort(order, scratch.as<mint>()).sort(rows, count);
   return kSuccess;

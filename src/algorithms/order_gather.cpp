@@ -1,6 +1,6 @@
 // Rows of a tensor collected by number.
 #include "order.h"
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 #include "result_tensor.h"
 
 #include <string.h>
@@ -58,7 +58,7 @@ mint MTensor_gatherRows(MTensor **resultSlot, MTensor *tensor, const MTensor *in
   const mint count = indices->elementCount;
   const auto *rows = static_cast<const mint *>(indices->data);
   if (!areWithin(rows, count, rowCountOf(tensor))) return kWrongDimensions;
-  const Scratch extents(sizeof(mint) * static_cast<uint64_t>(tensor->rank), kReport);
+  const ScratchBytes extents(sizeof(mint) * static_cast<uint64_t>(tensor->rank), kReport);
   if (!extents) return kSizeFailed;
   auto *dimensions = extents.as<mint>();
   memcpy(dimensions, tensor->dimensions, sizeof(mint) * static_cast<size_t>(tensor->rank));

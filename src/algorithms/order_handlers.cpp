@@ -1,7 +1,7 @@
 // Ordering, OrderingInteger and OrderedQ, by name.
 #include "handler.h"
 #include "order.h"
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 #include "result_tensor.h"
 
 #include <numeric>
@@ -37,7 +37,7 @@ mint partialOrdering(MTensor **slot, const MTensor *tensor, mint n) {
   const int64_t taken = n < 0 ? -int64_t{n} : n;
   if (taken > count) return kValueFailed;
   const auto length = static_cast<mint>(taken);
-  const Scratch order(uint64_t{sizeof(mint)} * static_cast<uint32_t>(count), kReport);
+  const ScratchBytes order(uint64_t{sizeof(mint)} * static_cast<uint32_t>(count), kReport);
   if (!order && count > 0) return kSizeFailed;
   std::iota(order.as<mint>(), order.as<mint>() + count, 1); // what rows without elements keep
   bool wereInOrder;

@@ -3,21 +3,6 @@
 
 namespace torvane {
 
-namespace {
-
-// The guard bits and the reference count belong to the record, not to what it holds.
-void exchangeContent(MTensor *record, MTensor *other) {
-  std::swap(record->dimensions, other->dimensions);
-  std::swap(record->data, other->data);
-  std::swap(record->rank, other->rank);
-  std::swap(record->elementCount, other->elementCount);
-  const mint type = other->type;
-  MTensor_setType(other, record->type);
-  MTensor_setType(record, type);
-}
-
-} // namespace
-
 ResultTensor::~ResultTensor() { MTensor_delete(made); }
 
 mint ResultTensor::allocate(mint type, mint rank, const mint *dimensions, mint errorMode) {
@@ -29,7 +14,7 @@ mint ResultTensor::commit() {
   if (isFresh)
     *slot = std::exchange(made, nullptr);
   else if (isApart)
-    exchangeContent(*slot, made);
+    exchangeContents(*slot, made);
   return kSuccess;
 }
 

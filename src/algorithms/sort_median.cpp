@@ -1,7 +1,7 @@
 // Medians of vectors and of columns. Complex numbers have the median of their order, by real part first.
 #include "handler.h"
 #include "order.h"
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 #include "result_tensor.h"
 #include "sort_values.h"
 
@@ -25,7 +25,7 @@ template <class Element> bool sortedByValue(const Element *from, Element *to, mi
 // Through the order of the rows. 0, or 403.
 template <class Element> mint sortByOrder(const Element *from, Element *to, mint count) {
   const auto rows = static_cast<uint64_t>(count);
-  const Scratch order(rows * sizeof(mint), kReport), copy(rows * sizeof(Element), kReport);
+  const ScratchBytes order(rows * sizeof(mint), kReport), copy(rows * sizeof(Element), kReport);
   if (!order || !copy) return kSizeFailed;
   memcpy(copy.as<Element>(), from, static_cast<size_t>(count) * sizeof(Element));
   MTensor vector = {};
@@ -51,7 +51,7 @@ template <class Element> mint medianOf(const Element *x, mint count, Element *so
 
 template <class Element> mint medianOfVector(const MTensor *tensor, void *result) {
   const mint count = tensor->elementCount;
-  const Scratch sorted(static_cast<uint64_t>(count) * sizeof(Element), kReport);
+  const ScratchBytes sorted(static_cast<uint64_t>(count) * sizeof(Element), kReport);
   if (!sorted) return kSizeFailed;
   Element median;
   const mint status =
@@ -63,7 +63,7 @@ template <class Element> mint medianOfVector(const MTensor *tensor, void *result
 template <class Element> mint mediansOfColumns(const MTensor *tensor, Element *medians) {
   const mint count = rowCountOf(tensor), columns = rowLengthOf(tensor);
   const auto *data = static_cast<const Element *>(tensor->data);
-  const Scratch column(static_cast<uint64_t>(count) * sizeof(Element), kReport);
+  const ScratchBytes column(static_cast<uint64_t>(count) * sizeof(Element), kReport);
   if (!column) return kSizeFailed;
   auto *x = column.as<Element>();
   mint status = kSuccess;

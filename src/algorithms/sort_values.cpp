@@ -6,7 +6,7 @@
 #include "sort_values.h"
 
 #include "order_radix.h"
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 
 #include <limits>
 
@@ -146,7 +146,7 @@ bool isOfNumbers(Span<uint64_t> span) {
 bool sortValues(const mint *from, mint *to, mint count) {
   if (count < kFewValues) return sortFew(from, to, count);
   const auto [least, greatest] = spanOf(from, count);
-  const Scratch counts(sizeof(DigitCounts), kQuiet);
+  const ScratchBytes counts(sizeof(DigitCounts), kQuiet);
   if (!counts) return false;
   const uint32_t span = greatest - least;
   if (span < sizeof(DigitCounts) / sizeof(uint32_t)) {
@@ -154,7 +154,7 @@ bool sortValues(const mint *from, mint *to, mint count) {
     return true;
   }
   if (writeDistinct(from, to, count)) return true;
-  const Scratch scratch(sizeof(mint) * uint64_t{static_cast<uint32_t>(count)}, kQuiet);
+  const ScratchBytes scratch(sizeof(mint) * uint64_t{static_cast<uint32_t>(count)}, kQuiet);
   if (!scratch) return false;
   dealIntegers(from, to, scratch.as<mint>(), count, least, static_cast<mint>(std::bit_width(span)),
                counts.as<DigitCounts>());
@@ -167,7 +167,7 @@ bool sortValues(const mreal *from, mreal *to, mint count) {
   if (count < kFewValues) return sortFew(from, to, count);
   if (writeDistinct(from, to, count)) return true;
   const auto bytes = sizeof(mreal) * uint64_t{static_cast<uint32_t>(count)};
-  const Scratch front(bytes, kQuiet), back(bytes, kQuiet), counts(sizeof(DigitCounts), kQuiet);
+  const ScratchBytes front(bytes, kQuiet), back(bytes, kQuiet), counts(sizeof(DigitCounts), kQuiet);
   if (!front || !back || !counts) return false;
   auto *words = front.as<uint64_t>();
   for (mint k = 0; k < count; ++k) words[k] = keyOf(from[k]);

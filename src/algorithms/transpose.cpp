@@ -2,7 +2,7 @@
 #include "transpose.h"
 
 #include "handler.h"
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 #include "result_tensor.h"
 #include "transpose_levels.h"
 #include "transpose_rectangle.h"
@@ -78,7 +78,7 @@ mint buildLevels(const LevelMap &map, const MTensor *tensor, Level *levels) {
 }
 
 mint copyMapped(MTensor **slot, MTensor *tensor, Level *levels, mint count, mint conjugate) {
-  const Scratch extents(static_cast<uint64_t>(count) * sizeof(mint), kReport);
+  const ScratchBytes extents(static_cast<uint64_t>(count) * sizeof(mint), kReport);
   if (!extents && count > 0) return kSizeFailed;
   for (mint k = 0; k < count; ++k) extents.as<mint>()[k] = levels[k].length;
   ResultTensor result(slot, {tensor});
@@ -93,7 +93,7 @@ mint copyMapped(MTensor **slot, MTensor *tensor, Level *levels, mint count, mint
 
 mint transposeMapped(MTensor **slot, MTensor *tensor, const LevelMap &map, mint conjugate,
                      const mint *expectedRank) {
-  const Scratch levels(static_cast<uint64_t>(map.resultRank) * sizeof(Level), kReport);
+  const ScratchBytes levels(static_cast<uint64_t>(map.resultRank) * sizeof(Level), kReport);
   if (!levels && map.resultRank > 0) return kSizeFailed;
   const mint status = buildLevels(map, tensor, levels.as<Level>());
   if (status != kSuccess) return status;

@@ -13,7 +13,7 @@
 // the bound of an element count.
 #include "transpose_rectangle.h"
 
-#include "order_scratch.h"
+#include "scratch_bytes.h"
 #include "transpose_words.h"
 
 #include <algorithm>
@@ -142,8 +142,8 @@ private:
 template <class Word> bool transposeWords(char *data, uint32_t rows, uint32_t columns) {
   const Shape shape(std::min(rows, columns), std::max(rows, columns));
   const uint64_t strip = uint64_t{shape.stripWidth(sizeof(Word))} * shape.rows;
-  const Scratch scratch(std::max<uint64_t>(strip, shape.columns) * sizeof(Word), kQuiet);
-  const Scratch places(uint64_t{shape.columns} * sizeof(uint32_t), kQuiet);
+  const ScratchBytes scratch(std::max<uint64_t>(strip, shape.columns) * sizeof(Word), kQuiet);
+  const ScratchBytes places(uint64_t{shape.columns} * sizeof(uint32_t), kQuiet);
   if (!scratch || !places) return false;
   RectangleTransposer<Word> transposer(reinterpret_cast<Word *>(data), shape, scratch.as<Word>(),
                                        places.as<uint32_t>());
@@ -165,7 +165,7 @@ public:
   void set(uint32_t place) { words.as<uint32_t>()[place / 32] |= 1u << place % 32; }
 
 private:
-  Scratch words;
+  ScratchBytes words;
 };
 
 } // namespace
@@ -173,7 +173,7 @@ private:
 bool transposeByCycles(char *data, mint rows, mint columns, size_t bytes) {
   const auto a = static_cast<uint32_t>(rows), b = static_cast<uint32_t>(columns);
   Marks marks(a * b);
-  const Scratch held(bytes, kReport);
+  const ScratchBytes held(bytes, kReport);
   if (!marks || !held) return false;
   const auto at = [=](uint32_t place) { return data + size_t{place} * bytes; };
   for (uint32_t start = 1; start + 1 < a * b; ++start) {

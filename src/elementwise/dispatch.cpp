@@ -14,8 +14,6 @@
 #include "widening.h"
 #include <torvane/operators.h>
 
-#include <utility>
-
 namespace torvane {
 
 namespace {
@@ -110,16 +108,6 @@ bool alreadyHolds(const MTensor *result, mint type, const MTensor *x, const MTen
 }
 
 } // namespace
-
-void exchangeContents(MTensor *a, MTensor *b) {
-  const mint typeOfA = a->type;
-  std::swap(a->dimensions, b->dimensions);
-  std::swap(a->rank, b->rank);
-  std::swap(a->elementCount, b->elementCount);
-  std::swap(a->data, b->data);
-  MTensor_setType(a, b->type);
-  MTensor_setType(b, typeOfA);
-}
 
 mint tensorMathUnary(MTensor **result, MTensor *x, mint op, mint resultType, mint flags) {
   if (*result == x && x->type != resultType) return retypeInPlace(x, op, resultType, flags);

@@ -16,7 +16,4 @@ mint tensorMathBinary(MTensor **result, MTensor *x, MTensor *y, mint op, mint re
 constexpr mint statusOf(mint outcome) { return outcome >= kNoRoutine ? kValueFailed : kSuccess; }
 constexpr mint allocationStatus(mint status) { return status == kSizeFailed ? mint{kNoMemory} : status; }
 
-// Two tensors change type, shape and elements with each other; the records stay where they are.
-void exchangeContents(MTensor *a, MTensor *b);
-
 } // namespace torvane

@@ -4,6 +4,7 @@
 #include "../runtime/memory.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace torvane {
 
@@ -39,6 +40,16 @@ mint MTensor_setPayload(MTensor *tensor, mint type, mint rank, mint count, mint 
   tensor->elementCount = count;
   MTensor_setType(tensor, type);
   return kSuccess;
+}
+
+void exchangeContents(MTensor *a, MTensor *b) {
+  const mint typeOfA = a->type;
+  std::swap(a->dimensions, b->dimensions);
+  std::swap(a->rank, b->rank);
+  std::swap(a->elementCount, b->elementCount);
+  std::swap(a->data, b->data);
+  MTensor_setType(a, b->type);
+  MTensor_setType(b, typeOfA);
 }
 
 } // namespace torvane

@@ -36,6 +36,11 @@ void MTensor_setType(MTensor *tensor, mint type);
 void MTensor_applyTypeFlags(mint type, uint32_t *flags, MTensor *tensor);
 mint MTensor_setShape(MTensor *tensor, mint rank, const mint *dimensions, mint count, mint errorMode);
 mint MTensor_setPayload(MTensor *tensor, mint type, mint rank, mint count, mint errorMode);
+
+// Two tensors change type, shape and elements with each other. The records stay where they are, and with them
+// their guard bits and reference counts.
+void exchangeContents(MTensor *a, MTensor *b);
+
 mint MTensor_copyAsConstant(MTensor *target, const MTensor *source);
 
 // Whether an allocated tensor holds the invariant above, its blocks are as large as its fields say, and its
