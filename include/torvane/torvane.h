@@ -15,6 +15,8 @@
 #include "integers.h"
 #include "text.h"
 #include "parallel.h"
+#include "random.h"
+#include "distributions.h"
 #include "registry.h"
 #include "sorting.h"
 #include "transposition.h"
