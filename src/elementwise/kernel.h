@@ -38,11 +38,22 @@ template <class X, class Y> using WiderOf = ChooseOf<(kRank<X> < kRank<Y>), Y, X
 template <class T, class... Rest> struct First { using Type = T; };
 template <class... T> using FirstOf = typename First<T...>::Type;
 
+inline constexpr mint kLineBytes = 64;
+
+// A processor fetches ahead within a page and stops at its end. Where the run is longer than the caches, and
+// so one page after another is new, the first lines of the next piece are asked for before each piece.
+inline constexpr mint kLongRun = 65536, kPiece = 512, kLinesAhead = 4;
+template <int forWriting> void fetch(const void *data) {
+  for (mint line = 0; line < kLinesAhead; ++line)
+    __builtin_prefetch(static_cast<const char *>(data) + line * kLineBytes, forWriting);
+}
+
 // Element k of an operand: dense, at a stride, or one value for all of them, which is read once.
 template <class X> struct Dense {
   const X *data;
   X at(ptrdiff_t k) const { return data[k]; }
   Dense from(ptrdiff_t k) const { return {data + k}; }
+  void fetch(ptrdiff_t k) const { torvane::fetch<0>(data + k); }
 };
 template <class X> struct Strided {
   const X *data;
@@ -53,6 +64,7 @@ template <class X> struct Constant {
   explicit Constant(const X *data) : value(*data) {}
   X at(ptrdiff_t) const { return value; }
   Constant from(ptrdiff_t) const { return *this; }
+  void fetch(ptrdiff_t) const {}
 
   X value;
 };
@@ -104,7 +116,7 @@ inline __attribute__((always_inline)) mint runLoop(Result *result, ptrdiff_t ste
 // Elements before the first that begins a cache line: a wide access that crosses two lines costs as much as
 // two. Of the result, or of the first operand where its elements are wider and its lines so more. None where
 // the run is too short to gain, or where no element ever begins a line.
-inline constexpr mint kLineBytes = 64, kWorthAligning = 128;
+inline constexpr mint kWorthAligning = 128;
 template <class T> mint elementsBeforeLine(const T *data, mint count) {
   const uintptr_t past = reinterpret_cast<uintptr_t>(data) % kLineBytes;
   if (count < kWorthAligning || past == 0 || past % sizeof(T) != 0) return 0;
@@ -118,16 +130,23 @@ mint elementsBeforeLine(const Result *result, mint count, const First &first, co
     return elementsBeforeLine(result, count);
 }
 
-// Runs `run(start, length)` up to the first line and then from there on; the position of the first failure.
-template <class Run> inline __attribute__((always_inline)) mint fromLine(mint head, mint count, Run run) {
-  mint start = 0, length = head == 0 ? count : head;
-  for (;;) {
-    const mint position = run(start, length);
+// Runs `run(result, count, operands...)` up to the first line and from there on, in pieces of at most `most`,
+// or fewer where the run is long; the position of the first failure.
+template <class Run, class Result, class... X>
+inline __attribute__((always_inline)) mint inPieces(mint most, Run run, Result *result, mint count,
+                                                    X... operands) {
+  const bool isLong = count >= kLongRun;
+  const mint head = elementsBeforeLine(result, count, operands...), piece = isLong ? kPiece : most;
+  for (mint start = 0, length = head == 0 ? piece : head; start < count; start += length, length = piece) {
+    if (count - start < length) length = count - start;
+    if (isLong) {
+      fetch<1>(result + start + length);
+      (operands.fetch(start + length), ...);
+    }
+    const mint position = run(result + start, length, operands.from(start)...);
     if (position != 0) return start + position;
-    start += length;
-    if (start == count) return 0;
-    length = count - start;
   }
+  return 0;
 }
 
 // ---- blocks of lanes -------------------------------------------------------------------------------
@@ -155,7 +174,10 @@ template <class Result, class X> Sharing sharingOf(const Result *, mint, Constan
 template <bool stores, class Lanes, class T, class Result, class... X>
 bool runLanes(Result *result, mint count, X... operands) {
   typename Lanes::Suspicion suspicion = {};
-  for (ptrdiff_t k = 0; k < count; ++k) {
+  ptrdiff_t k = 0;
+  if constexpr (stores && requires { Lanes::first(suspicion, result, count, operands.data...); })
+    k = Lanes::first(suspicion, result, count, operands.data...);
+  for (; k < count; ++k) {
     const Result value = Lanes::lane(suspicion, convertTo<T>(operands.at(k))...);
     if constexpr (stores) result[k] = value;
   }
@@ -163,21 +185,13 @@ bool runLanes(Result *result, mint count, X... operands) {
 }
 
 template <class Form, class Op, class T, class Result, class... X>
-mint runBlocks(Result *result, mint count, bool inPlace, X... operands) {
+mint runBlock(Result *result, mint count, bool inPlace, X... operands) {
   using Lanes = LanesOf<Op, Form, T>;
-  mint size = elementsBeforeLine(result, count, operands...);
-  if (size == 0) size = kLaneBlock;
-  for (mint start = 0; start < count; start += size, size = kLaneBlock) {
-    if (count - start < size) size = count - start;
-    const bool isSuspect = inPlace ? runLanes<false, Lanes, T>(result + start, size, operands.from(start)...)
-                                   : runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
-    if (isSuspect) [[unlikely]] {
-      const mint position = runLoop<Form, Op, T>(result + start, 1, size, operands.from(start)...);
-      if (position != 0) return start + position;
-    } else if (inPlace) {
-      runLanes<true, Lanes, T>(result + start, size, operands.from(start)...);
-    }
-  }
+  const bool isSuspect = inPlace ? runLanes<false, Lanes, T>(result, count, operands...)
+                                 : runLanes<true, Lanes, T>(result, count, operands...);
+  if (isSuspect) [[unlikely]]
+    return runLoop<Form, Op, T>(result, 1, count, operands...);
+  if (inPlace) runLanes<true, Lanes, T>(result, count, operands...);
   return 0;
 }
 
@@ -186,11 +200,15 @@ mint runDense(Result *result, mint count, X... operands) {
   if constexpr (requires { typename LanesOf<Op, Form, T>::Suspicion; }) {
     const bool overlaps = ((sharingOf(result, count, operands) == Sharing::partly) || ...);
     const bool inPlace = ((sharingOf(result, count, operands) == Sharing::same) || ...);
-    if (!overlaps) return runBlocks<Form, Op, T>(result, count, inPlace, operands...);
+    const auto block = [inPlace](Result *target, mint length, X... x) {
+      return runBlock<Form, Op, T>(target, length, inPlace, x...);
+    };
+    if (!overlaps) return inPieces(kLaneBlock, block, result, count, operands...);
   }
-  return fromLine(elementsBeforeLine(result, count, operands...), count, [&](mint start, mint length) {
-    return runLoop<Form, Op, T>(result + start, 1, length, operands.from(start)...);
-  });
+  const auto oneByOne = [](Result *target, mint length, X... x) {
+    return runLoop<Form, Op, T>(target, 1, length, x...);
+  };
+  return inPieces(count, oneByOne, result, count, operands...);
 }
 
 // ---- shapes ----------------------------------------------------------------------------------------

@@ -5,10 +5,12 @@
 // same operator (scalar/bodies): an element that is not suspect has the body's value and no code. The reverse
 // is not asked: what is suspect is computed again by the body, so a lane may suspect a rare value that is
 // none of its business. A lane of reals raises no exception that its body does not raise on the same value,
-// unless the element fails.
+// unless the element fails. Where a level has more than the compiler makes of `lane`, `first` computes some
+// of the first elements of a dense run and tells how many.
 #pragma once
 
 #include "../scalar/evaluate.h"
+#include "square_roots.h"
 
 namespace torvane {
 
@@ -187,6 +189,13 @@ template <> struct LanesOf<unary::sqrt, Plain, mreal> : RealLanes {
     suspicion.add(x < 0);
     return __builtin_sqrt(x);
   }
+#ifdef __AVX512DQ__
+  static ptrdiff_t first(Suspicion &suspicion, mreal *result, ptrdiff_t count, const mreal *x) {
+    const SquareRoots roots = squareRoots(result, x, count);
+    suspicion.add(roots.anyNegative);
+    return roots.done;
+  }
+#endif
 };
 template <> struct LanesOf<unary::rsqrt, Plain, mreal> : RealLanes {
   static mreal lane(Suspicion &suspicion, mreal x) {
