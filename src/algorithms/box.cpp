@@ -26,6 +26,29 @@ template <class Move> void forRows(char *target, const char *source, const BoxAx
   for (size_t i = 0; i < rows.count; ++i, target += rows.target, source += rows.source) move(target, source);
 }
 
+// The lines of a block, so far ahead that they are there when its turn comes. What a processor fetches of its
+// own accord is what follows, and the next block does not follow.
+constexpr size_t kLine = 64, kAheadBytes = 2048;
+void fetchBlock(const char *target, const char *source, size_t block) {
+  for (size_t at = 0; at < block; at += kLine) {
+    __builtin_prefetch(source + at);
+    __builtin_prefetch(target + at, 1);
+  }
+}
+
+// Blocks of a line and more, each fetched before its turn.
+template <class Move>
+void forRowsAhead(char *target, const char *source, size_t block, const BoxAxis &rows, Move move) {
+  const size_t ahead = std::min(rows.count, 1 + kAheadBytes / block), fetched = rows.count - ahead;
+  const auto rowsAhead = static_cast<ptrdiff_t>(ahead);
+  forRows(target, source, {fetched, rows.target, rows.source}, [&](char *to, const char *from) {
+    fetchBlock(to + rowsAhead * rows.target, from + rowsAhead * rows.source, block);
+    move(to, from);
+  });
+  const auto done = static_cast<ptrdiff_t>(fetched);
+  forRows(target + done * rows.target, source + done * rows.source, {ahead, rows.target, rows.source}, move);
+}
+
 // Blocks of one element or two. A run that stands backwards in its source has a loop with constant strides,
 // which the compiler vectorises.
 template <size_t kBlock> void copyFixed(char *target, const char *source, size_t, const BoxAxis &rows) {
@@ -42,10 +65,20 @@ template <size_t kStep> void copySteps(char *target, const char *source, size_t 
 }
 
 void copyBlocks(char *target, const char *source, size_t block, const BoxAxis &rows) {
+  forRowsAhead(target, source, block, rows, [block](char *to, const char *from) { memcpy(to, from, block); });
+}
+
+void copyLines(char *target, const char *source, size_t block, const BoxAxis &rows) {
+  forRowsAhead(target, source, block, rows,
+               [block](char *to, const char *from) { moveSteps<16>(to, from, block); });
+}
+
+void copyLongBlocks(char *target, const char *source, size_t block, const BoxAxis &rows) {
   forRows(target, source, rows, [block](char *to, const char *from) { memcpy(to, from, block); });
 }
 
-constexpr size_t kLongBlock = 256; // from here on memcpy is worth its call
+// From these on memcpy is worth its call, and what the processor fetches of its own accord is enough.
+constexpr size_t kCalledBlock = 256, kLongBlock = 2048;
 
 using Rows = void (*)(char *, const char *, size_t, const BoxAxis &);
 
@@ -58,7 +91,11 @@ Rows rowsFor(size_t block) {
   case sizeof(mcomplex):
     return copyFixed<sizeof(mcomplex)>;
   default:
-    return block < 16 ? copySteps<8> : block < kLongBlock ? copySteps<16> : copyBlocks;
+    return block < 16             ? copySteps<8>
+           : block < kLine        ? copySteps<16>
+           : block < kCalledBlock ? copyLines
+           : block < kLongBlock   ? copyBlocks
+                                  : copyLongBlocks;
   }
 }
 
