@@ -5,31 +5,43 @@
 // scalars, which start from their first argument. Tensors and pairs start from a finite value of the type,
 // deliberately: an infinity is never their result from the side it comes from, and no elements leave that
 // value. The extreme of one tensor is the reductions', which follow the same rule in vector registers.
+#include "../elementwise/generated/comparison_loops.h"
+#include "../runtime/platform_cpu_level.h"
 #include "../scalar/scalar_types.h"
 #include "handler.h"
-
-#include <torvane/machfuncs.h>
 
 namespace torvane {
 
 namespace {
 
-inline constexpr mreal kLargestReal = 1.7976931348623157e308;
+using torvane_loops::ComparisonLoops;
+
+const ComparisonLoops &loops() {
+  static constexpr const ComparisonLoops *byLevel[kProcessorLevels] = TORVANE_LOOPS_BY_LEVEL(comparison);
+  return *byLevel[processorLevel()];
+}
+
+// A load of the widest registers that crosses a line of the cache costs two; short runs gain nothing.
+template <class Element> mint elementsBeforeLine(const void *data, mint count) {
+  constexpr size_t kLine = 64;
+  const size_t ahead = (0 - reinterpret_cast<size_t>(data)) % kLine / sizeof(Element);
+  return count < 1024 ? 0 : static_cast<mint>(ahead);
+}
+
+constexpr mreal kLargestReal = 1.7976931348623157e308;
 
 struct Least {
   template <class T> static bool replaces(T x, T current) { return x < current; }
   static constexpr mint start(mint) { return INT32_MAX; }
   static constexpr mreal start(mreal) { return kLargestReal; }
-  static constexpr auto integers = machfunc_i_min;
-  static constexpr auto reals = machfunc_d_min;
+  static constexpr auto integers = &ComparisonLoops::i_min, reals = &ComparisonLoops::d_min;
 };
 
 struct Greatest {
   template <class T> static bool replaces(T x, T current) { return x > current; }
   static constexpr mint start(mint) { return INT32_MIN; }
   static constexpr mreal start(mreal) { return -kLargestReal; }
-  static constexpr auto integers = machfunc_i_max;
-  static constexpr auto reals = machfunc_d_max;
+  static constexpr auto integers = &ComparisonLoops::i_max, reals = &ComparisonLoops::d_max;
 };
 
 template <class End, class T> struct Extreme {
@@ -46,14 +58,21 @@ template <class End, class T> struct Extreme {
   }
 
 private:
-  // No extreme fails: without flags nothing is checked.
-  template <class Element, class Reduction> mint takeElements(const MTensor *tensor, Reduction reduce) {
-    constexpr mint kDense[] = {1, 1};
-    if (tensor->elementCount < 1) return kSuccess;
-    Element extreme;
-    reduce(&extreme, static_cast<const Element *>(tensor->data), tensor->elementCount, kDense, 0);
-    take(extreme);
+  template <class Element>
+  mint takeElements(const MTensor *tensor, torvane_loops::ReductionLoop ComparisonLoops::*loop) {
+    const mint count = tensor->elementCount, ahead = elementsBeforeLine<Element>(tensor->data, count);
+    takeRun<Element>(loops().*loop, tensor, 0, ahead);
+    takeRun<Element>(loops().*loop, tensor, ahead, count);
     return kSuccess;
+  }
+  // Without checks, so that no extreme fails, and on this thread: workers gain little over elements that are
+  // read once.
+  template <class Element>
+  void takeRun(const torvane_loops::ReductionLoop &loop, const MTensor *tensor, mint first, mint last) {
+    if (first == last) return;
+    Element extreme;
+    loop.plain.run(&extreme, {{tensor->data, nullptr}, {1, 0}}, first, last);
+    take(extreme);
   }
 };
 

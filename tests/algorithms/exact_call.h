@@ -3,6 +3,7 @@
 #pragma once
 
 #include "named_call.h"
+#include "elementwise/at_levels.h"
 #include "support/failing_heap.h"
 
 #include <cstring>
@@ -136,6 +137,15 @@ inline void expectRequests(const NamedCall &call, int64_t requests) {
   const Tensor small = newTensor(TORVANE_TYPE_REAL, {2}), flat = newTensor(TORVANE_TYPE_REAL, {3, 2});
   EXPECT_EQ(failEveryAllocation(call, false), requests) << call.name;
   EXPECT_EQ(failEveryAllocation(call, true), requests) << call.name;
+}
+
+// At each processor level of this machine.
+template <class Body> void atEveryLevel(Body body) {
+  for (mint level = 0; level < levelsToTest(); ++level) {
+    const mint previous = setProcessorLevel(level);
+    body();
+    setProcessorLevel(previous);
+  }
 }
 
 // Shapes of a rank of at least `least`, small, some without elements.

@@ -1,10 +1,7 @@
 // Smallest and largest of scalars, tensors and tagged mixtures, against the rule one value at a time.
 #include "exact_call.h"
 
-#include "runtime/thresholds.h"
-#include "support/real_samples.h"
-
-#include <bit>
+#include <cmath>
 #include <limits>
 
 using namespace torvane;
@@ -159,17 +156,17 @@ TEST_F(Extremes, OtherTagsAndHalfPairsAreRefused) {
       EXPECT_EQ(lookupRuntimeFunction(name)(nullptr, count, nullptr, nullptr), 12) << name;
 }
 
-// Lengths around every width of registers, and one that goes to the workers.
+// Lengths around every width of registers, and around the one from which runs begin at a cache line.
 std::vector<mint> lengths() {
   std::vector<mint> all(68);
   std::iota(all.begin(), all.end(), 1);
-  for (mint length : {255, 1000, 40000}) all.push_back(length);
+  for (mint length : {255, 1000, 1023, 1024, 1031, 40000}) all.push_back(length);
   return all;
 }
 
 TEST_F(Extremes, OfIntegerTensorsAreThoseOfOneValueAtATime) {
   std::mt19937 random(3);
-  for (mint length : lengths()) {
+  const auto expectBoth = [&random](mint length) {
     std::vector<mint> values(size_t(length), 0);
     const bool isWide = random() % 2 == 0;
     for (mint &x : values) x = isWide ? mint(random()) : mint(random() % 7) - 3;
@@ -179,7 +176,10 @@ TEST_F(Extremes, OfIntegerTensorsAreThoseOfOneValueAtATime) {
       expectValue<mint>(NamedCall(isMax ? "MaxIT" : "MinIT").tensor(integers(values)), expected);
       expectValue<mreal>(NamedCall(isMax ? "MaxRT" : "MinRT").tensor(integers(values)), mreal(expected));
     }
-  }
+  };
+  atEveryLevel([&] {
+    for (mint length : lengths()) expectBoth(length);
+  });
 }
 
 mreal drawReal(std::mt19937 &random) {
@@ -189,21 +189,28 @@ mreal drawReal(std::mt19937 &random) {
   return mreal(mint(random())) * 1e-3;
 }
 
+// Of either sign, or of one sign and zeros of both, so that a zero is the extreme.
+enum class Signs { both, positive, negative };
+std::vector<mreal> drawReals(std::mt19937 &random, mint length, Signs signs) {
+  std::vector<mreal> values(size_t(length), 0);
+  for (mreal &x : values) {
+    x = drawReal(random);
+    if (x != 0 && signs != Signs::both) x = std::copysign(x, signs == Signs::positive ? 1.0 : -1.0);
+  }
+  return values;
+}
+
 TEST_F(Extremes, OfRealTensorsAreThoseOfOneValueAtATime) {
   std::mt19937 random(5);
-  for (mint length : lengths())
-    for (int form = 0; form < 3; ++form) {
-      std::vector<mreal> values(size_t(length), 0);
-      for (mreal &x : values) x = drawReal(random);
-      if (form > 0) // one side of zero only, so that zeros of both signs are the extreme
-        for (mreal &x : values) x = std::copysign(x, form == 1 || x == 0 ? (random() % 2 ? x : -x) : -1);
-      if (form == 2)
-        for (mreal &x : values)
-          if (x > 0) x = -x;
-      for (const bool isMax : {false, true})
-        expectValue<mreal>(NamedCall(isMax ? "MaxRT" : "MinRT").tensor(reals(values)),
-                           fold(isMax, isMax ? -kLargest : kLargest, values));
-    }
+  atEveryLevel([&random] {
+    for (mint length : lengths())
+      for (Signs signs : {Signs::both, Signs::positive, Signs::negative})
+        for (const bool isMax : {false, true}) {
+          const std::vector<mreal> values = drawReals(random, length, signs);
+          expectValue<mreal>(NamedCall(isMax ? "MaxRT" : "MinRT").tensor(reals(values)),
+                             fold(isMax, isMax ? -kLargest : kLargest, values));
+        }
+  });
 }
 
 TEST_F(Extremes, OfSeveralTensorsAreThoseOfAllTheirElementsInOrder) {

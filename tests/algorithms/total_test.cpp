@@ -95,30 +95,33 @@ TEST_F(Totals, OfRowsAreThoseOfOneAdditionAtATime) {
 // Around the eight rows and the strips of columns that are taken at a time, and every width of registers.
 TEST_F(Totals, OfRowsDoNotDependOnTheShape) {
   std::mt19937 random(4);
-  for (mint rows : {1, 7, 8, 9, 16, 31})
-    for (mint width : {1, 2, 3, 15, 16, 17, 67, 2047, 2048, 2049, 5000}) {
-      expectTotalsOf<mint>(drawTensor<mint>(random, {rows, width}));
-      expectTotalsOf<mreal>(drawTensor<mreal>(random, {rows, width}));
-      if (width < 70) expectTotalsOf<mcomplex>(drawTensor<mcomplex>(random, {rows, width}));
-    }
-  expectTotalsOf<mreal>(drawTensor<mreal>(random, {40000, 2}));
+  atEveryLevel([&random] {
+    for (mint rows : {1, 7, 8, 9, 31})
+      for (mint width : {1, 2, 3, 15, 16, 17, 67, 2047, 2048, 2049, 5000}) {
+        expectTotalsOf<mint>(drawTensor<mint>(random, {rows, width}));
+        expectTotalsOf<mreal>(drawTensor<mreal>(random, {rows, width}));
+        if (width < 70) expectTotalsOf<mcomplex>(drawTensor<mcomplex>(random, {rows, width}));
+      }
+    expectTotalsOf<mreal>(drawTensor<mreal>(random, {40000, 2}));
+  });
 }
 
 TEST_F(Totals, CheckedIntegersFailWhereverAPartialSumDoes) {
-  for (mint rows : {2, 3, 8, 9, 20})
-    for (mint width : {1, 5, 3000})
-      for (mint column : {0, width - 1})
-        for (mint row = 0; row + 1 < rows; ++row) {
-          std::vector<mint> values(size_t(rows * width), 0);
-          values[size_t(row * width + column)] = INT32_MAX;
-          values[size_t((row + 1) * width + column)] = 1; // and back again
-          if (row + 2 < rows) values[size_t((row + 2) * width + column)] = -5;
-          NamedCall call("Total");
-          call.tensor(tensorOf<mint>({rows, width}, values));
-          NamedCall checked(call);
-          EXPECT_EQ(Model<mint>(tensorOf<mint>({rows, width}, values)).failed, true);
-          expectFails(checked.integer(kIntegers), 1001);
-        }
+  const auto expectFailure = [](mint rows, mint width, mint row, mint column) {
+    std::vector<mint> values(size_t(rows * width), 0);
+    values[size_t(row * width + column)] = INT32_MAX;
+    values[size_t((row + 1) * width + column)] = 1;
+    if (row + 2 < rows) values[size_t((row + 2) * width + column)] = -5; // and back again
+    const Tensor tensor = tensorOf<mint>({rows, width}, values);
+    EXPECT_TRUE(Model<mint>(tensor).failed);
+    expectFails(NamedCall("Total").tensor(cloneOf(tensor.get())).integer(kIntegers), 1001);
+  };
+  atEveryLevel([&] {
+    for (mint rows : {2, 3, 8, 9, 20})
+      for (mint width : {1, 5, 16, 3000})
+        for (mint column : {0, width / 2, width - 1})
+          for (mint row = 0; row + 1 < rows; ++row) expectFailure(rows, width, row, column);
+  });
 }
 
 TEST_F(Totals, CheckedIntegersFailAtTheReservedValueOnly) {
@@ -191,12 +194,13 @@ template <class T> void expectTotalOfAll(const Tensor &tensor) {
 // 40,000 and 100,000 elements are above the length at which vector routines give pieces to the workers.
 TEST_F(Totals, OfAllElementsRunFromLeftToRightAtAnyLength) {
   std::mt19937 random(6);
-  for (mint length : {0, 1, 2, 7, 8, 9, 67, 1000, 1025, 40000, 100000})
-    for (int time = 0; time < 3; ++time) {
+  atEveryLevel([&random] {
+    for (mint length : {0, 1, 2, 7, 8, 9, 67, 1000, 1025, 40000, 100000}) {
       expectTotalOfAll<mint>(drawTensor<mint>(random, {length}));
       expectTotalOfAll<mreal>(drawTensor<mreal>(random, {length}));
       expectTotalOfAll<mcomplex>(drawTensor<mcomplex>(random, {length}));
     }
+  });
   for (const Extents &extents : {Extents{}, Extents{3, 4}, Extents{2, 0, 5}, Extents{2, 2, 2}}) {
     expectTotalOfAll<mint>(drawTensor<mint>(random, extents));
     expectTotalOfAll<mreal>(drawTensor<mreal>(random, extents));
