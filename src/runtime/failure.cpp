@@ -118,7 +118,7 @@ void initializeAbortPoll(mint stage) {
   abortPollNeighbour.store(0, relaxed);
 }
 
-mint abortQ(const char *label) { return abortPollSwitch.load(relaxed) == 0 ? 0 : confirmAbort(label); }
+mint abortQ() { return abortPollSwitch.load(relaxed) == 0 ? 0 : confirmAbort("In DLLFunction"); }
 
 } // namespace torvane
 

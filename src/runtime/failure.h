@@ -11,8 +11,7 @@ inline void raise(error code) { throwTorvaneException(static_cast<mint>(code)); 
 // Stores what the host gave; null keeps the library's own.
 void setAbortWatch(mint *flag, mint (*test)(const char *));
 
-// The poll of long loops: a process-wide switch that nothing sets, then a confirmation, told the loop's
-// label, that is 0 here.
-mint abortQ(const char *label = "In DLLFunction");
+// The poll of long loops: a process-wide switch that nothing sets, then a confirmation that is 0 here.
+mint abortQ();
 
 } // namespace torvane
