@@ -1,0 +1,68 @@
+// Dot products of vectors.
+#include "dot.h"
+
+#include "blas.h"
+#include "plain_products.h"
+
+#include <torvane/linalg.h>
+#include <torvane/machfuncs.h>
+#include <torvane/operators.h>
+
+namespace torvane {
+
+namespace {
+
+// A finite number less itself is 0; anything else is not.
+bool isFinite(mreal x) { return x - x == 0; }
+bool isFinite(mcomplex x) { return isFinite(x.re) && isFinite(x.im); }
+
+template <class T> mint storeTested(T *result, T dot, mint flags) {
+  if ((flags & TORVANE_CHECK_REALS) != 0 && !isFinite(dot)) return kDotFailed;
+  *result = dot;
+  return kSuccess;
+}
+
+const mint *startOf(const mint *x, mint stride, mint count) {
+  return stride < 0 ? x + (ptrdiff_t{1} - count) * stride : x;
+}
+
+} // namespace
+
+mint dotReals(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags) {
+  return storeTested(
+      result, n > kLongestInline ? blasDot(x, incx, y, incy, n) : plainDot(x, incx, y, incy, n), flags);
+}
+
+mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
+                  bool conjugated, mint flags) {
+  return storeTested(result,
+                     n > kLongestInline ? blasDot(x, incx, y, incy, n, conjugated)
+                                        : plainDot(x, incx, y, incy, n, conjugated),
+                     flags);
+}
+
+mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags) {
+  const mint strides[] = {1, incx, incy};
+  mint dot = 0;
+  if (machfunc_ii_dot(&dot, startOf(x, incx, n), startOf(y, incy, n), n, strides, flags) != 0)
+    return kDotFailed;
+  *result = dot;
+  return kSuccess;
+}
+
+} // namespace torvane
+
+using namespace torvane;
+
+mint VectorDot_R64(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags) {
+  return dotReals(result, x, incx, y, incy, n, flags) != kSuccess;
+}
+
+mint VectorDot_I(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags) {
+  return dotIntegers(result, x, incx, y, incy, n, flags) != kSuccess;
+}
+
+mint VectorDot_CR64(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
+                    mint flags) {
+  return dotComplexes(result, x, incx, y, incy, n, false, flags) != kSuccess;
+}
