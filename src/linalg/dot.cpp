@@ -3,6 +3,7 @@
 
 #include "blas.h"
 #include "plain_products.h"
+#include "plain_sums.h"
 
 #include <torvane/linalg.h>
 #include <torvane/machfuncs.h>
@@ -20,10 +21,6 @@ template <class T> mint storeTested(T *result, T dot, mint flags) {
   if ((flags & TORVANE_CHECK_REALS) != 0 && !isFinite(dot)) return kDotFailed;
   *result = dot;
   return kSuccess;
-}
-
-const mint *startOf(const mint *x, mint stride, mint count) {
-  return stride < 0 ? x + (ptrdiff_t{1} - count) * stride : x;
 }
 
 } // namespace

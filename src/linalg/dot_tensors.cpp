@@ -59,14 +59,18 @@ template <class T> bool multiplyVector(const Product<T> &of, bool isVectorFirst,
   return !isTested || areFinite(of.result, length);
 }
 
+// Of rank 1 or 2 the extents themselves: two divisions are a third of the smallest product.
+mint rowsOf(const MTensor *a, mint k) { return a->rank == 2 ? a->dimensions[0] : a->elementCount / k; }
+mint columnsOf(const MTensor *b, mint k) { return b->rank == 2 ? b->dimensions[1] : b->elementCount / k; }
+
 template <class T>
 bool multiplyAs(const MTensor *result, const MTensor *a, const MTensor *b, mint k, mint flags) {
   const Product<T> of = {static_cast<T *>(result->data),
                          static_cast<const T *>(a->data),
                          static_cast<const T *>(b->data),
-                         a->elementCount / k,
+                         rowsOf(a, k),
                          k,
-                         b->elementCount / k};
+                         columnsOf(b, k)};
   if constexpr (sizeof(T) == sizeof(mint)) {
     return integerProduct(of.result, of.a, of.b, of.m, of.k, of.n, flags);
   } else {
@@ -76,34 +80,52 @@ bool multiplyAs(const MTensor *result, const MTensor *a, const MTensor *b, mint 
   }
 }
 
+bool multiplyNonempty(const MTensor *result, const MTensor *a, const MTensor *b, mint k, mint flags) {
+  if (a->type == TORVANE_TYPE_REAL) return multiplyAs<mreal>(result, a, b, k, flags);
+  if (a->type == TORVANE_TYPE_COMPLEX) return multiplyAs<mcomplex>(result, a, b, k, flags);
+  return multiplyAs<mint>(result, a, b, k, flags);
+}
+
 // A sum of nothing is 0, in every shape and type.
 mint multiply(const MTensor *result, const MTensor *a, const MTensor *b, mint flags) {
   const mint k = b->dimensions[0];
-  const size_t bytes = static_cast<size_t>(result->elementCount) * elementWidth(result->type);
   if (result->elementCount == 0) return kSuccess;
-  if (k == 0) {
-    memset(result->data, 0, bytes);
-    return kSuccess;
+  if (k > 0) return multiplyNonempty(result, a, b, k, flags) ? kSuccess : kDotFailed;
+  memset(result->data, 0, static_cast<size_t>(result->elementCount) * elementWidth(result->type));
+  return kSuccess;
+}
+
+// The dimensions of the result.
+struct Extents {
+  mint rank;
+  Scratch<mint> lengths;
+
+  Extents(const MTensor *a, const MTensor *b) : rank(a->rank + b->rank - 2), lengths(rank, kFatal) {
+    mint *next = lengths.get();
+    for (mint i = 0; i < a->rank - 1; ++i) *next++ = a->dimensions[i];
+    for (mint i = 1; i < b->rank; ++i) *next++ = b->dimensions[i];
   }
-  const auto multiplyThese = a->type == TORVANE_TYPE_INTEGER ? multiplyAs<mint>
-                             : a->type == TORVANE_TYPE_REAL  ? multiplyAs<mreal>
-                                                             : multiplyAs<mcomplex>;
-  return multiplyThese(result, a, b, k, flags) ? kSuccess : kDotFailed;
+};
+
+mint multiplyApart(MTensor **slot, MTensor *a, MTensor *b, Extents &extents, mint flags) {
+  ResultTensor result(slot, {a, b});
+  mint status = result.allocate(a->type, extents.rank, extents.lengths.get(), kFatal);
+  if (status == kSuccess) status = multiply(result.get(), a, b, flags);
+  return status == kSuccess ? result.commit() : status;
 }
 
 bool isNumeric(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TORVANE_TYPE_COMPLEX; }
 
 } // namespace
 
-mint generalDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags) {
+// A slot with a tensor that is no operand needs nothing of what ResultTensor does, and compiled loops have
+// one.
+mint generalDot(MTensor **slot, MTensor *a, MTensor *b, mint flags) {
   if (a->type != b->type || !isNumeric(a->type)) return kWrongType;
-  const mint rank = a->rank + b->rank - 2;
-  Scratch<mint> extents(rank, kFatal);
-  std::copy_n(b->dimensions + 1, b->rank - 1, std::copy_n(a->dimensions, a->rank - 1, extents.get()));
-  ResultTensor result(resultSlot, {a, b});
-  mint status = result.allocate(a->type, rank, extents.get(), kFatal);
-  if (status == kSuccess) status = multiply(result.get(), a, b, flags);
-  return status == kSuccess ? result.commit() : status;
+  Extents extents(a, b);
+  if (*slot == nullptr || *slot == a || *slot == b) return multiplyApart(slot, a, b, extents, flags);
+  const mint status = MTensor_allocateCommon(slot, a->type, extents.rank, extents.lengths.get(), kFatal);
+  return status == kSuccess ? multiply(*slot, a, b, flags) : status;
 }
 
 } // namespace torvane

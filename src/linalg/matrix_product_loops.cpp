@@ -86,8 +86,31 @@ template <class Kind> struct Matrices {
   ptrdiff_t k, n; // in words of a row
 };
 
-// Zero in every lane while all elements are finite.
-template <class Kind> using Suspicion = typename Kind::Vector;
+// A finite number less itself is 0, anything else a NaN: the bits of all these differences, or-ed, are those
+// of zeros, whose sign the rounding mode decides, while all elements are finite.
+template <class T> struct BitsOf { using Type = T; };
+template <> struct BitsOf<mreal> { using Type = uint64_t; };
+template <class Kind> struct Suspicion {
+  using Word = typename BitsOf<typename Kind::Word>::Type;
+  using Vector = typename Kind::Vector;
+  static constexpr int kLength = sizeof(Vector) / sizeof(Word);
+  Lanes<Word, kLength> bits = {};
+
+  void take(Vector x) {
+    if constexpr (!isSame<Word, typename Kind::Word>) {
+      const Vector difference = x - x;
+      Lanes<Word, kLength> of;
+      __builtin_memcpy(&of, &difference, sizeof of);
+      bits |= of;
+    }
+  }
+  bool any() const {
+    Word words[kLength], all = 0;
+    __builtin_memcpy(words, &bits, sizeof words);
+    for (const Word word : words) all |= word;
+    return static_cast<Word>(all << 1) != 0;
+  }
+};
 
 // The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words.
 template <class Kind, int rows, int vectors>
@@ -111,7 +134,7 @@ inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *of
   for (int r = 0; r < rows; ++r)
     for (int v = 0; v < vectors; ++v) {
       store(at.result + (row + r) * at.n + offsets[v], sums[r][v]);
-      suspicion += sums[r][v] - sums[r][v];
+      suspicion.take(sums[r][v]);
     }
 }
 
@@ -126,22 +149,20 @@ void runColumns(const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets,
   if (m > row) runTile<Kind, 1, vectors>(at, row, offsets, suspicion);
 }
 
-template <class Kind> bool isZero(const Suspicion<Kind> &suspicion) {
-  typename Kind::Word words[sizeof suspicion / sizeof(typename Kind::Word)];
-  __builtin_memcpy(words, &suspicion, sizeof words);
-  bool all = true;
-  for (const typename Kind::Word word : words) all &= word == 0;
-  return all;
+// Of so many vectors: groups are about equal, because one vector alone would wait for its own sums.
+inline ptrdiff_t vectorsInGroup(ptrdiff_t vectors) {
+  if (vectors <= kMostVectors) return vectors;
+  return vectors < 2 * kMostVectors ? vectors / 2 : kMostVectors;
 }
 
-// All columns, in groups of about equal numbers of vectors: one vector alone would wait for its own sums.
+// All columns, by groups of vectors.
 template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
   constexpr ptrdiff_t kStep = ptrdiff_t{Kind::kLength} * Kind::kWords;
   ptrdiff_t offsets[kMostVectors];
   Suspicion<Kind> suspicion = {};
   const ptrdiff_t all = (at.n + kStep - 1) / kStep;
   for (ptrdiff_t done = 0; done < all;) {
-    const ptrdiff_t groups = (all - done + kMostVectors - 1) / kMostVectors, vectors = (all - done) / groups;
+    const ptrdiff_t vectors = vectorsInGroup(all - done);
     for (ptrdiff_t v = 0; v < vectors; ++v) {
       const ptrdiff_t offset = (done + v) * kStep;
       offsets[v] = offset + kStep <= at.n ? offset : at.n - kStep;
@@ -161,7 +182,7 @@ template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
     }
     done += vectors;
   }
-  return isZero<Kind>(suspicion);
+  return !suspicion.any();
 }
 
 bool multiplyReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
