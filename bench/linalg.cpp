@@ -90,7 +90,7 @@ void compareVectors(mint n) {
   MTensor *x = newTensor(TORVANE_TYPE_REAL, {n}), *y = newTensor(TORVANE_TYPE_REAL, {n});
   const auto *a = elements<mreal>(x), *b = elements<mreal>(y);
   mreal dot = 0;
-  const Candidate plain = {"plain", repeated([&dot, a, b, n] { dot = plainDot(a, b, n); })};
+  const Candidate plain = {"plain", repeated([&dot, a, b, n] { plainDot(&dot, a, 1, b, 1, n); })};
   const Candidate blas = {"BLAS", repeated([&dot, a, b, n] { dot = cblas_ddot(n, a, 1, b, 1); })};
   compare("dot of " + std::to_string(n),
           {{"ours", repeated([&dot, a, b, n] { VectorDot_R64(&dot, a, 1, b, 1, n, 0); })},

@@ -16,10 +16,13 @@ template <class T> void multiply(T *c, const T *a, const T *b, int m, int k, int
 
 } // namespace
 
-double plainDot(const double *x, const double *y, int n) {
+void plainDot(double *result, const double *x, int incx, const double *y, int incy, int n) {
   double sum = 0;
-  for (int k = 0; k < n; ++k) sum += x[k] * y[k];
-  return sum;
+  if (incx == 1 && incy == 1)
+    for (int k = 0; k < n; ++k) sum += x[k] * y[k];
+  else
+    for (int k = 0; k < n; ++k) sum += x[ptrdiff_t{k} * incx] * y[ptrdiff_t{k} * incy];
+  *result = sum;
 }
 
 int eigenDot(const int *x, const int *y, int n) { return Vector<int>(x, n).dot(Vector<int>(y, n)); }

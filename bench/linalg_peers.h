@@ -1,8 +1,8 @@
 // Products by our peers, compiled for the machine at hand: row-major and dense.
 #pragma once
 
-// The order of additions that ours keeps: one after the other.
-double plainDot(const double *x, const double *y, int n);
+// The order of additions that ours keeps, one after the other, at any strides as ours.
+void plainDot(double *result, const double *x, int incx, const double *y, int incy, int n);
 int eigenDot(const int *x, const int *y, int n);
 
 void eigenProduct(double *c, const double *a, const double *b, int m, int k, int n);

@@ -21,11 +21,10 @@ mreal blasSumOfMagnitudes(const mreal *x, mint count, mint stride) { return cbla
 mreal blasEuclideanNorm(const mreal *x, mint count, mint stride) { return cblas_dnrm2(count, x, stride); }
 mreal blasEuclideanNorm(const mcomplex *x, mint count, mint stride) { return cblas_dznrm2(count, x, stride); }
 
-mreal blasDot(const mreal *x, mint strideX, const mreal *y, mint strideY, mint count) {
-  return cblas_ddot(count, x, strideX, y, strideY);
-}
-mcomplex blasDot(const mcomplex *x, mint strideX, const mcomplex *y, mint strideY, mint count,
-                 bool conjugated) {
+constinit const RealDot blasDot = cblas_ddot;
+
+mcomplex blasComplexDot(const mcomplex *x, mint strideX, const mcomplex *y, mint strideY, mint count,
+                        bool conjugated) {
   mcomplex dot;
   const auto sum = conjugated ? cblas_zdotc_sub : cblas_zdotu_sub;
   sum(count, x, strideX, y, strideY, &dot);
@@ -63,12 +62,11 @@ mreal blasEuclideanNorm(const mcomplex *x, mint count, mint stride) {
   return plainEuclideanNorm(x, count, stride);
 }
 
-mreal blasDot(const mreal *x, mint strideX, const mreal *y, mint strideY, mint count) {
-  return plainDot(x, strideX, y, strideY, count);
-}
-mcomplex blasDot(const mcomplex *x, mint strideX, const mcomplex *y, mint strideY, mint count,
-                 bool conjugated) {
-  return plainDot(x, strideX, y, strideY, count, conjugated);
+constinit const RealDot blasDot = plainDot;
+
+mcomplex blasComplexDot(const mcomplex *x, mint strideX, const mcomplex *y, mint strideY, mint count,
+                        bool conjugated) {
+  return plainComplexDot(x, strideX, y, strideY, count, conjugated);
 }
 
 void blasMatrixVector(mreal *result, const mreal *a, const mreal *x, mint m, mint k) {

@@ -26,16 +26,14 @@ template <class T> mint storeTested(T *result, T dot, mint flags) {
 } // namespace
 
 mint dotReals(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags) {
-  return storeTested(
-      result, n > kLongestInline ? blasDot(x, incx, y, incy, n) : plainDot(x, incx, y, incy, n), flags);
+  if (n > kLongestInline) return storeTested(result, blasDot(n, x, incx, y, incy), flags);
+  return storeTested(result, sumOfProducts(x, incx, y, incy, n, kAsItIs), flags);
 }
 
 mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
                   bool conjugated, mint flags) {
-  return storeTested(result,
-                     n > kLongestInline ? blasDot(x, incx, y, incy, n, conjugated)
-                                        : plainDot(x, incx, y, incy, n, conjugated),
-                     flags);
+  if (n > kLongestInline) return storeTested(result, blasComplexDot(x, incx, y, incy, n, conjugated), flags);
+  return storeTested(result, plainComplexDot(x, incx, y, incy, n, conjugated), flags);
 }
 
 mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags) {

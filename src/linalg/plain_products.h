@@ -10,9 +10,9 @@ namespace torvane {
 
 // Any strides; a negative one walks from the far end, (1 - count) * stride elements from the pointer.
 // `conjugated` takes the conjugate of x. 0 for a count below 1.
-mreal plainDot(const mreal *x, mint strideX, const mreal *y, mint strideY, mint count);
-mcomplex plainDot(const mcomplex *x, mint strideX, const mcomplex *y, mint strideY, mint count,
-                  bool conjugated);
+mreal plainDot(mint count, const mreal *x, mint strideX, const mreal *y, mint strideY);
+mcomplex plainComplexDot(const mcomplex *x, mint strideX, const mcomplex *y, mint strideY, mint count,
+                         bool conjugated);
 
 // Row-major and dense, with extents of at least 1: a is m by k, b is k by n. What the result held does not
 // count.
