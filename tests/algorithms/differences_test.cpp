@@ -1,7 +1,9 @@
 // Differences and ratios against the definition, one element at a time; integers against exact ones.
 #include "exact_call.h"
 
+#include "runtime/failure.h"
 #include "support/exact_integer.h"
+#include "support/hook_recorder.h"
 
 #include <cmath>
 #include <limits>
@@ -10,24 +12,28 @@
 using namespace torvane;
 using namespace torvane::test;
 
-// Takes the place of the poll, which asks nobody as long as its switch is 0.
-static thread_local mint pollsUntilAbort = -1;
-static thread_local std::vector<std::string> polls;
-extern "C" mint __wrap__ZN7torvane6abortQEPKc(const char *label) {
-  polls.push_back(label);
-  return pollsUntilAbort >= 0 && pollsUntilAbort-- == 0;
-}
-
 namespace {
 
 constexpr mint kReals = 2, kIntegers = 4;
 
-class Neighbours : public NamedFunctions {
-protected:
-  Neighbours() {
-    pollsUntilAbort = -1;
-    polls.clear();
+class Neighbours : public NamedFunctions {};
+
+// While one lives, the poll asks, and is told to abort after so many passes.
+class Polling {
+public:
+  explicit Polling(int64_t passes) : before(setAbortPoll(1)) {
+    forgetHookCalls();
+    confirmAbortAfter(passes);
   }
+  ~Polling() {
+    setAbortPoll(before);
+    confirmAbortAfter(0);
+  }
+  Polling(const Polling &) = delete;
+  Polling &operator=(const Polling &) = delete;
+
+private:
+  mint before;
 };
 
 // ---- model: a map from index to element, transformed level by level ---------------------------------
@@ -242,12 +248,9 @@ TEST_F(Neighbours, TooHighAnOrderLeavesNothing) {
   // Lengths do not wrap: 65536 * 65536 leaves 32 bits.
   expectExactly(differences(vector, {65536}, {65536}, 0), newTensor(TORVANE_TYPE_REAL, {0}));
   expectExactly(differences(table, {1, 2}, 4), newTensor(TORVANE_TYPE_INTEGER, {1, 0}));
-  polls.clear();
-  NamedCall none = differences(table, {1, 2}, 4);
-  MTensor *slot = nullptr;
-  EXPECT_EQ(none.run(&slot), 0);
-  MTensor_delete(slot);
-  EXPECT_TRUE(polls.empty()); // no pass at all
+  const Polling polling(0);
+  expectExactly(differences(table, {1, 2}, 4), newTensor(TORVANE_TYPE_INTEGER, {1, 0}));
+  EXPECT_TRUE(confirmedAborts().empty()); // no pass at all
 }
 
 TEST_F(Neighbours, CheckedRealsFailWhereARoutineDoes) {
@@ -305,19 +308,22 @@ TEST_F(Neighbours, TensorsWithoutATypeAreRefused) {
 
 TEST_F(Neighbours, APollBeforeEachPassMayEndThem) {
   const Tensor table = tensorOf<mint>({4, 4}, std::vector<mint>(16, 1));
-  NamedCall whole = differences(table, {2, 1}, 0);
-  MTensor *slot = nullptr;
-  EXPECT_EQ(whole.run(&slot), 0);
-  MTensor_delete(slot);
-  EXPECT_EQ(polls, std::vector<std::string>(3, "RuntimeLibrary"));
-  for (mint k = 0; k < 3; ++k) {
+  {
+    const Polling polling(3);
+    NamedCall whole = differences(table, {2, 1}, 0);
+    MTensor *slot = nullptr;
+    EXPECT_EQ(whole.run(&slot), 0);
+    MTensor_delete(slot);
+    EXPECT_EQ(confirmedAborts(), std::vector<std::string>(3, "RuntimeLibrary"));
+  }
+  for (int64_t passes = 0; passes < 3; ++passes) {
+    const Polling polling(passes);
     NamedCall call = differences(table, {2, 1}, 0);
     const uint32_t used = usedBytesOfThisThread();
-    pollsUntilAbort = k;
-    slot = nullptr;
+    MTensor *slot = nullptr;
     EXPECT_EQ(call.run(&slot), 1000);
     EXPECT_EQ(slot, nullptr);
-    pollsUntilAbort = k;
+    confirmAbortAfter(passes);
     slot = call.tensorAt(0);
     EXPECT_EQ(call.run(&slot), 1000);
     expectSame(slot, table.get(), "the argument in the slot");
