@@ -21,8 +21,8 @@ struct PlainSum {
 struct CheckedSum {
   template <class X> struct Failures { X signs; };
   static uint32_t reservedOnly(uint32_t x) { return x == 0x80000000u ? x : 0; }
-  static Packed<uint32_t> reservedOnly(Packed<uint32_t> x) {
-    return (Packed<uint32_t>)(x == everyLane(0x80000000u)) & x;
+  template <class X> __attribute__((always_inline)) static X reservedOnly(X x) {
+    return (X)(x == X{} + 0x80000000u) & x;
   }
   template <class X, class F> __attribute__((always_inline)) static void add(X &sum, X x, F &failures) {
     const X before = sum;
@@ -30,6 +30,11 @@ struct CheckedSum {
     failures.signs |= ((before ^ sum) & (x ^ sum)) | reservedOnly(sum);
   }
 };
+
+// Sixteen bytes, for the columns that fill no whole register.
+template <class T> struct NarrowOf { typedef T Type __attribute__((vector_size(16))); };
+template <class T> using Narrow = typename NarrowOf<T>::Type;
+template <class T> inline constexpr size_t kNarrowLength = 16 / sizeof(T);
 
 template <class X, class T> __attribute__((always_inline)) inline X load(const T *from) {
   X x;
@@ -47,6 +52,7 @@ __attribute__((always_inline)) inline void addTo(T *sums, const T *rows, size_t 
 
 template <class Sum, class T> struct Failed {
   typename Sum::template Failures<Packed<T>> packed = {};
+  typename Sum::template Failures<Narrow<T>> narrow = {};
   typename Sum::template Failures<T> single = {};
 };
 
@@ -57,6 +63,8 @@ void addRows(T *sums, const T *rows, size_t stride, size_t columns, Failed<Sum, 
   size_t j = 0;
   for (; columns - j >= kLength; j += kLength)
     addTo<Sum, kRows, Packed<T>>(sums + j, rows + j, stride, own.packed);
+  for (; columns - j >= kNarrowLength<T>; j += kNarrowLength<T>)
+    addTo<Sum, kRows, Narrow<T>>(sums + j, rows + j, stride, own.narrow);
   for (; j < columns; ++j) addTo<Sum, kRows, T>(sums + j, rows + j, stride, own.single);
   failed = own;
 }
@@ -87,6 +95,7 @@ bool addCheckedIntegers(mint *sums, const mint *rows, mint count, size_t stride,
   addAll<CheckedSum>(words(sums), words(rows), count, stride, columns, failed);
   uint32_t signs = failed.single.signs;
   for (mint lane = 0; lane < kPackedLength<uint32_t>; ++lane) signs |= failed.packed.signs[lane];
+  for (size_t lane = 0; lane < kNarrowLength<uint32_t>; ++lane) signs |= failed.narrow.signs[lane];
   return signs >> 31 == 0;
 }
 

@@ -97,11 +97,11 @@ Blocks blocksAt(const Request &request, const MTensor *result, mint level) {
 }
 
 mint runPasses(const Request &request, MTensor *result, int64_t passes) {
-  const uint32_t width = elementWidth(request.tensor->type);
-  const uint64_t bytes = uint64_t{width} * static_cast<uint32_t>(request.tensor->elementCount);
+  const auto width = static_cast<ptrdiff_t>(elementWidth(request.tensor->type));
+  const uint64_t bytes = static_cast<uint64_t>(width) * static_cast<uint32_t>(request.tensor->elementCount);
   const ScratchBytes even(passes > 1 ? bytes : 0, kReport), odd(passes > 2 ? bytes : 0, kReport);
   if ((passes > 1 && !even) || (passes > 2 && !odd)) return kSizeFailed;
-  Pass pass = {request, ptrdiff_t{width}, nullptr, static_cast<const char *>(request.tensor->data)};
+  Pass pass = {request, width, nullptr, static_cast<const char *>(request.tensor->data)};
   for (mint level = 0; level < request.count; ++level) {
     Blocks blocks = blocksAt(request, result, level);
     const auto distance = static_cast<ptrdiff_t>(request.distance(level));
