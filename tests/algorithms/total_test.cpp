@@ -51,7 +51,7 @@ template <class T> T draw(std::mt19937 &random, mint spread) {
 
 template <class T> Tensor drawTensor(std::mt19937 &random, const Extents &extents) {
   Tensor tensor = newTensor(typeOf<T>(), extents);
-  const mint spread = mint(random());
+  const mint spread = mint(random() % 1000);
   for (mint i = 0; i < tensor->elementCount; ++i) elements<T>(tensor)[i] = draw<T>(random, spread);
   return tensor;
 }
