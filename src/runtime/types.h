@@ -34,6 +34,8 @@ enum Status : mint {
   kNegativeRank = 401,
   kNegativeExtent = 402,
   kSizeFailed = 403,
+  kAborted = 1000,
+  kSumFailed = 1001,
 };
 
 // Last argument of every operation that allocates. Any other value behaves as a quiet failure that does

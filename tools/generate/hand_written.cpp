@@ -4,6 +4,7 @@
 #include <torvane/elementwise.h>
 #include <torvane/failure.h>
 #include <torvane/integers.h>
+#include <torvane/linalg.h>
 #include <torvane/lists.h>
 #include <torvane/memory.h>
 #include <torvane/operators.h>

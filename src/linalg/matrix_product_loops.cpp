@@ -1,0 +1,258 @@
+// Loops of matrix products, compiled once a processor level (elementwise/levels.h).
+//
+// A tile of neighbouring result elements stands in vector registers while the inner index runs: each element
+// is still one sum in its own order, so that its bits depend neither on the tile nor on the level. The last
+// vector of a row ends with the row and may compute elements of the one before it once more, to the same
+// bits.
+#include "../elementwise/folds.h"
+#include "../elementwise/levels.h"
+#include "../scalar/magnitude.h"
+#include "matrix_product_loops.h"
+
+namespace torvane {
+
+namespace {
+
+// `length` elements side by side.
+template <class T, int length> struct VectorOf {
+  typedef T Type __attribute__((vector_size(sizeof(T) * length)));
+};
+template <class T> struct VectorOf<T, 1> { using Type = T; };
+template <class T, int length> using Lanes = typename VectorOf<T, length>::Type;
+
+template <class V, class T> inline V load(const T *from) {
+  V v;
+  __builtin_memcpy(&v, from, sizeof v); // any alignment
+  return v;
+}
+template <class V, class T> inline void store(T *to, V v) { __builtin_memcpy(to, &v, sizeof v); }
+
+// Vectors side by side: as many as leave room, beside four rows of them, for the operands.
+#if defined __AVX512F__
+constexpr int kMostVectors = 4;
+#elif defined __AVX2__
+constexpr int kMostVectors = 3;
+#else
+constexpr int kMostVectors = 2;
+#endif
+
+// Words and their products, by vectors of one length.
+template <class T, int length> struct Plain {
+  using Word = T;
+  using Vector = Lanes<T, length>;
+  static constexpr int kLength = length, kWords = 1;
+  struct Factor {
+    T word;
+    explicit Factor(const T *from) : word(*from) {}
+    Vector times(Vector row) const { return row * word; }
+  };
+};
+
+// Complex numbers, as pairs of words: x.re * y, plus (-x.im, x.im) * the swapped y, is the product with both
+// parts rounded as ever, since a sign costs no rounding.
+template <int length> struct Pairs {
+  using Word = mreal;
+  using Vector = Lanes<mreal, 2 * length>;
+  static constexpr int kLength = length, kWords = 2;
+  struct Factor {
+    mreal re;
+    Vector im;
+    explicit Factor(const mreal *from) : re(from[0]), im(signs() * from[1]) {}
+    static Vector signs() {
+      if constexpr (length == 1)
+        return Vector{-1, 1};
+      else if constexpr (length == 2)
+        return Vector{-1, 1, -1, 1};
+      else
+        return Vector{-1, 1, -1, 1, -1, 1, -1, 1};
+    }
+    static Vector swapped(Vector row) {
+      if constexpr (length == 1)
+        return __builtin_shufflevector(row, row, 1, 0);
+      else if constexpr (length == 2)
+        return __builtin_shufflevector(row, row, 1, 0, 3, 2);
+      else
+        return __builtin_shufflevector(row, row, 1, 0, 3, 2, 5, 4, 7, 6);
+    }
+    Vector times(Vector row) const { return row * re + swapped(row) * im; }
+  };
+};
+
+template <class Kind> struct Matrices {
+  using Word = typename Kind::Word;
+  using Vector = typename Kind::Vector;
+  Word *result;
+  const Word *a, *b;
+  ptrdiff_t k, n; // in words of a row
+};
+
+// A finite number less itself is 0, anything else a NaN: the bits of all these differences, or-ed, are those
+// of zeros, whose sign the rounding mode decides, while all elements are finite.
+template <class T> struct BitsOf { using Type = T; };
+template <> struct BitsOf<mreal> { using Type = uint64_t; };
+template <class Kind> struct Suspicion {
+  using Word = typename BitsOf<typename Kind::Word>::Type;
+  using Vector = typename Kind::Vector;
+  static constexpr int kLength = sizeof(Vector) / sizeof(Word);
+  Lanes<Word, kLength> bits = {};
+
+  void take(Vector x) {
+    if constexpr (!isSame<Word, typename Kind::Word>) {
+      const Vector difference = x - x;
+      Lanes<Word, kLength> of;
+      __builtin_memcpy(&of, &difference, sizeof of);
+      bits |= of;
+    }
+  }
+  bool any() const {
+    Word words[kLength], all = 0;
+    __builtin_memcpy(words, &bits, sizeof words);
+    for (const Word word : words) all |= word;
+    return static_cast<Word>(all << 1) != 0;
+  }
+};
+
+// The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words.
+template <class Kind, int rows, int vectors>
+inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets,
+                    Suspicion<Kind> &suspicion) {
+  using Vector = typename Kind::Vector;
+  Vector sums[rows][vectors] = {};
+  const typename Kind::Word *a = at.a + row * at.k, *columns[vectors];
+  for (int v = 0; v < vectors; ++v) columns[v] = at.b + offsets[v];
+  for (ptrdiff_t p = 0; p < at.k; p += Kind::kWords) {
+    Vector of[vectors];
+    for (int v = 0; v < vectors; ++v) {
+      of[v] = load<Vector>(columns[v]);
+      columns[v] += at.n;
+    }
+    for (int r = 0; r < rows; ++r) {
+      const typename Kind::Factor factor(a + r * at.k + p);
+      for (int v = 0; v < vectors; ++v) sums[r][v] += factor.times(of[v]);
+    }
+  }
+  for (int r = 0; r < rows; ++r)
+    for (int v = 0; v < vectors; ++v) {
+      store(at.result + (row + r) * at.n + offsets[v], sums[r][v]);
+      suspicion.take(sums[r][v]);
+    }
+}
+
+template <class Kind, int vectors>
+void runColumns(const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets, Suspicion<Kind> &suspicion) {
+  ptrdiff_t row = 0;
+  for (; m - row >= 4; row += 4) runTile<Kind, 4, vectors>(at, row, offsets, suspicion);
+  if (m - row >= 2) {
+    runTile<Kind, 2, vectors>(at, row, offsets, suspicion);
+    row += 2;
+  }
+  if (m > row) runTile<Kind, 1, vectors>(at, row, offsets, suspicion);
+}
+
+// Of so many vectors: groups are about equal, because one vector alone would wait for its own sums.
+inline ptrdiff_t vectorsInGroup(ptrdiff_t vectors) {
+  if (vectors <= kMostVectors) return vectors;
+  return vectors < 2 * kMostVectors ? vectors / 2 : kMostVectors;
+}
+
+// All columns, by groups of vectors.
+template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
+  constexpr ptrdiff_t kStep = ptrdiff_t{Kind::kLength} * Kind::kWords;
+  ptrdiff_t offsets[kMostVectors];
+  Suspicion<Kind> suspicion = {};
+  const ptrdiff_t all = (at.n + kStep - 1) / kStep;
+  for (ptrdiff_t done = 0; done < all;) {
+    const ptrdiff_t vectors = vectorsInGroup(all - done);
+    for (ptrdiff_t v = 0; v < vectors; ++v) {
+      const ptrdiff_t offset = (done + v) * kStep;
+      offsets[v] = offset + kStep <= at.n ? offset : at.n - kStep;
+    }
+    switch (vectors) {
+    case 1:
+      runColumns<Kind, 1>(at, m, offsets, suspicion);
+      break;
+    case 2:
+      runColumns<Kind, 2>(at, m, offsets, suspicion);
+      break;
+    case 3:
+      if constexpr (kMostVectors >= 3) runColumns<Kind, 3>(at, m, offsets, suspicion);
+      break;
+    default:
+      if constexpr (kMostVectors >= 4) runColumns<Kind, 4>(at, m, offsets, suspicion);
+    }
+    done += vectors;
+  }
+  return !suspicion.any();
+}
+
+bool multiplyReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
+  if constexpr (kPackedLength<mreal> >= 8)
+    if (n >= 8) return run<Plain<mreal, 8>>({result, a, b, k, n}, m);
+  if constexpr (kPackedLength<mreal> >= 4)
+    if (n >= 4) return run<Plain<mreal, 4>>({result, a, b, k, n}, m);
+  if (n >= 2) return run<Plain<mreal, 2>>({result, a, b, k, n}, m);
+  return run<Plain<mreal, 1>>({result, a, b, k, n}, m);
+}
+
+bool multiplyComplexes(mcomplex *to, const mcomplex *x, const mcomplex *y, mint m, mint k, mint n) {
+  auto *result = reinterpret_cast<mreal *>(to);
+  const auto *a = reinterpret_cast<const mreal *>(x), *b = reinterpret_cast<const mreal *>(y);
+  const ptrdiff_t width = ptrdiff_t{2} * n, depth = ptrdiff_t{2} * k;
+  if constexpr (kPackedLength<mreal> >= 8)
+    if (n >= 4) return run<Pairs<4>>({result, a, b, depth, width}, m);
+  if constexpr (kPackedLength<mreal> >= 4)
+    if (n >= 2) return run<Pairs<2>>({result, a, b, depth, width}, m);
+  return run<Pairs<1>>({result, a, b, depth, width}, m);
+}
+
+void multiplyIntegers(mint *to, const mint *x, const mint *y, mint m, mint k, mint n) {
+  auto *result = reinterpret_cast<uint32_t *>(to);
+  const auto *a = reinterpret_cast<const uint32_t *>(x), *b = reinterpret_cast<const uint32_t *>(y);
+  if constexpr (kPackedLength<mint> >= 16)
+    if (n >= 16) return static_cast<void>(run<Plain<uint32_t, 16>>({result, a, b, k, n}, m));
+  if constexpr (kPackedLength<mint> >= 8)
+    if (n >= 8) return static_cast<void>(run<Plain<uint32_t, 8>>({result, a, b, k, n}, m));
+  if (n >= 4) return static_cast<void>(run<Plain<uint32_t, 4>>({result, a, b, k, n}, m));
+  run<Plain<uint32_t, 1>>({result, a, b, k, n}, m);
+}
+
+void largestOfRows(uint32_t *magnitudes, const mint *b, mint k, mint n) {
+  for (mint p = 0; p < k; ++p) {
+    LargestMagnitude<uint32_t> largest = {0};
+    foldDense(largest, reinterpret_cast<const uint32_t *>(b) + ptrdiff_t{p} * n, n);
+    magnitudes[p] = largest.value;
+  }
+}
+
+// A block of sums in 64 bits, which stays in the nearest cache while b is read row by row.
+constexpr mint kBlock = 256;
+
+mint multiplyIntegerRow(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  for (mint start = 0; start < n; start += kBlock) {
+    const mint length = n - start < kBlock ? n - start : kBlock;
+    int64_t sums[kBlock] = {};
+    for (ptrdiff_t p = 0; p < k; ++p) {
+      const mint *row = b + p * n + start;
+      const mint x = a[p];
+      for (mint j = 0; j < length; ++j) sums[j] += int64_t{x} * row[j];
+    }
+    for (mint j = 0; j < length; ++j) {
+      if (sums[j] > kMaximum<mint> || sums[j] < -int64_t{kMaximum<mint>}) return start + j;
+      result[start + j] = static_cast<mint>(sums[j]);
+    }
+    if (n - start <= kBlock) break; // the next start may be beyond mint
+  }
+  return n;
+}
+
+} // namespace
+
+} // namespace torvane
+
+const torvane_loops::ProductLoops torvane_loops::TORVANE_LOOPS_HERE(product) = {
+    .reals = torvane::multiplyReals,
+    .complexes = torvane::multiplyComplexes,
+    .integers = torvane::multiplyIntegers,
+    .rowMagnitudes = torvane::largestOfRows,
+    .integerRow = torvane::multiplyIntegerRow,
+};
