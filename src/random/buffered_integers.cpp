@@ -10,38 +10,27 @@ namespace torvane {
 
 namespace {
 
-mint takeWhole(const StandingReads &reads, const IntegerSpan &span, mint *destination) {
-  uint32_t begin = reads.first;
-  for (mint k = 0; k < reads.count; ++k, begin += span.bits)
-    destination[k] = span.valueOf(bitsAt(reads.words, begin, span.bits));
-  return reads.count;
-}
+constexpr mint kBlock = 512;
 
-// Whether a value stays is not to be foretold: each is written, and the next one over it if it does not. That
-// goes on in a block apart, because a draw that a fill ends leaves the places of missing values untouched.
-mint takeWithin(const StandingReads &reads, const IntegerSpan &span, mint *destination) {
-  constexpr mint kBlock = 512;
-  mint block[kBlock];
-  uint32_t begin = reads.first;
-  mint stored = 0;
-  for (mint done = 0; done < reads.count; done += kBlock) {
-    mint kept = 0;
-    for (mint k = std::min(kBlock, reads.count - done); k > 0; --k, begin += span.bits) {
-      const uint32_t read = bitsAt(reads.words, begin, span.bits);
-      block[kept] = span.valueOf(read);
-      kept += read <= span.range;
-    }
-    std::copy_n(block, kept, destination + stored);
-    stored += kept;
+// Whether a value stays is not to be foretold: each is written, and the next one over it if it does not.
+mint keepWithin(uint32_t *reads, mint count, uint32_t range) {
+  mint kept = 0;
+  for (mint k = 0; k < count; ++k) {
+    const uint32_t read = reads[k];
+    reads[kept] = read;
+    kept += read <= range;
   }
-  return stored;
+  return kept;
 }
 
+// At most a block, read apart: a draw that a fill ends leaves the places of missing values untouched.
 mint takeStanding(BufferData *data, const StandingReads &reads, const IntegerSpan &span, mint *destination) {
-  const mint stored =
-      span.isWhole() ? takeWhole(reads, span, destination) : takeWithin(reads, span, destination);
+  uint32_t block[kBlock];
+  readAll(reads, span.bits, block);
   moveOver(data, reads, span.bits);
-  return stored;
+  const mint kept = span.isWhole() ? reads.count : keepWithin(block, reads.count, span.range);
+  for (mint k = 0; k < kept; ++k) destination[k] = span.valueOf(block[k]);
+  return kept;
 }
 
 // At most so many reads, until `wanted` values are stored. A fill that fails ends them; a value whose bits
@@ -64,7 +53,7 @@ mint drawSpan(RandomBuffer *buffer, mint *destination, mint count, const Integer
   constexpr mint kFew = 8; // not worth the division
   while (count > 0) {
     const StandingReads reads =
-        count > kFew ? standingReads(buffer->data, span.bits, count) : StandingReads{};
+        count > kFew ? standingReads(buffer->data, span.bits, std::min(count, kBlock)) : StandingReads{};
     mint stored;
     if (reads.count > 0) {
       stored = takeStanding(buffer->data, reads, span, destination);

@@ -2,7 +2,6 @@
 // them its high part.
 #include "bit_cursor.h"
 #include "draws.h"
-#include "real_interval.h"
 #include "standing_reads.h"
 
 #include <bit>
@@ -11,24 +10,12 @@ namespace torvane {
 
 namespace {
 
-constexpr uint32_t kFractionBits = 52;
-
-mreal onInterval(uint64_t fraction, const RealInterval &interval) {
-  constexpr uint64_t kHalf = 0x3FE0000000000000;
-  return std::bit_cast<mreal>(kHalf | fraction) * interval.d + interval.c;
-}
-
-void takeStanding(const StandingReads &reads, const RealInterval &interval, mreal *destination) {
-  uint32_t begin = reads.first;
-  for (mint k = 0; k < reads.count; ++k, begin += kFractionBits)
-    destination[k] = onInterval(longBitsAt(reads.words, begin) >> (64 - kFractionBits), interval);
-}
-
 // What a fill returns is not looked at: the words that it leaves are read.
 mreal takeOne(RandomBuffer *buffer, const RealInterval &interval) {
   BitCursor cursor(buffer);
   const uint64_t high = cursor.read(20);
-  return onInterval(high << 32 | cursor.read(32), interval);
+  constexpr uint64_t kHalf = 0x3FE0000000000000;
+  return interval.at(std::bit_cast<mreal>(kHalf | high << 32 | cursor.read(32)));
 }
 
 } // namespace
@@ -42,7 +29,7 @@ mint bufferedMReals(mreal *destination, mint count, mreal low, mreal high, Rando
   while (count > 0) {
     StandingReads reads = standingReads(buffer->data, kFractionBits, count);
     if (reads.count > 0) {
-      takeStanding(reads, interval, destination);
+      readReals(reads, interval, destination);
       moveOver(buffer->data, reads, kFractionBits);
     } else {
       *destination = takeOne(buffer, interval);

@@ -11,6 +11,7 @@ struct RealInterval {
   mreal d, c;
 
   RealInterval(mreal a, mreal b) : d((b - a) * 2), c(b - d) {}
+  mreal at(mreal x) const { return x * d + c; }
   bool hasFiniteWidth() const { return std::isfinite(d); }
 };
 
