@@ -11,3 +11,7 @@ target_link_libraries(torvane_cells PRIVATE torvane_flags)
 add_custom_target(random_tables
   COMMAND torvane_cells > ${PROJECT_SOURCE_DIR}/src/random/cellular_automaton_cells.cpp
   COMMAND torvane_streams > ${PROJECT_SOURCE_DIR}/src/random/stream_table.cpp VERBATIM)
+
+# Feeds test sets of random numbers: tools/quality/dieharder.sh.
+add_executable(torvane_raw_stream EXCLUDE_FROM_ALL tools/quality/raw_stream.cpp)
+target_link_libraries(torvane_raw_stream PRIVATE TorvaneRTL::TorvaneRTL_Minimal torvane_flags)
