@@ -30,6 +30,9 @@ public:
     return readAcross(bits);
   }
 
+  // Bits that can be read before the next word is wanted.
+  uint32_t bitsOfWord() const { return bitsLeft; }
+
   // The first status other than 0 that a fill gave since the cursor was loaded.
   mint fillStatus() const { return status; }
 
