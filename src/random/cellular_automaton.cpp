@@ -108,7 +108,8 @@ CA5State *newState(const CA5Parameters &parameters) {
 // Words of a fill; 0 where there would be none, or rows past what can be addressed.
 uint32_t outputWords(const CA5Parameters &parameters) {
   constexpr mint kWidest = INT32_MAX / 8 - kHaloPairs;
-  if (parameters.width > kWidest || parameters.step < 1 || parameters.offset < 0) return 0;
+  if (parameters.width < 1 || parameters.width > kWidest || parameters.step < 1 || parameters.offset < 0)
+    return 0;
   const mint pairs = (parameters.width - parameters.offset) / parameters.step;
   return pairs > 0 ? 2 * static_cast<uint32_t>(pairs) : 0;
 }

@@ -18,6 +18,7 @@ void addMethods() {
   RandomGeneratorMethod_add("ExtendedCA", CA5BufferState_alloc, CA5BufferState_clone, CA5BufferState_free);
   RandomGeneratorMethod_add("MersenneTwister", MersenneTwister_alloc, MersenneTwister_clone,
                             MersenneTwister_free);
+  RandomGeneratorMethod_add("ParallelMersenneTwister", PMT32_alloc, PMT32_clone, PMT32_free);
 }
 
 } // namespace
