@@ -1,5 +1,5 @@
 // The named functions that draw: arguments, statuses, result slots, what is drawn of the stream.
-#include "../algorithms/named_call.h"
+#include "algorithms/named_call.h"
 #include "scripted_draws.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Draws without memory: every request of the process heap fails in turn.
 //
 // Results and scratch are above 1 MiB: no thread heap keeps blocks of that size, so that each is one request.
-#include "../algorithms/named_call.h"
+#include "algorithms/named_call.h"
 #include "scripted_draws.h"
 #include "support/failing_heap.h"
 
@@ -68,14 +68,11 @@ const std::vector<Attempt> kAttempts = {
 class RandomMemory : public testing::Test {
 protected:
   // Small blocks are there: of tensors, of a few numbers, of a small hash table.
-  RandomMemory() {
+  static void SetUpTestSuite() {
     startRandomNumbers();
-    for (const Attempt &attempt : kAttempts) {
-      NamedCall call = attempt.call();
-      MTensor *slot = nullptr;
-      call.run(&slot);
-      MTensor_delete(slot);
-    }
+    MTensor *slot = nullptr;
+    for (const Attempt &attempt : kAttempts) EXPECT_EQ(attempt.call().run(&slot), 0);
+    MTensor_delete(slot);
   }
   const Tensor warm = onesOf(3, {2});
 };

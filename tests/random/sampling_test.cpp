@@ -196,6 +196,7 @@ TEST_F(Sampling, AFailingDrawLeavesTheNumbersOfAShuffleAllocated) {
   mint status = 0;
   script.integers = [&](mint *to, mint, mint, mint) { return *to = 0, status; };
   Picks picks(3);
+  Free_fun(Malloc_fun(sizeof(mint) * 1000));
   const uint32_t used = usedBytesOfThisThread();
   void *numbers = Malloc_fun(sizeof(mint) * 1000);
   const uint32_t cost = usedBytesOfThisThread() - used;
