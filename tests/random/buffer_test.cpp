@@ -150,6 +150,19 @@ TEST_F(Buffer, FillMayMakeFewerWordsThanTheBufferHolds) {
   EXPECT_EQ(buffer()->data->capacity, 40u);
 }
 
+mint fillAndFail(uint32_t *words, uint32_t *count, uint32_t *bitsLeft, RandomGenerator *inner) {
+  const uint32_t before = *bitsLeft;
+  countingFill(words, count, bitsLeft, inner);
+  *bitsLeft = before;
+  return 5;
+}
+
+TEST_F(Buffer, WordsOfAFillThatFailsToSayHowManyBitsAreWhole) {
+  buffer()->fill = fillAndFail;
+  for (uint64_t position = 0; position < 3 * 40 * 32; position += 24)
+    ASSERT_EQ(read(24), streamBits(position, 24));
+}
+
 TEST_F(Buffer, GivesNoWholeWords) {
   uint32_t words[2] = {7, 7};
   EXPECT_EQ(generator->functions->getWords(words, 2, generator), 11);

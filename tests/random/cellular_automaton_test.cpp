@@ -91,7 +91,7 @@ TEST_P(ExtendedCA, GivesTheWordsOfTheRule) {
 }
 
 TEST_P(ExtendedCA, LongSeedsGoRoundTheRowInReverse) {
-  for (size_t count : {2, 3, 159, 160, 161, 400}) {
+  for (size_t count : {2u, 3u, 159u, 160u, 161u, 400u}) {
     std::vector<uint32_t> seed(count);
     for (size_t i = 0; i < count; ++i) seed[i] = plainWord(4, i);
     expectAsModel({}, seed, 2);

@@ -304,6 +304,19 @@ TEST_F(Framework, BlocksNestAndAnEndWithoutABeginDoesNothing) {
   EXPECT_EQ(drawBits(32), plainWord(kUnseededKey, 1));
 }
 
+TEST_F(Framework, BeginInABlockLeavesTheOuterGeneratorToTheOuterBlock) {
+  addPlainMethod<0>("A");
+  Context context;
+  RandomGenerator *outer = selectMethod("A");
+  context.call("BlockRandomBegin");
+  context.call("BlockRandomBegin");
+  EXPECT_NE(currentGenerator(), outer);
+  EXPECT_EQ(refCountOf(currentGenerator()), 2);
+  EXPECT_EQ(refCountOf(outer), 1);
+  endRandomBlocks(&context.record);
+  EXPECT_EQ(currentGenerator(), outer);
+}
+
 TEST_F(Framework, BlockNeedsNoGenerator) {
   Context context;
   EXPECT_EQ(context.call("BlockRandomBegin"), 0);
@@ -372,6 +385,15 @@ TEST_F(Framework, RestartForgetsMethodsThatWereAddedAndKeepsTheirGenerators) {
   EXPECT_EQ(selectMethod("B")->info->id, 4) << "ids begin again";
   addPlainMethod<0>("A");
   EXPECT_EQ(selectMethod("A"), a) << "added as before, it finds its generators again";
+}
+
+TEST_F(Framework, MethodThatIsAddedOtherwiseAfterARestartIsAnother) {
+  addPlainMethod<0>("A");
+  RandomGenerator *a = selectMethod("A");
+  InitializeRuntimeLibrary();
+  RandomGeneratorMethod_add("A", plainAlloc<0>, plainClone<0>, plainFree<1>);
+  EXPECT_NE(selectMethod("A"), a);
+  EXPECT_EQ(plainGenerators, 2);
 }
 
 TEST_F(Framework, ManyRestartsCostNeitherMemoryNorSlots) {

@@ -64,7 +64,7 @@ TEST(ParallelTwister, EveryStreamGivesItsRecurrenceTempered) {
 }
 
 TEST(ParallelTwister, SeedsOfAnyLength) {
-  for (size_t count : {1, 2, 16, 17, 18, 100}) {
+  for (size_t count : {1u, 2u, 16u, 17u, 18u, 100u}) {
     std::vector<uint32_t> seed(count);
     for (size_t i = 0; i < count; ++i) seed[i] = plainWord(6, i);
     expectAsModel(700, seed);
