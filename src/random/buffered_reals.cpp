@@ -4,8 +4,6 @@
 #include "draws.h"
 #include "standing_reads.h"
 
-#include <bit>
-
 namespace torvane {
 
 namespace {
@@ -14,8 +12,7 @@ namespace {
 mreal takeOne(RandomBuffer *buffer, const RealInterval &interval) {
   BitCursor cursor(buffer);
   const uint64_t high = cursor.read(20);
-  constexpr uint64_t kHalf = 0x3FE0000000000000;
-  return interval.at(std::bit_cast<mreal>(kHalf | high << 32 | cursor.read(32)));
+  return interval.ofFraction(high << 32 | cursor.read(32));
 }
 
 } // namespace
@@ -25,9 +22,10 @@ mreal takeOne(RandomBuffer *buffer, const RealInterval &interval) {
 mint bufferedMReals(mreal *destination, mint count, mreal low, mreal high, RandomGenerator *generator) {
   const RealInterval interval(low, high);
   if (!interval.hasFiniteWidth()) return kNotFinite;
+  constexpr mint kFew = 3; // not worth the looking
   auto *buffer = static_cast<RandomBuffer *>(generator->state);
   while (count > 0) {
-    StandingReads reads = standingReads(buffer->data, kFractionBits, count);
+    StandingReads reads = count > kFew ? standingReads(buffer->data, kFractionBits, count) : StandingReads{};
     if (reads.count > 0) {
       readReals(reads, interval, destination);
       moveOver(buffer->data, reads, kFractionBits);

@@ -8,7 +8,6 @@
 #include "../runtime/platform_cpu_level.h"
 
 #include <algorithm>
-#include <bit>
 #include <immintrin.h>
 
 namespace torvane {
@@ -42,9 +41,6 @@ uint64_t fractionAt(const uint32_t *words, uint32_t begin) {
   const uint32_t *word = words + begin / 32, up = begin % 32;
   return (pairAt(word) << up | word[2] >> 1 >> (31 - up)) >> (64 - kFractionBits);
 }
-
-// The bits of 1/2; a fraction makes them a number of [1/2, 1).
-constexpr uint64_t kHalf = 0x3FE0000000000000;
 
 #define TORVANE_AVX2 [[gnu::target("avx2")]]
 
@@ -80,7 +76,7 @@ TORVANE_AVX2 mint readRealsInFours(const StandingReads &reads, const RealInterva
   constexpr uint32_t kWords = 8;
   if (reads.wordCount < kWords) return 0;
   const __m256i lanes = _mm256_setr_epi32(0, 0, 52, 52, 104, 104, 156, 156);
-  const __m256i second = _mm256_setr_epi32(1, 0, 1, 0, 1, 0, 1, 0), half = _mm256_set1_epi64x(kHalf);
+  const __m256i second = _mm256_setr_epi32(1, 0, 1, 0, 1, 0, 1, 0), half = _mm256_set1_epi64x(kHalfBits);
   const __m256d d = _mm256_set1_pd(interval.d), c = _mm256_set1_pd(interval.c);
   uint32_t begin = reads.first;
   mint k = 0;
@@ -112,7 +108,7 @@ void readReals(const StandingReads &reads, const RealInterval &interval, mreal *
   mint k = processorLevel() >= kAvx2Level ? readRealsInFours(reads, interval, to) : 0;
   uint32_t begin = reads.first + static_cast<uint32_t>(k) * kFractionBits;
   for (; k < reads.count; ++k, begin += kFractionBits)
-    to[k] = interval.at(std::bit_cast<mreal>(kHalf | fractionAt(reads.words, begin)));
+    to[k] = interval.ofFraction(fractionAt(reads.words, begin));
 }
 
 } // namespace torvane

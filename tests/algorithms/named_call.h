@@ -97,7 +97,7 @@ public:
   NamedCall(const NamedCall &other) : name(other.name) {
     for (const Value &value : other.values)
       values.push_back({value.tensor != nullptr ? cloneOf(value.tensor.get()) : nullptr, nullptr,
-                        value.integer, value.real});
+                        value.integer, value.real, value.isReal});
   }
   NamedCall &tensor(Tensor argument) {
     values.push_back({std::move(argument), nullptr, 0, 0});

@@ -1,4 +1,5 @@
-// Bulk draws of buffered generators against reads of a row of bits, one by one: values, the cursor, the fills.
+// Bulk draws of buffered generators against reads of a row of bits, one by one: values, the cursor, the
+// fills.
 #include "random/draws.h"
 #include "runtime/platform_cpu_level.h"
 #include "words.h"
@@ -20,10 +21,10 @@ constexpr mint kUnset = 0x5A5A5A5A;
 struct Bounds {
   mint low, high;
 };
-constexpr Bounds kBounds[] = {{0, 1},         {0, 2},          {0, 3},      {-3, 3},        {1, 8},
-                              {0, 99},        {-128, 127},     {0, 511},    {0, 600},       {0, 65535},
-                              {0, 1000000},   {-5, 67108858},  {0, 0x3FFFFFFF},             {0, 0x40000000},
-                              {INT32_MIN, -1}, {0, INT32_MAX}, {INT32_MIN, -2}};
+constexpr Bounds kBounds[] = {
+    {0, 1},          {0, 2},          {0, 3},          {-3, 3},        {1, 8},         {0, 99},
+    {-128, 127},     {0, 511},        {0, 600},        {0, 65535},     {0, 1000000},   {-5, 67108858},
+    {0, 0x3FFFFFFF}, {0, 0x40000000}, {INT32_MIN, -1}, {0, INT32_MAX}, {INT32_MIN, -2}};
 
 class BufferedDraws : public testing::TestWithParam<mint> {
 protected:
@@ -33,7 +34,9 @@ protected:
 };
 INSTANTIATE_TEST_SUITE_P(Levels, BufferedDraws, testing::Values(kBaselineLevel, kAvx512Level));
 
-mint bitsOf(const Bounds &bounds) { return mint(std::bit_width(uint32_t(int64_t{bounds.high} - bounds.low))); }
+mint bitsOf(const Bounds &bounds) {
+  return mint(std::bit_width(uint32_t(int64_t{bounds.high} - bounds.low)));
+}
 
 struct Model {
   std::vector<mint> values;
@@ -41,8 +44,8 @@ struct Model {
   mint status = 0;
 };
 
-// The words number 1 and on that fill k brings are the stream's from bit 32 * capacity * (k - 1) on. A read that
-// reaches bit 32 * capacity * (k - 1) makes fill k, and its value is whole where it stops there.
+// The words number 1 and on that fill k brings are the stream's from bit 32 * capacity * (k - 1) on. A read
+// that reaches bit 32 * capacity * (k - 1) makes fill k, and its value is whole where it stops there.
 Model drawOneByOne(const Bounds &bounds, mint count, mint skipped, uint64_t failsAtBit) {
   Model model;
   model.stream.read(skipped);
@@ -68,9 +71,9 @@ void expectIntegers(const Bounds &bounds, uint32_t capacity, mint count, mint sk
   const uint64_t failsAtBit = failingFill > 0 ? 32 * uint64_t(capacity) * uint64_t(failingFill - 1) : kNever;
   Model model = drawOneByOne(bounds, count, skipped, failsAtBit);
   std::vector<mint> drawn(size_t(count) + 3, kUnset);
-  const auto where = testing::Message() << bounds.low << ".." << bounds.high << ", " << capacity << " words, "
-                                        << count << " values after " << skipped << " bits, fill "
-                                        << failingFill << " fails";
+  const auto where = testing::Message()
+                     << bounds.low << ".." << bounds.high << ", " << capacity << " words, " << count
+                     << " values after " << skipped << " bits, fill " << failingFill << " fails";
   EXPECT_EQ(bufferedMIntegers(drawn.data(), count, bounds.low, bounds.high, words.generator), model.status)
       << where;
   model.values.resize(drawn.size(), kUnset);
@@ -129,7 +132,8 @@ void expectReals(mreal a, mreal b, uint32_t capacity, mint count, mint skipped, 
   std::vector<mreal> drawn(size_t(count) + 1, -7), expected(drawn);
   for (mint k = 0; k < count; ++k) expected[size_t(k)] = readReal(model, a, b);
   EXPECT_EQ(bufferedMReals(drawn.data(), count, a, b, words.generator), 0);
-  EXPECT_EQ(drawn, expected) << a << ".." << b << ", " << capacity << " words, " << count << " after " << skipped;
+  EXPECT_EQ(drawn, expected) << a << ".." << b << ", " << capacity << " words, " << count << " after "
+                             << skipped;
   EXPECT_TRUE(words.isAt(model.position)) << capacity << " words, " << count << " after " << skipped;
 }
 
@@ -177,7 +181,8 @@ TEST_P(BufferedDraws, EqualBoundsTakeNoBits) {
 
 TEST_P(BufferedDraws, SpansOf2To31AndMoreAreRefusedWithoutADraw) {
   BufferedWords words(3);
-  for (const Bounds &bounds : {Bounds{INT32_MIN, 0}, {INT32_MIN, INT32_MAX}, {-1, INT32_MAX}, {1, 0}, {7, -7}}) {
+  for (const Bounds &bounds :
+       {Bounds{INT32_MIN, 0}, {INT32_MIN, INT32_MAX}, {-1, INT32_MAX}, {1, 0}, {7, -7}}) {
     mint drawn = kUnset;
     EXPECT_EQ(bufferedMIntegers(&drawn, 1, bounds.low, bounds.high, words.generator), 4);
     EXPECT_EQ(drawn, kUnset);
@@ -188,8 +193,13 @@ TEST_P(BufferedDraws, SpansOf2To31AndMoreAreRefusedWithoutADraw) {
 TEST_P(BufferedDraws, RealBoundsTooFarApartAreRefusedWithoutADraw) {
   BufferedWords words(3);
   const mreal infinity = HUGE_VAL, nan = std::nan("");
-  for (const auto &[a, b] : {std::pair{0.0, 1e308}, {-1e308, 1e308}, {0.0, infinity}, {infinity, infinity},
-                             {nan, 1.0}, {1.0, nan}, {-infinity, 0.0}}) {
+  for (const auto &[a, b] : {std::pair{0.0, 1e308},
+                             {-1e308, 1e308},
+                             {0.0, infinity},
+                             {infinity, infinity},
+                             {nan, 1.0},
+                             {1.0, nan},
+                             {-infinity, 0.0}}) {
     mreal drawn = -7;
     EXPECT_EQ(bufferedMReals(&drawn, 1, a, b, words.generator), 1001);
     EXPECT_EQ(bufferedMReals(&drawn, 0, a, b, words.generator), 1001);

@@ -97,8 +97,8 @@ TEST_F(GenericDraws, RealsTake32HighBitsAndThen20LowOnes) {
 
 TEST_F(GenericDraws, RealBoundsWithoutALineAreRefusedWithoutARead) {
   const mreal infinity = HUGE_VAL;
-  for (const auto &[a, b] : {std::pair{0.0, infinity}, {-1e308, 1e308}, {DBL_MAX, DBL_MAX / 2},
-                             {std::nan(""), 0.0}}) {
+  for (const auto &[a, b] :
+       {std::pair{0.0, infinity}, {-1e308, 1e308}, {DBL_MAX, DBL_MAX / 2}, {std::nan(""), 0.0}}) {
     mreal value = -7;
     EXPECT_EQ(Generic_randomMReals(&value, 1, a, b, words.generator), 1001);
     EXPECT_EQ(Generic_randomMReals(&value, 0, a, b, words.generator), 1001);

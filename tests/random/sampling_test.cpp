@@ -28,8 +28,8 @@ struct Call {
   friend bool operator==(const Call &, const Call &) = default;
 };
 
-// Gives the digits of a number in mixed radix, one a value, and keeps the calls. `advance` counts on until all
-// numbers have been given.
+// Gives the digits of a number in mixed radix, one a value, and keeps the calls. `advance` counts on until
+// all numbers have been given.
 class Odometer {
 public:
   mint draw(mint *to, mint count, mint low, mint high) {
@@ -101,8 +101,12 @@ TEST_F(Sampling, TheLastNumberTakesThePlaceOfThePick) {
 
 // A shuffle counts from 0, the other method from 1.
 TEST_F(Sampling, ATenthOfTheLengthDecidesTheMethod) {
-  for (const auto &[length, count, isShuffled] :
-       {std::tuple{9, 1, true}, {10, 1, false}, {19, 1, false}, {19, 2, true}, {20, 2, false}, {20, 3, true}}) {
+  for (const auto &[length, count, isShuffled] : {std::tuple{9, 1, true},
+                                                  {10, 1, false},
+                                                  {19, 1, false},
+                                                  {19, 2, true},
+                                                  {20, 2, false},
+                                                  {20, 3, true}}) {
     mint drawn = 0;
     ScriptedDraws script;
     script.integers = [&, first = isShuffled ? 0 : 1](mint *to, mint wanted, mint low, mint) {
@@ -192,6 +196,7 @@ TEST_F(Sampling, AFailingDrawLeavesTheNumbersOfAShuffleAllocated) {
   mint status = 0;
   script.integers = [&](mint *to, mint, mint, mint) { return *to = 0, status; };
   Picks picks(3);
+  Free_fun(Malloc_fun(sizeof(mint) * 1000));
   const uint32_t used = usedBytesOfThisThread();
   void *numbers = Malloc_fun(sizeof(mint) * 1000);
   const uint32_t cost = usedBytesOfThisThread() - used;
@@ -214,7 +219,9 @@ TEST_F(Sampling, WithoutIntegersThereAreNoPositions) {
 
 // Weights.
 
-Tensor weightsOf(const std::vector<mreal> &weights) { return tensorOf<mreal>({mint(weights.size())}, weights); }
+Tensor weightsOf(const std::vector<mreal> &weights) {
+  return tensorOf<mreal>({mint(weights.size())}, weights);
+}
 
 // Gives these reals of [0, 1), stretched to the bounds, and keeps the calls.
 class Reals {
@@ -289,8 +296,8 @@ Picks sampleByWalk(std::vector<mreal> weights, const std::vector<mreal> &reals) 
   return picks;
 }
 
-// With whole weights all sums are exact. The reals of a pick stand in the middle of equal shares of what is left,
-// one share for each unit of weight: so every ordered sample comes as often as its probability says.
+// With whole weights all sums are exact. The reals of a pick stand in the middle of equal shares of what is
+// left, one share for each unit of weight: so every ordered sample comes as often as its probability says.
 TEST_F(Sampling, EveryOrderedWeightedSampleHasItsShareOfTheReals) {
   const std::vector<mreal> weights = {1, 2, 0, 3, 4};
   std::map<Picks, mint> outcomes;
@@ -346,9 +353,10 @@ TEST_F(Sampling, FewWeightedPicksAreDrawnInRoundsOfWhatIsMissing) {
 TEST_F(Sampling, WeightsAreRefusedByTheirOwnStatus) {
   const mreal infinity = HUGE_VAL, nan = std::nan("");
   const std::pair<std::vector<mreal>, mint> kRows[] = {
-      {{}, -1},          {{0, 0, 0}, -1}, {{-0.0}, -1},     {{1, -1, 5}, -1},      {{1, nan}, -1},
+      {{}, -1},          {{0, 0, 0}, -1}, {{-0.0}, -1},       {{1, -1, 5}, -1},       {{1, nan}, -1},
       {{-infinity}, -1}, {{1, 2}, 0},     {{infinity}, 1001}, {{1e308, 1e308}, 1001}, {{infinity, nan}, -1}};
-  for (const auto &[weights, status] : kRows) EXPECT_EQ(RunningSums(weightsOf(weights).get()).status(), status);
+  for (const auto &[weights, status] : kRows)
+    EXPECT_EQ(RunningSums(weightsOf(weights).get()).status(), status);
   EXPECT_EQ(RunningSums(tensorOf<mint>({3}, {1, 1, 1}).get()).status(), 4);
   EXPECT_EQ(RunningSums(tensorOf<mint>({0}, {}).get()).status(), -1);
 }

@@ -74,6 +74,7 @@ TEST_F(UniformDraws, NoComplexPartIsANegativeZero) {
 TEST_F(UniformDraws, EachComplexDrawLeavesItsScratchAllocated) {
   for (const mint count : {1, 3, 1000}) {
     std::vector<mcomplex> drawn(size_t(count) + 1);
+    Free_fun(Malloc_fun(uint32_t(count) * 8));
     const uint32_t used = usedBytesOfThisThread();
     void *scratch = Malloc_fun(uint32_t(count) * 8);
     const uint32_t cost = usedBytesOfThisThread() - used;

@@ -1,5 +1,5 @@
-// Normal and beta variates against their formulas, on a stream that the test reads itself: values, and the bits
-// that each draw takes.
+// Normal and beta variates against their formulas, on a stream that the test reads itself: values, and the
+// bits that each draw takes.
 #include "random/variates.h"
 #include "scripted_draws.h"
 
@@ -145,7 +145,8 @@ TEST_F(Variates, BetaTrialsAndTheirBatchesAreThoseOfTheirMethods) {
         const CurrentGenerator current(words.generator);
         std::vector<mreal> drawn(static_cast<size_t>(count));
         EXPECT_EQ(drawBeta(drawn.data(), count, a, b), 0);
-        for (size_t k = 0; k < drawn.size(); ++k) EXPECT_DOUBLE_EQ(drawn[k], model.values[k]) << a << ' ' << b;
+        for (size_t k = 0; k < drawn.size(); ++k)
+          EXPECT_DOUBLE_EQ(drawn[k], model.values[k]) << a << ' ' << b;
         EXPECT_TRUE(words.isAt(model.position)) << a << ' ' << b << ' ' << count;
       }
 }
@@ -176,12 +177,11 @@ TEST_F(Variates, BetaWithAParameterOf1IsAnInversionOfOneUniformEach) {
     std::pair<mreal, mreal> parameters;
     mreal (*inverse)(mreal);
   };
-  const Row kRows[] = {
-      {{1, 1}, [](mreal u) { return u; }},
-      {{1, 4}, [](mreal u) { return 1 - std::pow(1 - u, 0.25); }},
-      {{1, 0.5}, [](mreal u) { return 1 - std::pow(1 - u, 2); }},
-      {{4, 1}, [](mreal u) { return std::pow(u, 0.25); }},
-      {{0.5, 1}, [](mreal u) { return std::pow(u, 2); }}};
+  const Row kRows[] = {{{1, 1}, [](mreal u) { return u; }},
+                       {{1, 4}, [](mreal u) { return 1 - std::pow(1 - u, 0.25); }},
+                       {{1, 0.5}, [](mreal u) { return 1 - std::pow(1 - u, 2); }},
+                       {{4, 1}, [](mreal u) { return std::pow(u, 0.25); }},
+                       {{0.5, 1}, [](mreal u) { return std::pow(u, 2); }}};
   for (const auto &[parameters, inverse] : kRows) {
     const BufferedWords words(40);
     const CurrentGenerator current(words.generator);
@@ -204,8 +204,14 @@ TEST_F(Variates, NoneAreDrawnWithoutBits) {
 
 // Parameters of which no trial is ever accepted end the draw instead of going on for good.
 TEST_F(Variates, BetaWithoutADistributionEndsAfterOneBatch) {
-  for (const auto &[a, b] : {std::pair{-1.0, -1.0}, {-1.0, 0.5}, {0.5, -1e300}, {-HUGE_VAL, 0.5}, {-0.0, 0.5},
-                             {HUGE_VAL, 2.0}, {1e200, 1e200}, {DBL_MAX, DBL_MAX}}) {
+  for (const auto &[a, b] : {std::pair{-1.0, -1.0},
+                             {-1.0, 0.5},
+                             {0.5, -1e300},
+                             {-HUGE_VAL, 0.5},
+                             {-0.0, 0.5},
+                             {HUGE_VAL, 2.0},
+                             {1e200, 1e200},
+                             {DBL_MAX, DBL_MAX}}) {
     const BufferedWords words(40);
     const CurrentGenerator current(words.generator);
     mreal drawn[3];
@@ -216,8 +222,13 @@ TEST_F(Variates, BetaWithoutADistributionEndsAfterOneBatch) {
 
 TEST_F(Variates, OtherParametersAreNotLookedAt) {
   mreal drawn;
-  for (const auto &[a, b] : {std::pair{std::nan(""), 2.0}, {2.0, std::nan("")}, {-1.0, 2.0}, {0.0, 2.0}, {1.0, -3.0},
-                             {0.0, 0.5}, {0.5, HUGE_VAL}})
+  for (const auto &[a, b] : {std::pair{std::nan(""), 2.0},
+                             {2.0, std::nan("")},
+                             {-1.0, 2.0},
+                             {0.0, 2.0},
+                             {1.0, -3.0},
+                             {0.0, 0.5},
+                             {0.5, HUGE_VAL}})
     EXPECT_EQ(drawBeta(&drawn, 1, a, b), 0) << a << ' ' << b;
 }
 

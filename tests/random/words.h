@@ -1,5 +1,5 @@
-// Generators whose stream a test knows: words that follow from their number alone, and the same stream as a row
-// of bits for the models.
+// Generators whose stream a test knows: words that follow from their number alone, and the same stream as a
+// row of bits for the models.
 #pragma once
 
 #include <torvane/torvane.h>
@@ -22,7 +22,8 @@ class BitModel {
 public:
   uint32_t read(mint bits) {
     uint32_t value = 0;
-    for (; bits > 0; --bits, ++position) value = value << 1 | (wordAt(position / 32) >> (31 - position % 32) & 1);
+    for (; bits > 0; --bits, ++position)
+      value = value << 1 | (wordAt(position / 32) >> (31 - position % 32) & 1);
     return value;
   }
   uint64_t position = 0;
@@ -41,8 +42,8 @@ inline mreal readReal(BitModel &model, mreal a = 0, mreal b = 1) {
   return realOf(high << 32 | model.read(32), a, b);
 }
 
-// A buffered generator on the stream, with so many words. Fill number `failingFill` gives kFillFailed, and its
-// words all the same.
+// A buffered generator on the stream, with so many words. Fill number `failingFill` gives kFillFailed, and
+// its words all the same.
 class BufferedWords {
 public:
   static constexpr mint kFillFailed = 77;
@@ -66,8 +67,7 @@ public:
     const uint64_t word = position / 32;
     const uint32_t mask = uint32_t(0xFFFFFFFF) >> (position % 32);
     return uint64_t(fills) == word / count + 1 && data()->index == word % count &&
-           data()->bitsLeft == 32 - position % 32 &&
-           data()->words[data()->index] == (wordAt(word) & mask);
+           data()->bitsLeft == 32 - position % 32 && data()->words[data()->index] == (wordAt(word) & mask);
   }
 
   RandomGenerator *const generator;
