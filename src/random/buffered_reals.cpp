@@ -25,7 +25,7 @@ mint bufferedMReals(mreal *destination, mint count, mreal low, mreal high, Rando
   constexpr mint kFew = 3; // not worth the looking
   auto *buffer = static_cast<RandomBuffer *>(generator->state);
   while (count > 0) {
-    StandingReads reads = count > kFew ? standingReads(buffer->data, kFractionBits, count) : StandingReads{};
+    StandingReads reads = count > kFew ? standingFractions(buffer->data, count) : StandingReads{};
     if (reads.count > 0) {
       readReals(reads, interval, destination);
       moveOver(buffer->data, reads, kFractionBits);

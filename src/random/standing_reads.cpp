@@ -12,23 +12,6 @@
 
 namespace torvane {
 
-StandingReads standingReads(const BufferData *data, uint32_t bits, mint wanted) {
-  constexpr uint32_t kMostWords = 1 << 20; // so that bits are counted in 32 bits
-  const uint32_t loaded = bits > 32 ? 3 : 2;
-  const uint32_t words = data->index < data->count ? std::min(data->count - data->index, kMostWords) : 0;
-  if (words < loaded) return {nullptr, 0, 0, 0};
-  const uint32_t first = 32 - data->bitsLeft, end = 32 * (words - loaded + 1);
-  const auto count = static_cast<mint>((end - first + bits - 1) / bits);
-  return {data->words + data->index, words, first, std::min(count, wanted)};
-}
-
-void moveOver(BufferData *data, const StandingReads &reads, uint32_t bits) {
-  const uint32_t end = reads.first + static_cast<uint32_t>(reads.count) * bits;
-  data->index += end / 32;
-  data->bitsLeft = 32 - end % 32;
-  data->words[data->index] &= 0xFFFFFFFF >> (end % 32);
-}
-
 namespace {
 
 uint64_t pairAt(const uint32_t *word) { return uint64_t{word[0]} << 32 | word[1]; }
@@ -37,9 +20,12 @@ uint32_t bitsAt(const uint32_t *words, uint32_t begin, uint32_t bits) {
   return static_cast<uint32_t>(pairAt(words + begin / 32) << begin % 32 >> (64 - bits));
 }
 
+// The third word is loaded where a fraction reaches into it, and only there: it may be the one after the
+// last.
 uint64_t fractionAt(const uint32_t *words, uint32_t begin) {
   const uint32_t *word = words + begin / 32, up = begin % 32;
-  return (pairAt(word) << up | word[2] >> 1 >> (31 - up)) >> (64 - kFractionBits);
+  const uint32_t third = up + kFractionBits > 64 ? word[2] >> (32 - up) : 0;
+  return (pairAt(word) << up | third) >> (64 - kFractionBits);
 }
 
 #define TORVANE_AVX2 [[gnu::target("avx2")]]
@@ -48,7 +34,28 @@ TORVANE_AVX2 __m256i loaded(const uint32_t *from) {
   return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(from));
 }
 
-// Eight at a time, which lie in nine words. How many were taken.
+// A group of reads and the words that are loaded for it; near the end of all words these begin earlier.
+struct Group {
+  const uint32_t *words;
+  mint begin; // bits from its first word to its first read
+};
+
+Group groupAt(const StandingReads &reads, uint32_t begin, uint32_t wordCount) {
+  const uint32_t base = std::min(begin / 32, reads.wordCount - wordCount);
+  return {reads.words + base, static_cast<mint>(begin - 32 * base)};
+}
+
+// Eight reads lie in nine words. `lanes` are their distances in bits.
+TORVANE_AVX2 __m256i readEight(const Group &group, __m256i lanes) {
+  const __m256i at = _mm256_add_epi32(_mm256_set1_epi32(group.begin), lanes);
+  const __m256i word = _mm256_srli_epi32(at, 5), up = _mm256_and_si256(at, _mm256_set1_epi32(31));
+  const __m256i down = _mm256_sub_epi32(_mm256_set1_epi32(32), up);
+  const __m256i high = _mm256_permutevar8x32_epi32(loaded(group.words), word);
+  const __m256i low = _mm256_permutevar8x32_epi32(loaded(group.words + 1), word);
+  return _mm256_or_si256(_mm256_sllv_epi32(high, up), _mm256_srlv_epi32(low, down));
+}
+
+// How many were taken.
 TORVANE_AVX2 mint readEights(const StandingReads &reads, uint32_t bits, uint32_t *to) {
   constexpr uint32_t kWords = 9;
   if (reads.wordCount < kWords) return 0;
@@ -58,42 +65,41 @@ TORVANE_AVX2 mint readEights(const StandingReads &reads, uint32_t bits, uint32_t
   uint32_t begin = reads.first;
   mint k = 0;
   for (; reads.count - k >= 8; k += 8, begin += 8 * bits) {
-    const uint32_t base = std::min(begin / 32, reads.wordCount - kWords);
-    const __m256i at = _mm256_add_epi32(_mm256_set1_epi32(static_cast<mint>(begin - 32 * base)), lanes);
-    const __m256i word = _mm256_srli_epi32(at, 5), up = _mm256_and_si256(at, _mm256_set1_epi32(31));
-    const __m256i down = _mm256_sub_epi32(_mm256_set1_epi32(32), up);
-    const __m256i high = _mm256_permutevar8x32_epi32(loaded(reads.words + base), word);
-    const __m256i low = _mm256_permutevar8x32_epi32(loaded(reads.words + base + 1), word);
-    const __m256i read = _mm256_or_si256(_mm256_sllv_epi32(high, up), _mm256_srlv_epi32(low, down));
+    const __m256i read = readEight(groupAt(reads, begin, kWords), lanes);
     _mm256_storeu_si256(reinterpret_cast<__m256i *>(to + k), _mm256_srl_epi32(read, unwanted));
   }
   return k;
 }
 
-// Four at a time, which lie in eight words. Each lane's first two words are a pair; the third word stands in
-// the high half of a lane whose low half is shifted out.
-TORVANE_AVX2 mint readRealsInFours(const StandingReads &reads, const RealInterval &interval, mreal *to) {
-  constexpr uint32_t kWords = 8;
-  if (reads.wordCount < kWords) return 0;
+// Four fractions lie in eight words. Each lane's first two words are a pair; its third word stands in the
+// high half of a lane whose low half is shifted out. Where there is no third word, what stands for it leaves
+// with the bits below the fraction.
+TORVANE_AVX2 __m256i readFourFractions(const Group &group) {
   const __m256i lanes = _mm256_setr_epi32(0, 0, 52, 52, 104, 104, 156, 156);
-  const __m256i second = _mm256_setr_epi32(1, 0, 1, 0, 1, 0, 1, 0), half = _mm256_set1_epi64x(kHalfBits);
+  const __m256i second = _mm256_setr_epi32(1, 0, 1, 0, 1, 0, 1, 0);
+  const __m256i at = _mm256_add_epi32(_mm256_set1_epi32(group.begin), lanes);
+  const __m256i word = _mm256_add_epi32(_mm256_srli_epi32(at, 5), second), words = loaded(group.words);
+  const __m256i up = _mm256_and_si256(at, _mm256_set1_epi64x(31));
+  const __m256i down = _mm256_sub_epi64(_mm256_set1_epi64x(64), up);
+  const __m256i pair = _mm256_permutevar8x32_epi32(words, word);
+  const __m256i third = _mm256_permutevar8x32_epi32(words, _mm256_add_epi32(word, _mm256_set1_epi32(2)));
+  const __m256i bits = _mm256_or_si256(_mm256_sllv_epi64(pair, up), _mm256_srlv_epi64(third, down));
+  return _mm256_srli_epi64(bits, 64 - kFractionBits);
+}
+
+// All of them, where there are four and their words are enough: the last group overlaps the one before.
+TORVANE_AVX2 bool readRealsInFours(const StandingReads &reads, const RealInterval &interval, mreal *to) {
+  constexpr uint32_t kWords = 8;
+  if (reads.wordCount < kWords || reads.count < 4) return false;
+  const __m256i half = _mm256_set1_epi64x(kHalfBits);
   const __m256d d = _mm256_set1_pd(interval.d), c = _mm256_set1_pd(interval.c);
-  uint32_t begin = reads.first;
-  mint k = 0;
-  for (; reads.count - k >= 4; k += 4, begin += 4 * kFractionBits) {
-    const uint32_t base = std::min(begin / 32, reads.wordCount - kWords);
-    const __m256i at = _mm256_add_epi32(_mm256_set1_epi32(static_cast<mint>(begin - 32 * base)), lanes);
-    const __m256i word = _mm256_add_epi32(_mm256_srli_epi32(at, 5), second);
-    const __m256i up = _mm256_and_si256(at, _mm256_set1_epi64x(31));
-    const __m256i words = loaded(reads.words + base);
-    const __m256i pair = _mm256_permutevar8x32_epi32(words, word);
-    const __m256i third = _mm256_permutevar8x32_epi32(words, _mm256_add_epi32(word, _mm256_set1_epi32(2)));
-    const __m256i bits = _mm256_or_si256(
-        _mm256_sllv_epi64(pair, up), _mm256_srlv_epi64(third, _mm256_sub_epi64(_mm256_set1_epi64x(64), up)));
-    const __m256i x = _mm256_or_si256(_mm256_srli_epi64(bits, 64 - kFractionBits), half);
-    _mm256_storeu_pd(to + k, _mm256_add_pd(_mm256_mul_pd(_mm256_castsi256_pd(x), d), c));
+  for (mint k = 0; k < reads.count; k += 4) {
+    const mint first = std::min(k, reads.count - 4);
+    const uint32_t begin = reads.first + static_cast<uint32_t>(first) * kFractionBits;
+    const __m256i x = _mm256_or_si256(readFourFractions(groupAt(reads, begin, kWords)), half);
+    _mm256_storeu_pd(to + first, _mm256_add_pd(_mm256_mul_pd(_mm256_castsi256_pd(x), d), c));
   }
-  return k;
+  return true;
 }
 
 } // namespace
@@ -105,9 +111,9 @@ void readAll(const StandingReads &reads, uint32_t bits, uint32_t *to) {
 }
 
 void readReals(const StandingReads &reads, const RealInterval &interval, mreal *to) {
-  mint k = processorLevel() >= kAvx2Level ? readRealsInFours(reads, interval, to) : 0;
-  uint32_t begin = reads.first + static_cast<uint32_t>(k) * kFractionBits;
-  for (; k < reads.count; ++k, begin += kFractionBits)
+  if (processorLevel() >= kAvx2Level && readRealsInFours(reads, interval, to)) return;
+  uint32_t begin = reads.first;
+  for (mint k = 0; k < reads.count; ++k, begin += kFractionBits)
     to[k] = interval.ofFraction(fractionAt(reads.words, begin));
 }
 

@@ -67,48 +67,73 @@ const std::vector<Attempt> kAttempts = {
 
 class RandomMemory : public testing::Test {
 protected:
-  // Small blocks are there: of tensors, of a few numbers, of a small hash table.
+  // Small blocks are there, as many at a time as below.
   static void SetUpTestSuite() {
     startRandomNumbers();
-    MTensor *slot = nullptr;
-    for (const Attempt &attempt : kAttempts) EXPECT_EQ(attempt.call().run(&slot), 0);
-    MTensor_delete(slot);
+    for (const Attempt &attempt : kAttempts) {
+      const NamedCall original = attempt.call();
+      NamedCall call(original);
+      const Tensor another = onesOf(3, {3, 2});
+      MTensor *slot = nullptr;
+      EXPECT_EQ(call.run(&slot), 0);
+      MTensor_delete(slot);
+    }
   }
   const Tensor warm = onesOf(3, {2});
 };
 
-// One run with its k-th request failing; whether one failed.
+// The slot may be empty, used, or hold an argument.
+enum Held : size_t { kNothing = 100, kAnother = 101 };
+
+MTensor *slotOf(const NamedCall &call, size_t held, const Tensor &another) {
+  if (held == kNothing) return nullptr;
+  return held == kAnother ? another.get() : call.tensorAt(held);
+}
+
+// One run with its k-th request failing; whether one failed. Arguments stay what they were, the one in the
+// slot too.
 bool runFailing(FailingHeap &heap, const Attempt &attempt, const NamedCall &original, int64_t k,
-                bool isUsed) {
+                size_t held) {
   NamedCall call(original);
-  Tensor reused = onesOf(3, {3, 2});
-  MTensor *slot = isUsed ? reused.get() : nullptr;
+  const Tensor another = onesOf(3, {3, 2});
+  MTensor *const before = slotOf(call, held, another), *slot = before;
   heap.failRequest(k);
   const mint status = call.run(&slot);
   const bool failed = heap.failed();
   heap.succeed();
-  const bool isLast = k == attempt.requests;
-  EXPECT_EQ(status, !failed  ? 0
-                    : isLast ? attempt.lastStatus
-                             : attempt.status)
-      << attempt.what << ", request " << k;
-  if (failed) EXPECT_EQ(slot, isUsed ? reused.get() : nullptr) << attempt.what << ", request " << k;
-  if (!isUsed) MTensor_delete(slot);
+  const mint expected = k == attempt.requests ? attempt.lastStatus : attempt.status;
+  EXPECT_EQ(status, failed ? expected : 0) << attempt.what << ", request " << k;
+  if (failed) {
+    EXPECT_EQ(slot, before) << attempt.what << ", request " << k;
+    expectUntouched(call, original, kNoArgument);
+  }
+  if (held == kNothing) MTensor_delete(slot);
   return failed;
+}
+
+void expectToldAndNothingLeaked(const Attempt &attempt, size_t held) {
+  const NamedCall original = attempt.call();
+  const uint32_t used = usedBytesOfThisThread();
+  FailingHeap heap;
+  int64_t k = 1;
+  while (runFailing(heap, attempt, original, k, held)) ++k;
+  EXPECT_EQ(k - 1, attempt.requests) << attempt.what;
+  EXPECT_EQ(usedBytesOfThisThread(), used) << attempt.what;
+  EXPECT_EQ(heap.blocksOut(), 0) << attempt.what;
 }
 
 TEST_F(RandomMemory, EveryRequestThatFailsIsToldAndNothingLeaks) {
   for (const Attempt &attempt : kAttempts)
-    for (const bool isUsed : {false, true}) {
-      const NamedCall original = attempt.call();
-      const uint32_t used = usedBytesOfThisThread();
-      FailingHeap heap;
-      int64_t k = 1;
-      while (runFailing(heap, attempt, original, k, isUsed)) ++k;
-      EXPECT_EQ(k - 1, attempt.requests) << attempt.what;
-      EXPECT_EQ(usedBytesOfThisThread(), used) << attempt.what;
-      EXPECT_EQ(heap.blocksOut(), 0) << attempt.what;
-    }
+    for (const size_t held : {kNothing, kAnother}) expectToldAndNothingLeaked(attempt, held);
+}
+
+// A small result would go into the argument as it is, were it not built apart.
+TEST_F(RandomMemory, AnArgumentInTheSlotIsWholeAfterAFailure) {
+  for (const Attempt &attempt : kAttempts) {
+    const NamedCall call = attempt.call();
+    for (size_t i = 0; i < call.count(); ++i)
+      if (call.tensorAt(i) != nullptr) expectToldAndNothingLeaked(attempt, i);
+  }
 }
 
 // The result is there before the scratch, which would have stayed.
