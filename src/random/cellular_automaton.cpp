@@ -22,12 +22,14 @@ namespace {
 
 constexpr mint kHaloPairs = 52;
 
+// The rows begin at cache lines, of which the rule's loads would otherwise cross twice as many.
 struct CA5State {
   uint64_t *current; // the low word of a pair first, as in memory
   uint64_t *next;
   mint width;  // in pairs
   mint step;   // pairs from one that is put out to the next
   mint offset; // words before the first that is put out
+  void *rows;  // the block of both
 };
 
 struct CA5Parameters {
@@ -40,10 +42,17 @@ constexpr CA5Parameters kDefaults = {80, 4, 0};
   for (mint i = 0; i < kHaloPairs; ++i) row[width + i] = (row[i] << 1) | (row[i] >> 63);
 }
 
-[[gnu::always_inline]] inline void runRuleHere(uint64_t *__restrict next, const uint64_t *__restrict c,
+[[gnu::always_inline]] inline void runRuleOver(uint64_t *__restrict next, const uint64_t *__restrict c,
                                                mint width) {
   for (mint i = 0; i < width; ++i) next[i] = ~((c[i + 12] | c[i + 29] | c[i + 52]) ^ c[i] ^ c[i + 5]);
   closeRow(next, width);
+}
+
+// The default width is the one that must be fast: known, its loops have no remainders and no tests for
+// overlap.
+[[gnu::always_inline]] inline void runRuleHere(uint64_t *next, const uint64_t *current, mint width) {
+  if (width == kDefaults.width) return runRuleOver(next, current, kDefaults.width);
+  runRuleOver(next, current, width);
 }
 
 TORVANE_BY_LEVEL(runRule, runRuleHere, (uint64_t * next, const uint64_t *current, mint width),
@@ -54,11 +63,18 @@ void advance(CA5State *automaton) {
   std::swap(automaton->current, automaton->next);
 }
 
+[[gnu::always_inline]] inline void putOut(uint32_t *words, uint32_t count, const char *pair, mint step) {
+  for (uint32_t i = 0; i + 1 < count; i += 2, pair += 8 * step) memcpy(words + i, pair, 8);
+}
+
 mint fill(uint32_t *words, uint32_t *count, uint32_t *bitsLeft, RandomGenerator *source) {
   auto *automaton = static_cast<CA5State *>(source->state);
   advance(automaton);
-  const char *pair = reinterpret_cast<const char *>(automaton->current) + 4 * automaton->offset;
-  for (uint32_t i = 0; i + 1 < *count; i += 2, pair += 8 * automaton->step) memcpy(words + i, pair, 8);
+  const char *first = reinterpret_cast<const char *>(automaton->current) + 4 * automaton->offset;
+  if (automaton->step == kDefaults.step)
+    putOut(words, *count, first, kDefaults.step);
+  else
+    putOut(words, *count, first, automaton->step);
   *bitsLeft = 32;
   return kSuccess;
 }
@@ -93,21 +109,27 @@ mint seedState(RandomGenerator *source, const uint32_t *seed, mint count) {
   return kSuccess;
 }
 
-uint64_t *newRow(mint width) {
-  const uint32_t bytes = rowBytes(width + kHaloPairs);
-  return static_cast<uint64_t *>(memset(allocate(bytes, 0, kFatal), 0, bytes));
-}
+constexpr uint32_t kLineBytes = 64;
 
+// Each row takes whole lines, and the block one more for the first to begin at one.
 CA5State *newState(const CA5Parameters &parameters) {
+  const uint32_t bytes = (rowBytes(parameters.width + kHaloPairs) + kLineBytes - 1) & ~(kLineBytes - 1);
   auto *state = static_cast<CA5State *>(allocate(sizeof(CA5State), 0, kFatal));
-  *state = {newRow(parameters.width), newRow(parameters.width), parameters.width, parameters.step,
-            parameters.offset};
+  char *rows =
+      static_cast<char *>(memset(allocate(2 * bytes + kLineBytes, 0, kFatal), 0, 2 * bytes + kLineBytes));
+  char *first = rows + (kLineBytes - reinterpret_cast<uintptr_t>(rows) % kLineBytes);
+  *state = {reinterpret_cast<uint64_t *>(first),
+            reinterpret_cast<uint64_t *>(first + bytes),
+            parameters.width,
+            parameters.step,
+            parameters.offset,
+            rows};
   return state;
 }
 
 // Words of a fill; 0 where there would be none, or rows past what can be addressed.
 uint32_t outputWords(const CA5Parameters &parameters) {
-  constexpr mint kWidest = INT32_MAX / 8 - kHaloPairs;
+  constexpr mint kWidest = INT32_MAX / 16 - 2 * kHaloPairs;
   if (parameters.width < 1 || parameters.width > kWidest || parameters.step < 1 || parameters.offset < 0)
     return 0;
   const mint pairs = (parameters.width - parameters.offset) / parameters.step;
@@ -142,8 +164,7 @@ RandomGenerator *CA5BufferState_clone(RandomGenerator *generator) {
 void CA5BufferState_free(RandomGenerator *generator) {
   RandomBuffer *buffer = bufferOf(generator);
   auto *state = static_cast<CA5State *>(buffer->source->state);
-  torvane::free(state->current);
-  torvane::free(state->next);
+  torvane::free(state->rows);
   torvane::free(state);
   RandomGenerator_deleteGeneric(buffer->source);
   buffer->source = nullptr;

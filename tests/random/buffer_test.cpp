@@ -3,7 +3,7 @@
 #include "plain_method.h"
 
 #include "random/bit_cursor.h"
-#include "random/generator.h"
+#include "support/child_process.h"
 
 #include <vector>
 
@@ -223,6 +223,12 @@ TEST(BufferDataRecord, NewOneIsEmpty) {
   EXPECT_EQ(data->index, 6u);
   EXPECT_EQ(data->bitsLeft, 0u);
   BufferData_delete(data);
+}
+
+TEST(BufferDataRecord, WordsPastWhatCanBeAddressedTakeTheFatalPath) {
+  const ChildOutcome child = runInChild([] { BufferData_new(UINT32_MAX / 4 + 1); });
+  EXPECT_EQ(child.status, 1);
+  EXPECT_NE(child.output.find("No more memory available"), std::string::npos) << child.output;
 }
 
 TEST(BufferDataRecord, ClearDropsWhatIsUnreadAndReturnsTheCount) {
