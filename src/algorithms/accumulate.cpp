@@ -19,7 +19,7 @@ namespace {
 mint accumulateReals(mreal *to, const mreal *from, mint count) {
   mreal sum = 0;
   for (mint k = 0; k < count; ++k) to[k] = sum = sum + from[k];
-  return classify(sum) == error::none ? kSuccess : kSumFailed;
+  return classify(sum) == error::none ? kSuccess : kNotFinite;
 }
 
 // Rows of one element: where one fails, its position is 1.

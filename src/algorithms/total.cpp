@@ -34,14 +34,14 @@ mint total(MTensor **slot, const MTensor *tensor, mint flags) {
   ResultTensor sums(slot, {tensor});
   const mint status = sums.allocate(tensor->type, tensor->rank - 1, tensor->dimensions + 1);
   if (status != kSuccess) return status;
-  return sumRowsOf(sums.get(), tensor, checks(tensor, flags)) ? sums.commit() : kSumFailed;
+  return sumRowsOf(sums.get(), tensor, checks(tensor, flags)) ? sums.commit() : kNotFinite;
 }
 
 // A failure leaves the result as it was.
 template <class T> mint totalAll(void *result, const MTensor *tensor, mint flags) {
   T sum;
   const auto *data = static_cast<const T *>(tensor->data);
-  if (!sumAll(&sum, data, tensor->elementCount, checks(tensor, flags))) return kSumFailed;
+  if (!sumAll(&sum, data, tensor->elementCount, checks(tensor, flags))) return kNotFinite;
   storeResult(result, sum);
   return kSuccess;
 }

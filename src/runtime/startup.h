@@ -14,6 +14,7 @@ void initializeHashConstants(mint stage);
 void initializeRuntimeFunctionTable(mint stage);
 void initializeElementTypeNames(mint stage);
 void initializeRankZeroTensors(mint stage);
+void initializeRandomNumbers(mint stage);
 void initializeThresholds(mint stage);
 void initializeEternalTensor(mint stage);
 void initializeAbortPoll(mint stage);
@@ -23,6 +24,7 @@ void tearDownThreadHookLists();
 void tearDownRuntimeFunctionTable();
 void tearDownElementTypeNames();
 void tearDownRankZeroTensors();
+void tearDownRandomNumbers();
 void tearDownEternalTensor();
 void tearDownPool();
 

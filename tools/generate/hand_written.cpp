@@ -1,6 +1,7 @@
 // Reads the signatures of hand-written exports from the headers, by the compiler's own knowledge of them.
 #include "signature.h"
 
+#include <torvane/distributions.h>
 #include <torvane/elementwise.h>
 #include <torvane/failure.h>
 #include <torvane/integers.h>
@@ -9,6 +10,7 @@
 #include <torvane/memory.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
+#include <torvane/random.h>
 #include <torvane/sorting.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
@@ -49,6 +51,14 @@ SPELLING(MTensor, "MTensor")
 SPELLING(CompilerError, "CompilerError")
 SPELLING(TorvaneUnaryRoutine, "TorvaneUnaryRoutine")
 SPELLING(TorvaneBinaryRoutine, "TorvaneBinaryRoutine")
+SPELLING(RandomGenerator, "RandomGenerator")
+SPELLING(RandomGeneratorSnapshot, "RandomGeneratorSnapshot")
+SPELLING(BufferData, "BufferData")
+SPELLING(RandomAlloc, "RandomAlloc")
+SPELLING(RandomClone, "RandomClone")
+SPELLING(RandomFree, "RandomFree")
+SPELLING(RandomGetBits, "RandomGetBits")
+SPELLING(RandomFill, "RandomFill")
 #undef SPELLING
 
 template <class T> struct Spelling<const T> {
