@@ -7,7 +7,6 @@
 #include "blas.h"
 #include "matrix_product.h"
 
-#include <torvane/machfuncs.h>
 #include <torvane/operators.h>
 
 #include <algorithm>
@@ -26,19 +25,6 @@ template <class T> struct Product {
     return std::max({m, k, n}) <= kLongestSmallExtent && int64_t{m} * k * n <= kLargestSmallVolume;
   }
 };
-
-bool areFinite(const mreal *x, mint count) {
-  constexpr mint kDense[] = {1, 1};
-  mint found;
-  machfunc_d_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
-  return found == 0;
-}
-bool areFinite(const mcomplex *x, mint count) {
-  constexpr mint kDense[] = {1, 1};
-  mint found;
-  machfunc_c_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
-  return found == 0;
-}
 
 // Whether infinities and NaNs count: always where a small product has looked for them on its way, and
 // deliberately in every product of two matrices; else where they are asked for.

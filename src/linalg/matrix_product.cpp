@@ -95,11 +95,24 @@ bool checkedProduct(mint *result, const mint *a, const mint *b, mint m, mint k, 
 
 } // namespace
 
+bool areFinite(const mreal *x, mint count) {
+  constexpr mint kDense[] = {1, 1};
+  mint found;
+  machfunc_d_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
+  return found == 0;
+}
+bool areFinite(const mcomplex *x, mint count) {
+  constexpr mint kDense[] = {1, 1};
+  mint found;
+  machfunc_c_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
+  return found == 0;
+}
+
 bool sequentialProduct(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
-  return loops().reals(result, a, b, m, k, n);
+  return loops().reals(result, a, b, m, k, n) || areFinite(result, m * n);
 }
 bool sequentialProduct(mcomplex *result, const mcomplex *a, const mcomplex *b, mint m, mint k, mint n) {
-  return loops().complexes(result, a, b, m, k, n);
+  return loops().complexes(result, a, b, m, k, n) || areFinite(result, m * n);
 }
 
 bool integerProduct(mint *result, const mint *a, const mint *b, mint m, mint k, mint n, mint flags) {

@@ -9,7 +9,7 @@ namespace torvane {
 
 // Where a walk over `count` elements begins: at a negative stride from the far end.
 template <class T> inline const T *startOf(const T *x, mint stride, mint count) {
-  return stride < 0 ? x + (ptrdiff_t{1} - count) * stride : x;
+  return stride < 0 && count > 0 ? x + (ptrdiff_t{1} - count) * stride : x;
 }
 
 inline mreal times(mreal x, mreal y) { return x * y; }

@@ -423,7 +423,7 @@ TEST_F(OuterPolls, EndTheLoopOnceTheyReportAnAbort) {
           call.add(samples.tensor<mint>(extents), 1);
         }
         std::vector<mint> expected = modelValues<mint>(call, kind);
-        std::fill(expected.begin() + ptrdiff_t(expected.size() / 6) * polls, expected.end(), 0);
+        std::fill(expected.begin() + ptrdiff_t(expected.size() / 6) * ptrdiff_t(polls), expected.end(), 0);
         const uint32_t used = usedBytesOfThisThread();
         for (const bool isInPlace : {false, true}) {
           const Call once = call.clone();

@@ -56,6 +56,18 @@ TEST_P(ProductLoops, OfRealsHoldTheirOrderAndTheirBounds) { expectBitsWithinBoun
 TEST_P(ProductLoops, OfComplexNumbersHoldTheirOrderAndTheirBounds) { expectBitsWithinBounds<mcomplex>(); }
 TEST_P(ProductLoops, OfIntegersAreExactWithinTheirBounds) { expectBitsWithinBounds<mint>(); }
 
+// Their sum is not finite, though each of them is.
+TEST_P(ProductLoops, OfLargeFiniteRealsAreNotTakenForInfinities) {
+  const std::vector<mreal> a(6, 1), b(12, 1.5e308);
+  std::vector<mreal> result(72);
+  EXPECT_TRUE(sequentialProduct(result.data(), a.data(), b.data(), 6, 1, 12));
+  EXPECT_EQ(result, std::vector<mreal>(72, 1.5e308));
+  const std::vector<mcomplex> c(3, {1, 0}), d(5, {-1.5e308, 1.5e308});
+  std::vector<mcomplex> products(15);
+  EXPECT_TRUE(sequentialProduct(products.data(), c.data(), d.data(), 3, 1, 5));
+  EXPECT_EQ(products, std::vector<mcomplex>(15, {-1.5e308, 1.5e308}));
+}
+
 TEST_P(ProductLoops, OfUncheckedIntegersWrap) {
   Samples samples(22);
   for (int round = 0; round < 400; ++round) {
