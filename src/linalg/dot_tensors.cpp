@@ -7,6 +7,7 @@
 #include "blas.h"
 #include "matrix_product.h"
 
+#include <torvane/linalg.h>
 #include <torvane/operators.h>
 
 #include <algorithm>
@@ -115,3 +116,12 @@ mint generalDot(MTensor **slot, MTensor *a, MTensor *b, mint flags) {
 }
 
 } // namespace torvane
+
+using namespace torvane;
+
+mint MTensorGeneralDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags) {
+  if (a->type != b->type) return kWrongType;
+  if (!ranksFit(a, b)) return kWrongRank;
+  if (!innerExtentsFit(a, b)) return kWrongDimensions;
+  return generalDot(resultSlot, a, b, flags) == kSuccess ? 0 : 1;
+}

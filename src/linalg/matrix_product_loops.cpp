@@ -11,6 +11,9 @@
 
 namespace torvane {
 
+using torvane_loops::kExactColumns;
+using torvane_loops::kExactRows;
+
 namespace {
 
 // `length` elements side by side.
@@ -232,25 +235,61 @@ void largestOfRows(uint32_t *magnitudes, const mint *b, mint k, mint n) {
   }
 }
 
-// A block of sums in 64 bits, which stays in the nearest cache while b is read row by row.
-constexpr mint kBlock = 256;
+// Stores sums up to the first one out of range, and yields how many.
+mint storeInRange(mint *result, const int64_t *sums, mint count) {
+  for (mint j = 0; j < count; ++j) {
+    if (sums[j] > kMaximum<mint> || sums[j] < -int64_t{kMaximum<mint>}) return j;
+    result[j] = static_cast<mint>(sums[j]);
+  }
+  return count;
+}
 
-mint multiplyIntegerRow(mint *result, const mint *a, const mint *b, mint k, mint n) {
-  for (mint start = 0; start < n; start += kBlock) {
-    const mint length = n - start < kBlock ? n - start : kBlock;
-    int64_t sums[kBlock] = {};
+// Sums in 64 bits, few enough to stay in the nearest cache while b is read row by row. Products in range need 32,
+// which multiply in half the time.
+template <mint rows> struct ExactBlock {
+  int64_t sums[rows][kExactColumns];
+
+  void run(const mint *a, const mint *b, mint k, mint n, mint start, mint length) {
+    __builtin_memset(sums, 0, sizeof sums);
     for (ptrdiff_t p = 0; p < k; ++p) {
       const mint *row = b + p * n + start;
-      const mint x = a[p];
-      for (mint j = 0; j < length; ++j) sums[j] += int64_t{x} * row[j];
+      for (mint r = 0; r < rows; ++r) {
+        const auto x = static_cast<uint32_t>(a[ptrdiff_t{r} * k + p]);
+        for (mint j = 0; j < length; ++j)
+          sums[r][j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
+      }
     }
-    for (mint j = 0; j < length; ++j) {
-      if (sums[j] > kMaximum<mint> || sums[j] < -int64_t{kMaximum<mint>}) return start + j;
-      result[start + j] = static_cast<mint>(sums[j]);
-    }
-    if (n - start <= kBlock) break; // the next start may be beyond mint
+  }
+};
+
+// A row of any length, block by block.
+mint multiplyExactRow(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  ExactBlock<1> block;
+  for (mint start = 0; start < n; start += kExactColumns) {
+    const mint length = n - start < kExactColumns ? n - start : kExactColumns;
+    block.run(a, b, k, n, start, length);
+    const mint stored = storeInRange(result + start, block.sums[0], length);
+    if (stored < length) return start + stored;
+    if (n - start <= kExactColumns) break; // the next start may be beyond mint
   }
   return n;
+}
+
+// Rows of one block, which read b once.
+mint multiplyExactRows(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  ExactBlock<kExactRows> block;
+  block.run(a, b, k, n, 0, n);
+  for (mint r = 0; r < kExactRows; ++r) {
+    const mint stored = storeInRange(result + ptrdiff_t{r} * n, block.sums[r], n);
+    if (stored < n) return r * n + stored;
+  }
+  return kExactRows * n;
+}
+
+bool areAllFinite(const mreal *x, mint count) {
+  Finiteness<mreal> state = {0};
+  foldDense(state, x, count);
+  return state.value == 0;
 }
 
 } // namespace
@@ -262,5 +301,7 @@ const torvane_loops::ProductLoops torvane_loops::TORVANE_LOOPS_HERE(product) = {
     .complexes = torvane::multiplyComplexes,
     .integers = torvane::multiplyIntegers,
     .rowMagnitudes = torvane::largestOfRows,
-    .integerRow = torvane::multiplyIntegerRow,
+    .exactRow = torvane::multiplyExactRow,
+    .exactRows = torvane::multiplyExactRows,
+    .areFinite = torvane::areAllFinite,
 };
