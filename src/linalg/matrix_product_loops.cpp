@@ -244,8 +244,8 @@ mint storeInRange(mint *result, const int64_t *sums, mint count) {
   return count;
 }
 
-// Sums in 64 bits, few enough to stay in the nearest cache while b is read row by row. Products in range need 32,
-// which multiply in half the time.
+// Sums in 64 bits, few enough to stay in the nearest cache while b is read row by row. Products in range need
+// 32, which multiply in half the time.
 template <mint rows> struct ExactBlock {
   int64_t sums[rows][kExactColumns];
 
@@ -255,8 +255,7 @@ template <mint rows> struct ExactBlock {
       const mint *row = b + p * n + start;
       for (mint r = 0; r < rows; ++r) {
         const auto x = static_cast<uint32_t>(a[ptrdiff_t{r} * k + p]);
-        for (mint j = 0; j < length; ++j)
-          sums[r][j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
+        for (mint j = 0; j < length; ++j) sums[r][j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
       }
     }
   }
@@ -286,10 +285,32 @@ mint multiplyExactRows(mint *result, const mint *a, const mint *b, mint k, mint 
   return kExactRows * n;
 }
 
+// The first and the last vector lie where the data do, those between begin at a line of the cache: one
+// element looked at twice counts for nothing, and a vector across two lines costs two.
 bool areAllFinite(const mreal *x, mint count) {
-  Finiteness<mreal> state = {0};
-  foldDense(state, x, count);
-  return state.value == 0;
+  constexpr mint kOne = kPackedLength<mreal>, kFour = 4 * kOne;
+  Finiteness<mreal> rest = {0};
+  if (count < kOne) {
+    for (mint k = 0; k < count; ++k) rest.take(x[k]);
+    return rest.value == 0;
+  }
+  Finiteness<Packed<mreal>> a = {{}}, b = a, c = a, d = a;
+  a.take(loadPacked(x));
+  b.take(loadPacked(x + count - kOne));
+  mint k = static_cast<mint>(reinterpret_cast<uintptr_t>(x) / sizeof(mreal) % kOne);
+  k = k == 0 ? 0 : kOne - k;
+  for (; count - k >= kFour; k += kFour) {
+    a.take(loadPacked(x + k));
+    b.take(loadPacked(x + k + kOne));
+    c.take(loadPacked(x + k + 2 * kOne));
+    d.take(loadPacked(x + k + 3 * kOne));
+  }
+  for (; count - k >= kOne; k += kOne) c.take(loadPacked(x + k));
+  a.merge(b);
+  c.merge(d);
+  a.merge(c);
+  for (mint lane = 0; lane < kOne; ++lane) rest.merge({a.value[lane]});
+  return rest.value == 0;
 }
 
 } // namespace

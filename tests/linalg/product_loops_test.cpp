@@ -7,6 +7,8 @@
 #include "support/failing_heap.h"
 #include "support/guarded_pages.h"
 
+#include <limits>
+
 using namespace torvane;
 using namespace torvane::test;
 
@@ -66,6 +68,23 @@ TEST_P(ProductLoops, OfLargeFiniteRealsAreNotTakenForInfinities) {
   std::vector<mcomplex> products(15);
   EXPECT_TRUE(sequentialProduct(products.data(), c.data(), d.data(), 3, 1, 5));
   EXPECT_EQ(products, std::vector<mcomplex>(15, {-1.5e308, 1.5e308}));
+}
+
+TEST_P(ProductLoops, FindOneInfinityAmongFiniteRealsWhereverItStands) {
+  GuardedPages pages;
+  for (mint count = 0; count <= 100; ++count)
+    for (const bool isAtEnd : {false, true}) {
+      const size_t bytes = size_t(count) * sizeof(mreal);
+      auto *x = static_cast<mreal *>(isAtEnd ? pages.atEnd(bytes) : pages.begin());
+      std::fill(x, x + count, 1.7e308);
+      ASSERT_TRUE(areFinite(x, count)) << count;
+      for (mint at = 0; at < count; ++at) {
+        x[at] =
+            at % 2 == 0 ? -std::numeric_limits<mreal>::infinity() : std::numeric_limits<mreal>::quiet_NaN();
+        ASSERT_FALSE(areFinite(x, count)) << at << " of " << count;
+        x[at] = 1.7e308;
+      }
+    }
 }
 
 TEST_P(ProductLoops, OfUncheckedIntegersWrap) {
