@@ -8,6 +8,7 @@
 #include "../algorithms/scratch_bytes.h"
 #include "../elementwise/levels.h"
 #include "../elementwise/pieces.h"
+#include "../elementwise/reduction_loops.h"
 #include "../runtime/platform_cpu_level.h"
 #include "../scalar/magnitude.h"
 #include "matrix_product_loops.h"
@@ -21,8 +22,7 @@ namespace {
 
 using torvane_loops::kExactColumns;
 using torvane_loops::kExactRows;
-
-constexpr mint kFreeOrder = 8; // elements from which a checked dot product tests its sum as a whole
+using torvane_loops::kFreeOrder;
 
 const torvane_loops::ProductLoops &loops() {
   static constexpr const torvane_loops::ProductLoops *byLevel[kProcessorLevels] =
