@@ -251,11 +251,20 @@ template <mint rows> struct ExactBlock {
 
   void run(const mint *a, const mint *b, mint k, mint n, mint start, mint length) {
     __builtin_memset(sums, 0, sizeof sums);
+    for (mint j = 0; j < length; j += kChunk)
+      addColumns(a, b + start + j, k, n, j, length - j < kChunk ? length - j : kChunk);
+  }
+
+private:
+  static constexpr mint kChunk = 64;
+
+  void addColumns(const mint *a, const mint *columns, mint k, mint n, mint at, mint length) {
     for (ptrdiff_t p = 0; p < k; ++p) {
-      const mint *row = b + p * n + start;
+      const mint *row = columns + p * n;
       for (mint r = 0; r < rows; ++r) {
         const auto x = static_cast<uint32_t>(a[ptrdiff_t{r} * k + p]);
-        for (mint j = 0; j < length; ++j) sums[r][j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
+        int64_t *to = sums[r] + at;
+        for (mint j = 0; j < length; ++j) to[j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
       }
     }
   }
