@@ -75,7 +75,7 @@ template <class T> void expectNear() {
     ASSERT_TRUE(areNear(walked(x, incx, n), walked(y, incy, n), dot)) << n << " at " << incx << ", " << incy;
   });
   Samples samples(3);
-  for (const size_t n : {64, 100, 1000, 12345}) {
+  for (const size_t n : std::initializer_list<size_t>{64, 100, 1000, 12345}) {
     const auto x = samples.list<T>(n), y = samples.list<T>(n);
     T dot = kUntouched<T>;
     ASSERT_EQ(dotOf(&dot, x.data(), 1, y.data(), 1, mint(n), 0), 0);
@@ -140,7 +140,7 @@ TEST(VectorDot, TestsBothPartsOfAComplexSum) {
 
 TEST(VectorDot, OfComplexNumbersDoesNotConjugateUnlessAsked) {
   Samples samples(4);
-  for (const size_t n : {1, 7, 50, 51, 80}) {
+  for (const size_t n : std::initializer_list<size_t>{1, 7, 50, 51, 80}) {
     const auto x = samples.list<mcomplex>(n), y = samples.list<mcomplex>(n);
     auto conjugates = x;
     for (mcomplex &z : conjugates) z.im = -z.im;
