@@ -4,6 +4,12 @@
 
 namespace torvane {
 
+namespace {
+
+bool isNumeric(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TORVANE_TYPE_COMPLEX; }
+
+} // namespace
+
 mint OuterOperands::check() const {
   for (mint i = 0; i < count; ++i) {
     if (level(i) < 0 || level(i) > tensors[i]->rank) return kValueFailed;
@@ -11,7 +17,7 @@ mint OuterOperands::check() const {
     if (!std::equal(trailing(i), trailing(i) + trailingRank(), trailing(0))) return kWrongDimensions;
     if (tensors[i]->type != first()->type) return kValueFailed;
   }
-  return kSuccess;
+  return isNumeric(first()->type) ? kSuccess : kValueFailed;
 }
 
 mint OuterOperands::blockLength() const {

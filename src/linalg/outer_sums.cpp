@@ -102,12 +102,9 @@ private:
   ScratchBytes partials;
 };
 
-bool isNumeric(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TORVANE_TYPE_COMPLEX; }
-
 mint outerSum(const OuterOperator &by, MTensor **slot, const OuterOperands &operands, mint flags) {
   mint status = operands.check();
   if (status != kSuccess) return status;
-  if (!isNumeric(operands.first()->type)) return kValueFailed;
   if (operands.count == 1) return MTensor_makeCopy(slot, operands.first());
   ResultTensor result(slot);
   status = operands.allocate(result, false);

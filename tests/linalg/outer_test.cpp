@@ -548,11 +548,12 @@ TEST(OuterList, GivesElevenForANegativeExtent) {
   call.tensors[1]->dimensions[0] = 3;
 }
 
-TEST(Outer, SumsRefuseTensorsWithoutNumbers) {
+TEST(Outer, RefusesTensorsWithoutNumbers) {
   Call call = pairOf({2}, 1, {3}, 1);
   for (const Tensor &tensor : call.tensors) tensor->type = 1;
   MTensor *slot = nullptr;
-  EXPECT_EQ(call.run(kPlus, &slot), 4);
+  for (const Kind kind : kKinds) EXPECT_EQ(call.run(kind, &slot), 4);
+  EXPECT_EQ(slot, nullptr);
   for (const Tensor &tensor : call.tensors) tensor->type = TORVANE_TYPE_REAL;
 }
 
