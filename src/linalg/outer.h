@@ -3,8 +3,8 @@
 //
 // levels[i] dimensions of tensors[i] are leading ones, null: all. Result dimensions: the leading ones of each
 // tensor in turn, for a list the number of tensors, then the trailing ones. The slot may hold an operand,
-// which a failure leaves as it was. Status 3 where trailing ranks or dimensions differ, 4 for unequal types,
-// a level out of its rank, or a failing element.
+// which a failure leaves as it was. Status 3 where trailing ranks or dimensions differ, 4 for types
+// unequal or none, a level out of its rank, or a failing element.
 #pragma once
 
 #include "../tensor/tensor.h"
