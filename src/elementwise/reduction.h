@@ -290,12 +290,12 @@ struct ProductSum {
 // tested at each of them, in their order, from there on as a whole only: it then does not matter how a sum is
 // cut, into packed registers or pieces.
 struct dot {
-  static constexpr mint kFreeOrder = 8;
   template <class T> using Accumulator = ProductSum;
   template <class T> using Stored = T;
   template <class T> static constexpr ProductSum initial() { return {0}; }
   template <class Form> static mint take(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
-    if constexpr (Form::checked) return x.count < kFreeOrder ? addOneByOne(sum, x, y) : addBlocks(sum, x, y);
+    if constexpr (Form::checked)
+      return x.count < torvane_loops::kFreeOrder ? addOneByOne(sum, x, y) : addBlocks(sum, x, y);
     sum.value += int64_t{wrappedProducts(x, y)};
     return 0;
   }

@@ -20,6 +20,14 @@ mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint inc
 mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
                   bool conjugated, mint flags);
 
+// A scalar has no dimension to contract, and two vectors have no tensor for a result: they go by DotVV.
+inline bool ranksFit(const MTensor *a, const MTensor *b) {
+  return a->rank >= 1 && b->rank >= 1 && (a->rank > 1 || b->rank > 1);
+}
+inline bool innerExtentsFit(const MTensor *a, const MTensor *b) {
+  return a->dimensions[a->rank - 1] == b->dimensions[0];
+}
+
 // Of tensors whose ranks and inner dimensions fit. The slot may hold an operand, which a failure leaves as it
 // was; out of memory ends the process. kWrongType for unequal types, kDotFailed for a failing element.
 mint generalDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags);

@@ -1,20 +1,10 @@
-// Dot products by export and by name.
+// Dot products by name.
 #include "../algorithms/handler.h"
 #include "dot.h"
-
-#include <torvane/linalg.h>
 
 namespace torvane {
 
 namespace {
-
-// A scalar has no dimension to contract, and two vectors have no tensor for a result: they go by DotVV.
-bool ranksFit(const MTensor *a, const MTensor *b) {
-  return a->rank >= 1 && b->rank >= 1 && (a->rank > 1 || b->rank > 1);
-}
-bool innerExtentsFit(const MTensor *a, const MTensor *b) {
-  return a->dimensions[a->rank - 1] == b->dimensions[0];
-}
 
 template <class T> const T *elementsOf(const MTensor *tensor) { return static_cast<const T *>(tensor->data); }
 
@@ -53,12 +43,3 @@ mint handleDotVV(TorvaneLibraryData *, mint, void *const *arguments, void *resul
 }
 
 } // namespace torvane
-
-using namespace torvane;
-
-mint MTensorGeneralDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags) {
-  if (a->type != b->type) return kWrongType;
-  if (!ranksFit(a, b)) return kWrongRank;
-  if (!innerExtentsFit(a, b)) return kWrongDimensions;
-  return generalDot(resultSlot, a, b, flags) == kSuccess ? 0 : 1;
-}

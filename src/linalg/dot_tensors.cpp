@@ -7,7 +7,7 @@
 #include "blas.h"
 #include "matrix_product.h"
 
-#include <torvane/machfuncs.h>
+#include <torvane/linalg.h>
 #include <torvane/operators.h>
 
 #include <algorithm>
@@ -26,19 +26,6 @@ template <class T> struct Product {
     return std::max({m, k, n}) <= kLongestSmallExtent && int64_t{m} * k * n <= kLargestSmallVolume;
   }
 };
-
-bool areFinite(const mreal *x, mint count) {
-  constexpr mint kDense[] = {1, 1};
-  mint found;
-  machfunc_d_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
-  return found == 0;
-}
-bool areFinite(const mcomplex *x, mint count) {
-  constexpr mint kDense[] = {1, 1};
-  mint found;
-  machfunc_c_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
-  return found == 0;
-}
 
 // Whether infinities and NaNs count: always where a small product has looked for them on its way, and
 // deliberately in every product of two matrices; else where they are asked for.
@@ -129,3 +116,12 @@ mint generalDot(MTensor **slot, MTensor *a, MTensor *b, mint flags) {
 }
 
 } // namespace torvane
+
+using namespace torvane;
+
+mint MTensorGeneralDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags) {
+  if (a->type != b->type) return kWrongType;
+  if (!ranksFit(a, b)) return kWrongRank;
+  if (!innerExtentsFit(a, b)) return kWrongDimensions;
+  return generalDot(resultSlot, a, b, flags) == kSuccess ? 0 : 1;
+}

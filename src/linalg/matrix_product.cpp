@@ -7,6 +7,8 @@
 
 #include "../algorithms/scratch_bytes.h"
 #include "../elementwise/levels.h"
+#include "../elementwise/pieces.h"
+#include "../elementwise/reduction_loops.h"
 #include "../runtime/platform_cpu_level.h"
 #include "../scalar/magnitude.h"
 #include "matrix_product_loops.h"
@@ -18,7 +20,9 @@ namespace torvane {
 
 namespace {
 
-constexpr mint kFreeOrder = 8; // elements from which a checked dot product tests its sum as a whole
+using torvane_loops::kExactColumns;
+using torvane_loops::kExactRows;
+using torvane_loops::kFreeOrder;
 
 const torvane_loops::ProductLoops &loops() {
   static constexpr const torvane_loops::ProductLoops *byLevel[kProcessorLevels] =
@@ -59,28 +63,46 @@ RowIs judge(const mint *a, const uint32_t *magnitudes, mint k) {
 struct Checked {
   mint *result;
   const mint *a, *b;
-  mint k, n;
+  mint m, k, n;
+  const uint32_t *magnitudes;
 
-  void runSafe(ptrdiff_t first, ptrdiff_t last) const {
-    if (last > first)
-      loops().integers(result + first * n, a + first * k, b, static_cast<mint>(last - first), k, n);
+  RowIs judgeRow(ptrdiff_t i) const { return judge(a + i * k, magnitudes, k); }
+
+  // Rows of one kind from `first` on; failing ones come alone.
+  ptrdiff_t endOfRun(ptrdiff_t first, RowIs row) const {
+    ptrdiff_t i = first + 1;
+    while (row != RowIs::failing && i < m && judgeRow(i) == row) ++i;
+    return i;
   }
-  bool runRow(ptrdiff_t i, RowIs row) const {
-    if (row == RowIs::failing || k < kFreeOrder)
-      return rowByDots(result + i * n, a + i * k, b, k, n, TORVANE_CHECK_INTEGERS);
-    return loops().integerRow(result + i * n, a + i * k, b, k, n) == n;
+
+  bool runExact(ptrdiff_t i, ptrdiff_t last) const {
+    for (; n <= kExactColumns && last - i >= kExactRows; i += kExactRows)
+      if (loops().exactRows(result + i * n, a + i * k, b, k, n) < kExactRows * n) return false;
+    for (; i < last; ++i)
+      if (loops().exactRow(result + i * n, a + i * k, b, k, n) < n) return false;
+    return true;
   }
-  // Safe rows wait until there is another kind of row, and run together.
-  bool run(mint m, const uint32_t *magnitudes) const {
-    ptrdiff_t safe = 0;
-    for (ptrdiff_t i = 0; i < m; ++i) {
-      const RowIs row = judge(a + i * k, magnitudes, k);
-      if (row == RowIs::safe) continue;
-      runSafe(safe, i);
-      if (!runRow(i, row)) return false;
-      safe = i + 1;
+
+  bool runRows(ptrdiff_t first, ptrdiff_t last, RowIs row) const {
+    const mint count = static_cast<mint>(last - first);
+    mint *to = result + first * n;
+    const mint *from = a + first * k;
+    if (row == RowIs::safe) {
+      loops().integers(to, from, b, count, k, n);
+      return true;
     }
-    runSafe(safe, m);
+    if (row == RowIs::failing || k < kFreeOrder)
+      return rowsByDots(to, from, b, count, k, n, TORVANE_CHECK_INTEGERS);
+    return runExact(first, last);
+  }
+
+  bool run() const {
+    for (ptrdiff_t i = 0; i < m;) {
+      const RowIs row = judgeRow(i);
+      const ptrdiff_t end = endOfRun(i, row);
+      if (!runRows(i, end, row)) return false;
+      i = end;
+    }
     return true;
   }
 };
@@ -90,16 +112,31 @@ bool checkedProduct(mint *result, const mint *a, const mint *b, mint m, mint k, 
   const ScratchBytes magnitudes(static_cast<uint64_t>(k) * sizeof(uint32_t), kQuiet);
   if (!magnitudes) return rowsByDots(result, a, b, m, k, n, TORVANE_CHECK_INTEGERS);
   loops().rowMagnitudes(magnitudes.as<uint32_t>(), b, k, n);
-  return Checked{result, a, b, k, n}.run(m, magnitudes.as<uint32_t>());
+  return Checked{result, a, b, m, k, n, magnitudes.as<uint32_t>()}.run();
 }
 
 } // namespace
 
+// Long ones are shared among the workers.
+bool areFinite(const mreal *x, mint count) {
+  constexpr mint kDense[] = {1, 1};
+  if (!goesParallel(kReductions, count)) return loops().areFinite(x, count);
+  mint found;
+  machfunc_d_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
+  return found == 0;
+}
+bool areFinite(const mcomplex *x, mint count) {
+  constexpr mint kDense[] = {1, 1};
+  mint found;
+  machfunc_c_fpexception(&found, x, count, kDense, TORVANE_CHECK_REALS);
+  return found == 0;
+}
+
 bool sequentialProduct(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
-  return loops().reals(result, a, b, m, k, n);
+  return loops().reals(result, a, b, m, k, n) || areFinite(result, m * n);
 }
 bool sequentialProduct(mcomplex *result, const mcomplex *a, const mcomplex *b, mint m, mint k, mint n) {
-  return loops().complexes(result, a, b, m, k, n);
+  return loops().complexes(result, a, b, m, k, n) || areFinite(result, m * n);
 }
 
 bool integerProduct(mint *result, const mint *a, const mint *b, mint m, mint k, mint n, mint flags) {

@@ -11,6 +11,9 @@ namespace torvane {
 bool sequentialProduct(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n);
 bool sequentialProduct(mcomplex *result, const mcomplex *a, const mcomplex *b, mint m, mint k, mint n);
 
+bool areFinite(const mreal *x, mint count);
+bool areFinite(const mcomplex *x, mint count);
+
 // Wraps; under flag 4 false where an element fails as a checked dot product of its row and column does, the
 // first one in row-major order: the elements before it are written, and no others.
 bool integerProduct(mint *result, const mint *a, const mint *b, mint m, mint k, mint n, mint flags);

@@ -11,6 +11,9 @@
 
 namespace torvane {
 
+using torvane_loops::kExactColumns;
+using torvane_loops::kExactRows;
+
 namespace {
 
 // `length` elements side by side.
@@ -27,7 +30,7 @@ template <class V, class T> inline V load(const T *from) {
 }
 template <class V, class T> inline void store(T *to, V v) { __builtin_memcpy(to, &v, sizeof v); }
 
-// Vectors side by side: as many as leave room, beside four rows of them, for the operands.
+// Vectors side by side, of the longest length; of a shorter one a row has fewer.
 #if defined __AVX512F__
 constexpr int kMostVectors = 4;
 #elif defined __AVX2__
@@ -36,11 +39,20 @@ constexpr int kMostVectors = 3;
 constexpr int kMostVectors = 2;
 #endif
 
-// Words and their products, by vectors of one length.
-template <class T, int length> struct Plain {
+// Rows of a tile of reals: as many as the registers hold beside the operands, since the ends of a tile cost
+// as much as several steps of its sums.
+constexpr int mostRows(int vectors) {
+  constexpr int kRegisters = kMostVectors == 4 ? 32 : 16;
+  const int rows = (kRegisters - 2) / vectors - 1;
+  return rows > 8 ? 8 : rows;
+}
+
+// Words and their products, by vectors of one length, of which `most` stand side by side.
+template <class T, int length, int most> struct Plain {
   using Word = T;
   using Vector = Lanes<T, length>;
-  static constexpr int kLength = length, kWords = 1;
+  static constexpr int kLength = length, kWords = 1, kMost = most;
+  static constexpr int rowsBeside(int vectors) { return isSame<T, mreal> ? mostRows(vectors) : 4; }
   struct Factor {
     T word;
     explicit Factor(const T *from) : word(*from) {}
@@ -50,10 +62,11 @@ template <class T, int length> struct Plain {
 
 // Complex numbers, as pairs of words: x.re * y, plus (-x.im, x.im) * the swapped y, is the product with both
 // parts rounded as ever, since a sign costs no rounding.
-template <int length> struct Pairs {
+template <int length, int most> struct Pairs {
   using Word = mreal;
   using Vector = Lanes<mreal, 2 * length>;
-  static constexpr int kLength = length, kWords = 2;
+  static constexpr int kLength = length, kWords = 2, kMost = most;
+  static constexpr int rowsBeside(int) { return 4; }
   struct Factor {
     mreal re;
     Vector im;
@@ -86,38 +99,24 @@ template <class Kind> struct Matrices {
   ptrdiff_t k, n; // in words of a row
 };
 
-// A finite number less itself is 0, anything else a NaN: the bits of all these differences, or-ed, are those
-// of zeros, whose sign the rounding mode decides, while all elements are finite.
-template <class T> struct BitsOf { using Type = T; };
-template <> struct BitsOf<mreal> { using Type = uint64_t; };
-template <class Kind> struct Suspicion {
-  using Word = typename BitsOf<typename Kind::Word>::Type;
-  using Vector = typename Kind::Vector;
-  static constexpr int kLength = sizeof(Vector) / sizeof(Word);
-  Lanes<Word, kLength> bits = {};
+// The sum of all elements, lane by lane. While it is finite, so is every element; where it is not, they may
+// all be finite and large.
+template <class Kind> struct Total {
+  typename Kind::Vector lanes = {};
 
-  void take(Vector x) {
-    if constexpr (!isSame<Word, typename Kind::Word>) {
-      const Vector difference = x - x;
-      Lanes<Word, kLength> of;
-      __builtin_memcpy(&of, &difference, sizeof of);
-      bits |= of;
-    }
-  }
-  bool any() const {
-    Word words[kLength], all = 0;
-    __builtin_memcpy(words, &bits, sizeof words);
-    for (const Word word : words) all |= word;
-    return static_cast<Word>(all << 1) != 0;
+  bool isFinite() const {
+    typename Kind::Word words[sizeof lanes / sizeof(typename Kind::Word)], differences = 0;
+    __builtin_memcpy(words, &lanes, sizeof words);
+    for (const typename Kind::Word word : words) differences += word - word;
+    return differences == 0;
   }
 };
 
 // The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words.
 template <class Kind, int rows, int vectors>
-inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets,
-                    Suspicion<Kind> &suspicion) {
+inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets, Total<Kind> &total) {
   using Vector = typename Kind::Vector;
-  Vector sums[rows][vectors] = {};
+  Vector sums[rows][vectors] = {}, all[vectors] = {};
   const typename Kind::Word *a = at.a + row * at.k, *columns[vectors];
   for (int v = 0; v < vectors; ++v) columns[v] = at.b + offsets[v];
   for (ptrdiff_t p = 0; p < at.k; p += Kind::kWords) {
@@ -134,64 +133,74 @@ inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *of
   for (int r = 0; r < rows; ++r)
     for (int v = 0; v < vectors; ++v) {
       store(at.result + (row + r) * at.n + offsets[v], sums[r][v]);
-      suspicion.take(sums[r][v]);
+      all[v] += sums[r][v];
     }
+  for (int v = 0; v < vectors; ++v) total.lanes += all[v];
+}
+
+// The smallest products look for the fewest rows.
+template <class Kind, int rows, int vectors>
+inline void runTileOf(ptrdiff_t count, const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets,
+                      Total<Kind> &total) {
+  if constexpr (rows < Kind::rowsBeside(vectors))
+    if (count > rows) return runTileOf<Kind, rows + 1, vectors>(count, at, row, offsets, total);
+  runTile<Kind, rows, vectors>(at, row, offsets, total);
+}
+
+// Of so many rows or vectors that are left: what fits, or about a half, because a rest of one would wait for
+// its own sums.
+inline ptrdiff_t next(ptrdiff_t left, ptrdiff_t most) {
+  if (left <= most) return left;
+  return left < 2 * most ? left / 2 : most;
 }
 
 template <class Kind, int vectors>
-void runColumns(const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets, Suspicion<Kind> &suspicion) {
-  ptrdiff_t row = 0;
-  for (; m - row >= 4; row += 4) runTile<Kind, 4, vectors>(at, row, offsets, suspicion);
-  if (m - row >= 2) {
-    runTile<Kind, 2, vectors>(at, row, offsets, suspicion);
-    row += 2;
+void runColumns(const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets, Total<Kind> &total) {
+  constexpr int kMostRows = Kind::rowsBeside(vectors);
+  for (ptrdiff_t row = 0; row < m;) {
+    const ptrdiff_t rows = next(m - row, kMostRows);
+    runTileOf<Kind, 1, vectors>(rows, at, row, offsets, total);
+    row += rows;
   }
-  if (m > row) runTile<Kind, 1, vectors>(at, row, offsets, suspicion);
 }
 
-// Of so many vectors: groups are about equal, because one vector alone would wait for its own sums.
-inline ptrdiff_t vectorsInGroup(ptrdiff_t vectors) {
-  if (vectors <= kMostVectors) return vectors;
-  return vectors < 2 * kMostVectors ? vectors / 2 : kMostVectors;
+template <class Kind, int vectors>
+inline void runColumnsOf(ptrdiff_t count, const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets,
+                         Total<Kind> &total) {
+  if constexpr (vectors < Kind::kMost)
+    if (count > vectors) return runColumnsOf<Kind, vectors + 1>(count, at, m, offsets, total);
+  runColumns<Kind, vectors>(at, m, offsets, total);
 }
 
-// All columns, by groups of vectors.
+// All columns, by groups of vectors. Whether the sum of the elements is finite.
 template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
   constexpr ptrdiff_t kStep = ptrdiff_t{Kind::kLength} * Kind::kWords;
-  ptrdiff_t offsets[kMostVectors];
-  Suspicion<Kind> suspicion = {};
+  ptrdiff_t offsets[Kind::kMost];
+  Total<Kind> total;
   const ptrdiff_t all = (at.n + kStep - 1) / kStep;
   for (ptrdiff_t done = 0; done < all;) {
-    const ptrdiff_t vectors = vectorsInGroup(all - done);
+    const ptrdiff_t vectors = next(all - done, Kind::kMost);
     for (ptrdiff_t v = 0; v < vectors; ++v) {
       const ptrdiff_t offset = (done + v) * kStep;
       offsets[v] = offset + kStep <= at.n ? offset : at.n - kStep;
     }
-    switch (vectors) {
-    case 1:
-      runColumns<Kind, 1>(at, m, offsets, suspicion);
-      break;
-    case 2:
-      runColumns<Kind, 2>(at, m, offsets, suspicion);
-      break;
-    case 3:
-      if constexpr (kMostVectors >= 3) runColumns<Kind, 3>(at, m, offsets, suspicion);
-      break;
-    default:
-      if constexpr (kMostVectors >= 4) runColumns<Kind, 4>(at, m, offsets, suspicion);
-    }
+    runColumnsOf<Kind, 1>(vectors, at, m, offsets, total);
     done += vectors;
   }
-  return !suspicion.any();
+  return total.isFinite();
 }
+
+// A length below the longest serves rows of fewer than two vectors of the next longer one.
+template <class T, int length>
+constexpr int kMostOf = kPackedBytes == length *static_cast<int>(sizeof(T)) ? kMostVectors : 2;
 
 bool multiplyReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
   if constexpr (kPackedLength<mreal> >= 8)
-    if (n >= 8) return run<Plain<mreal, 8>>({result, a, b, k, n}, m);
+    if (n >= 8) return run<Plain<mreal, 8, kMostVectors>>({result, a, b, k, n}, m);
   if constexpr (kPackedLength<mreal> >= 4)
-    if (n >= 4) return run<Plain<mreal, 4>>({result, a, b, k, n}, m);
-  if (n >= 2) return run<Plain<mreal, 2>>({result, a, b, k, n}, m);
-  return run<Plain<mreal, 1>>({result, a, b, k, n}, m);
+    if (n >= 4) return run<Plain<mreal, 4, kMostOf<mreal, 4>>>({result, a, b, k, n}, m);
+  if (n >= 2) return run<Plain<mreal, 2, kMostOf<mreal, 2>>>({result, a, b, k, n}, m);
+  return run<Plain<mreal, 1, 1>>({result, a, b, k, n}, m);
 }
 
 bool multiplyComplexes(mcomplex *to, const mcomplex *x, const mcomplex *y, mint m, mint k, mint n) {
@@ -199,21 +208,23 @@ bool multiplyComplexes(mcomplex *to, const mcomplex *x, const mcomplex *y, mint 
   const auto *a = reinterpret_cast<const mreal *>(x), *b = reinterpret_cast<const mreal *>(y);
   const ptrdiff_t width = ptrdiff_t{2} * n, depth = ptrdiff_t{2} * k;
   if constexpr (kPackedLength<mreal> >= 8)
-    if (n >= 4) return run<Pairs<4>>({result, a, b, depth, width}, m);
+    if (n >= 4) return run<Pairs<4, kMostVectors>>({result, a, b, depth, width}, m);
   if constexpr (kPackedLength<mreal> >= 4)
-    if (n >= 2) return run<Pairs<2>>({result, a, b, depth, width}, m);
-  return run<Pairs<1>>({result, a, b, depth, width}, m);
+    if (n >= 2) return run<Pairs<2, kMostOf<mcomplex, 2>>>({result, a, b, depth, width}, m);
+  return run<Pairs<1, kMostOf<mcomplex, 1>>>({result, a, b, depth, width}, m);
 }
 
 void multiplyIntegers(mint *to, const mint *x, const mint *y, mint m, mint k, mint n) {
   auto *result = reinterpret_cast<uint32_t *>(to);
   const auto *a = reinterpret_cast<const uint32_t *>(x), *b = reinterpret_cast<const uint32_t *>(y);
   if constexpr (kPackedLength<mint> >= 16)
-    if (n >= 16) return static_cast<void>(run<Plain<uint32_t, 16>>({result, a, b, k, n}, m));
+    if (n >= 16) return static_cast<void>(run<Plain<uint32_t, 16, kMostVectors>>({result, a, b, k, n}, m));
   if constexpr (kPackedLength<mint> >= 8)
-    if (n >= 8) return static_cast<void>(run<Plain<uint32_t, 8>>({result, a, b, k, n}, m));
-  if (n >= 4) return static_cast<void>(run<Plain<uint32_t, 4>>({result, a, b, k, n}, m));
-  run<Plain<uint32_t, 1>>({result, a, b, k, n}, m);
+    if (n >= 8)
+      return static_cast<void>(run<Plain<uint32_t, 8, kMostOf<uint32_t, 8>>>({result, a, b, k, n}, m));
+  if (n >= 4)
+    return static_cast<void>(run<Plain<uint32_t, 4, kMostOf<uint32_t, 4>>>({result, a, b, k, n}, m));
+  run<Plain<uint32_t, 1, 3>>({result, a, b, k, n}, m);
 }
 
 void largestOfRows(uint32_t *magnitudes, const mint *b, mint k, mint n) {
@@ -224,25 +235,91 @@ void largestOfRows(uint32_t *magnitudes, const mint *b, mint k, mint n) {
   }
 }
 
-// A block of sums in 64 bits, which stays in the nearest cache while b is read row by row.
-constexpr mint kBlock = 256;
+// Stores sums up to the first one out of range, and yields how many.
+mint storeInRange(mint *result, const int64_t *sums, mint count) {
+  for (mint j = 0; j < count; ++j) {
+    if (sums[j] > kMaximum<mint> || sums[j] < -int64_t{kMaximum<mint>}) return j;
+    result[j] = static_cast<mint>(sums[j]);
+  }
+  return count;
+}
 
-mint multiplyIntegerRow(mint *result, const mint *a, const mint *b, mint k, mint n) {
-  for (mint start = 0; start < n; start += kBlock) {
-    const mint length = n - start < kBlock ? n - start : kBlock;
-    int64_t sums[kBlock] = {};
+// Sums in 64 bits, few enough to stay in the nearest cache while b is read row by row. Products in range need
+// 32, which multiply in half the time.
+template <mint rows> struct ExactBlock {
+  int64_t sums[rows][kExactColumns];
+
+  void run(const mint *a, const mint *b, mint k, mint n, mint start, mint length) {
+    __builtin_memset(sums, 0, sizeof sums);
+    for (mint j = 0; j < length; j += kChunk)
+      addColumns(a, b + start + j, k, n, j, length - j < kChunk ? length - j : kChunk);
+  }
+
+private:
+  static constexpr mint kChunk = 64;
+
+  void addColumns(const mint *a, const mint *columns, mint k, mint n, mint at, mint length) {
     for (ptrdiff_t p = 0; p < k; ++p) {
-      const mint *row = b + p * n + start;
-      const mint x = a[p];
-      for (mint j = 0; j < length; ++j) sums[j] += int64_t{x} * row[j];
+      const mint *row = columns + p * n;
+      for (mint r = 0; r < rows; ++r) {
+        const auto x = static_cast<uint32_t>(a[ptrdiff_t{r} * k + p]);
+        int64_t *to = sums[r] + at;
+        for (mint j = 0; j < length; ++j) to[j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
+      }
     }
-    for (mint j = 0; j < length; ++j) {
-      if (sums[j] > kMaximum<mint> || sums[j] < -int64_t{kMaximum<mint>}) return start + j;
-      result[start + j] = static_cast<mint>(sums[j]);
-    }
-    if (n - start <= kBlock) break; // the next start may be beyond mint
+  }
+};
+
+// A row of any length, block by block.
+mint multiplyExactRow(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  ExactBlock<1> block;
+  for (mint start = 0; start < n; start += kExactColumns) {
+    const mint length = n - start < kExactColumns ? n - start : kExactColumns;
+    block.run(a, b, k, n, start, length);
+    const mint stored = storeInRange(result + start, block.sums[0], length);
+    if (stored < length) return start + stored;
+    if (n - start <= kExactColumns) break; // the next start may be beyond mint
   }
   return n;
+}
+
+// Rows of one block, which read b once.
+mint multiplyExactRows(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  ExactBlock<kExactRows> block;
+  block.run(a, b, k, n, 0, n);
+  for (mint r = 0; r < kExactRows; ++r) {
+    const mint stored = storeInRange(result + ptrdiff_t{r} * n, block.sums[r], n);
+    if (stored < n) return r * n + stored;
+  }
+  return kExactRows * n;
+}
+
+// The first and the last vector lie where the data do, those between begin at a line of the cache: one
+// element looked at twice counts for nothing, and a vector across two lines costs two.
+bool areAllFinite(const mreal *x, mint count) {
+  constexpr mint kOne = kPackedLength<mreal>, kFour = 4 * kOne;
+  Finiteness<mreal> rest = {0};
+  if (count < kOne) {
+    for (mint k = 0; k < count; ++k) rest.take(x[k]);
+    return rest.value == 0;
+  }
+  Finiteness<Packed<mreal>> a = {{}}, b = a, c = a, d = a;
+  a.take(loadPacked(x));
+  b.take(loadPacked(x + count - kOne));
+  mint k = static_cast<mint>(reinterpret_cast<uintptr_t>(x) / sizeof(mreal) % kOne);
+  k = k == 0 ? 0 : kOne - k;
+  for (; count - k >= kFour; k += kFour) {
+    a.take(loadPacked(x + k));
+    b.take(loadPacked(x + k + kOne));
+    c.take(loadPacked(x + k + 2 * kOne));
+    d.take(loadPacked(x + k + 3 * kOne));
+  }
+  for (; count - k >= kOne; k += kOne) c.take(loadPacked(x + k));
+  a.merge(b);
+  c.merge(d);
+  a.merge(c);
+  for (mint lane = 0; lane < kOne; ++lane) rest.merge({a.value[lane]});
+  return rest.value == 0;
 }
 
 } // namespace
@@ -254,5 +331,7 @@ const torvane_loops::ProductLoops torvane_loops::TORVANE_LOOPS_HERE(product) = {
     .complexes = torvane::multiplyComplexes,
     .integers = torvane::multiplyIntegers,
     .rowMagnitudes = torvane::largestOfRows,
-    .integerRow = torvane::multiplyIntegerRow,
+    .exactRow = torvane::multiplyExactRow,
+    .exactRows = torvane::multiplyExactRows,
+    .areFinite = torvane::areAllFinite,
 };

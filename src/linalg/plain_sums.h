@@ -9,7 +9,7 @@ namespace torvane {
 
 // Where a walk over `count` elements begins: at a negative stride from the far end.
 template <class T> inline const T *startOf(const T *x, mint stride, mint count) {
-  return stride < 0 ? x + (ptrdiff_t{1} - count) * stride : x;
+  return stride < 0 && count > 0 ? x + (ptrdiff_t{1} - count) * stride : x;
 }
 
 inline mreal times(mreal x, mreal y) { return x * y; }
@@ -28,7 +28,10 @@ inline __attribute__((always_inline)) T sumInOrder(mint count, Product product) 
     const T p0 = product(k), p1 = product(k + 1), p2 = product(k + 2), p3 = product(k + 3);
     sum = plus(plus(plus(plus(sum, p0), p1), p2), p3);
   }
-  for (; k < count; ++k) sum = plus(sum, product(k));
+  const ptrdiff_t rest = count - k; // not a loop, which compilers would prepare for many turns
+  if (rest > 0) sum = plus(sum, product(k));
+  if (rest > 1) sum = plus(sum, product(k + 1));
+  if (rest > 2) sum = plus(sum, product(k + 2));
   return sum;
 }
 

@@ -495,7 +495,7 @@ TEST(IntegerDot, ACheckedOneIsNotDeceivedByProductsThatWrap) {
     for (int bits = 31; bits <= 34; ++bits)
       for (int bit = bits - 30; bit <= 30; ++bit) {
         const mint x = 1 << bit, y = sign * (1 << (bits - bit));
-        for (const size_t count : {1, 3, 7, 8, 9, 40, 1025, 3000})
+        for (const size_t count : std::initializer_list<size_t>{1, 3, 7, 8, 9, 40, 1025, 3000})
           for (const size_t at : {size_t{0}, count / 2, count - 1}) {
             std::vector<mint> a(count, -1), b(count, 1);
             a[at] = x;

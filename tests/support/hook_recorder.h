@@ -14,8 +14,8 @@ const std::vector<uint32_t> &reportedAllocationFailures();
 const std::vector<std::string> &confirmedAborts(); // where each poll asked
 void forgetHookCalls();
 
-// The confirmation of this thread answers 0 so many times, then 1. Without this call it always answers 1, so that
-// a poll that asks although its switch is 0 shows.
+// The confirmation of this thread answers 0 so many times, then 1. Without this call it always answers 1, so
+// that a poll that asks although its switch is 0 shows.
 void confirmAbortAfter(int64_t polls);
 
 } // namespace torvane::test
