@@ -1,5 +1,5 @@
-// Sums from 0 and strictly from the first element to the last, on the calling thread: of all elements of an array,
-// or of the rows of a matrix, where neighbouring columns are added up side by side.
+// Sums from 0 and strictly from the first element to the last, on the calling thread: of all elements of an
+// array, or of the rows of a matrix, where neighbouring columns are added up side by side.
 //
 // The checked forms are false where a partial sum fails, and what they store is then arbitrary: a sum of
 // integers that leaves the range or is the reserved value, a sum of reals that is infinite or a NaN.

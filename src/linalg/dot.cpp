@@ -18,7 +18,7 @@ bool isFinite(mreal x) { return x - x == 0; }
 bool isFinite(mcomplex x) { return isFinite(x.re) && isFinite(x.im); }
 
 template <class T> mint storeTested(T *result, T dot, mint flags) {
-  if ((flags & TORVANE_CHECK_REALS) != 0 && !isFinite(dot)) return kDotFailed;
+  if ((flags & TORVANE_CHECK_REALS) != 0 && !isFinite(dot)) return kNotFinite;
   *result = dot;
   return kSuccess;
 }
@@ -40,7 +40,7 @@ mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint inc
   const mint strides[] = {1, incx, incy};
   mint dot = 0;
   if (machfunc_ii_dot(&dot, startOf(x, incx, n), startOf(y, incy, n), n, strides, flags) != 0)
-    return kDotFailed;
+    return kNotFinite;
   *result = dot;
   return kSuccess;
 }

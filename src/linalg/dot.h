@@ -5,8 +5,6 @@
 
 namespace torvane {
 
-inline constexpr mint kDotFailed = 1001; // a checked sum left the range of its type
-
 // Longer vectors and larger matrices go to the BLAS: for shorter ones its call would cost more than the sum.
 inline constexpr mint kLongestInline = 50;           // elements of a vector
 inline constexpr mint kLargestInline = 16;           // extents of a matrix by a vector
@@ -14,7 +12,7 @@ inline constexpr mint kLongestSmallExtent = 1024;    // of a product of matrices
 inline constexpr int64_t kLargestSmallVolume = 8000; // and the product of its three extents
 
 // Strides may be negative, and then walk from the far end, (1 - n) * stride elements from the pointer. 0, or
-// kDotFailed with the result as it was.
+// kNotFinite with the result as it was.
 mint dotReals(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags);
 mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags);
 mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
@@ -29,7 +27,7 @@ inline bool innerExtentsFit(const MTensor *a, const MTensor *b) {
 }
 
 // Of tensors whose ranks and inner dimensions fit. The slot may hold an operand, which a failure leaves as it
-// was; out of memory ends the process. kWrongType for unequal types, kDotFailed for a failing element.
+// was; out of memory ends the process. kWrongType for unequal types, kNotFinite for a failing element.
 mint generalDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags);
 
 } // namespace torvane

@@ -77,7 +77,7 @@ bool multiplyNonempty(const MTensor *result, const MTensor *a, const MTensor *b,
 mint multiply(const MTensor *result, const MTensor *a, const MTensor *b, mint flags) {
   const mint k = b->dimensions[0];
   if (result->elementCount == 0) return kSuccess;
-  if (k > 0) return multiplyNonempty(result, a, b, k, flags) ? kSuccess : kDotFailed;
+  if (k > 0) return multiplyNonempty(result, a, b, k, flags) ? kSuccess : kNotFinite;
   memset(result->data, 0, static_cast<size_t>(result->elementCount) * elementWidth(result->type));
   return kSuccess;
 }

@@ -1,9 +1,9 @@
 // Beta variates: by inversion where a parameter is 1, else by rejection, each trial from two uniforms.
 //
-// Both below 1: M. D. Joehnk, Metrika 8 (1964). Both above: R. C. H. Cheng, algorithm BB, Comm. ACM 21 (1978).
-// One on either side: A. C. Atkinson and J. Whittaker, J. R. Stat. Soc. A 139 (1976). Uniforms come in one call
-// for as many trials as values are missing, and the trials of a call end before the next call: the sequence of
-// the stream depends on that.
+// Both below 1: M. D. Joehnk, Metrika 8 (1964). Both above: R. C. H. Cheng, algorithm BB, Comm. ACM 21
+// (1978). One on either side: A. C. Atkinson and J. Whittaker, J. R. Stat. Soc. A 139 (1976). Uniforms come
+// in one call for as many trials as values are missing, and the trials of a call end before the next call:
+// the sequence of the stream depends on that.
 #include "../algorithms/scratch.h"
 #include "variates.h"
 #include <torvane/distributions.h>

@@ -10,14 +10,12 @@ namespace torvane {
 
 namespace {
 
-constexpr mint kNoSuchFunction = 11;
-
 uint32_t bufferedBits(mint bits, RandomGenerator *generator) {
   return BitCursor(bufferOf(generator)).read(static_cast<uint32_t>(bits));
 }
 
 // Whole words are not to be had past the bit cursor.
-mint refuseWords(uint32_t *, mint, RandomGenerator *) { return kNoSuchFunction; }
+mint refuseWords(uint32_t *, mint, RandomGenerator *) { return kNoFunction; }
 
 // No word of the old sequence survives a seed.
 mint bufferedSeed(RandomGenerator *generator, const uint32_t *words, mint count) {

@@ -7,8 +7,8 @@
 
 namespace torvane {
 
-// low, low + 1, ..., low + range. A value is `bits` bits of the stream, thrown away above `range`: no remainder
-// is taken, so that every value is equally likely and a range of 2^bits - 1 throws none away.
+// low, low + 1, ..., low + range. A value is `bits` bits of the stream, thrown away above `range`: no
+// remainder is taken, so that every value is equally likely and a range of 2^bits - 1 throws none away.
 struct IntegerSpan {
   mint low;
   uint32_t range, bits;

@@ -82,9 +82,8 @@ mint samplePositions(mint *positions, mint count, mint length) {
   const IntegerSource source;
   if (!source) return kNoIntegers;
   if (isLargeShare(count, length)) return shuffleSome(source, positions, count, length);
-  return drawUntilDistinct(positions, count, [&](mint *place, mint missing) {
-    return source.draw(place, missing, 1, length);
-  });
+  return drawUntilDistinct(positions, count,
+                           [&](mint *place, mint missing) { return source.draw(place, missing, 1, length); });
 }
 
 mint sampleByWeights(mint *positions, mint count, const RunningSums &weights) {

@@ -9,9 +9,7 @@ namespace torvane {
 
 namespace {
 
-template <class Value> struct Bounds {
-  Value low, high;
-};
+template <class Value> struct Bounds { Value low, high; };
 
 template <class Value> constexpr mint kTypeOf = TORVANE_TYPE_INTEGER;
 template <> constexpr mint kTypeOf<mreal> = TORVANE_TYPE_REAL;

@@ -1,8 +1,8 @@
 // A balanced tree of weights from which positions are taken away.
 //
 // The node of a range of positions holds the sum of their weights; its left half (the shorter one) and its
-// right half follow it, so that a range of n positions takes 2 n - 1 nodes in a row. Sums are always left plus
-// right, and a position that was taken weighs 0.
+// right half follow it, so that a range of n positions takes 2 n - 1 nodes in a row. Sums are always left
+// plus right, and a position that was taken weighs 0.
 #pragma once
 
 #include "weights.h"

@@ -32,8 +32,8 @@ mint RunningSums::positiveCount() const {
   return positive;
 }
 
-// The first whose sum is not below u. A weight of 0 is met only at the first position, by u = 0. Which half it
-// lies in is not to be foretold, so that a choice of addresses is cheaper than a branch.
+// The first whose sum is not below u. A weight of 0 is met only at the first position, by u = 0. Which half
+// it lies in is not to be foretold, so that a choice of addresses is cheaper than a branch.
 mint RunningSums::positionOf(mreal u) const {
   const mreal *first = sums();
   for (mint length = count; length > 1; length -= length / 2)

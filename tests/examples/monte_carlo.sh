@@ -1,12 +1,6 @@
 #!/bin/bash
 # monte_carlo.sh PROGRAM SOURCE CASE: runs one case of the Monte Carlo example; exit status 0 when it holds.
-set -u
-program=$1 source=$2 case=$3
-here=$source/tests/examples
-work=$(mktemp -d) && trap 'rm -rf "$work"' EXIT
-cd "$work" || exit 1
-
-fail() { echo "$@" >&2; exit 1; }
+. "$(dirname "$0")/cases.sh"
 
 # run FILE ARGUMENTS...: runs the program, its report to FILE; it must succeed and say nothing else.
 run() {
@@ -14,17 +8,6 @@ run() {
   shift
   "$program" "$@" >"$file" 2>err || fail "exit status $?: $(cat err)"
   [ ! -s err ] || fail "stderr: $(cat err)"
-}
-
-# refused MESSAGE ARGUMENTS...: exactly this message on stderr, exit status 2, nothing on stdout.
-refused() {
-  local message=$1
-  shift
-  "$program" "$@" >out 2>err
-  local got=$?
-  [ "$(cat err)" = "$message" ] || fail "stderr: $(cat err)"
-  [ $got -eq 2 ] || fail "exit status $got"
-  [ ! -s out ] || fail "stdout: $(cat out)"
 }
 
 # prices DATES ARGUMENTS...: the report agrees with prices computed by other means.
@@ -62,20 +45,20 @@ paths_that_the_streams_do_not_divide_are_all_run)
 fewer_paths_than_streams) run out 2 4 && grep -q '^2 paths' out || fail "$(cat out)" ;;
 no_argument_takes_the_defaults) run out && grep -q '^262144 paths over 50 dates, 64 streams of seed 1$' out || fail "$(cat out)" ;;
 text_is_refused)
-  refused 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "many"' many
-  refused 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not ""' ''
-  refused 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "5x"' 5x
+  refused 2 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "many"' many
+  refused 2 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not ""' ''
+  refused 2 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "5x"' 5x
   ;;
 numbers_out_of_range_are_refused)
-  refused 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "1"' 1
-  refused 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "99999999999999999999"' 99999999999999999999
-  refused 'monte_carlo: WORKERS must be an integer of 1 to 64, not "0"' 100 0
-  refused 'monte_carlo: WORKERS must be an integer of 1 to 64, not "65"' 100 65
-  refused 'monte_carlo: SEED must be an integer of 0 to 2147483647, not "-1"' 100 1 -1
-  refused 'monte_carlo: DATES must be an integer of 1 to 100000, not "0"' 100 1 1 0
+  refused 2 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "1"' 1
+  refused 2 'monte_carlo: PATHS must be an integer of 2 to 1000000000, not "99999999999999999999"' 99999999999999999999
+  refused 2 'monte_carlo: WORKERS must be an integer of 1 to 64, not "0"' 100 0
+  refused 2 'monte_carlo: WORKERS must be an integer of 1 to 64, not "65"' 100 65
+  refused 2 'monte_carlo: SEED must be an integer of 0 to 2147483647, not "-1"' 100 1 -1
+  refused 2 'monte_carlo: DATES must be an integer of 1 to 100000, not "0"' 100 1 1 0
   ;;
 too_many_arguments_are_a_usage_error)
-  refused 'usage: monte_carlo [PATHS [WORKERS [SEED [DATES]]]]' 1 2 3 4 5
+  refused 2 'usage: monte_carlo [PATHS [WORKERS [SEED [DATES]]]]' 1 2 3 4 5
   ;;
 a_full_device_is_reported)
   "$program" 100 >/dev/full 2>err && fail "exit status 0"
