@@ -20,6 +20,7 @@
 #include "registry.h"
 #include "sorting.h"
 #include "transposition.h"
+#include "numeric_arrays.h"
 #include "machfuncs.h"
 #include "vectors.h"
 

@@ -6,6 +6,7 @@
 #include <torvane/integers.h>
 #include <torvane/lists.h>
 #include <torvane/memory.h>
+#include <torvane/numeric_arrays.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
 #include <torvane/sorting.h>
@@ -45,6 +46,7 @@ SPELLING(float, "float")
 SPELLING(double, "mreal")
 SPELLING(mcomplex, "mcomplex")
 SPELLING(MTensor, "MTensor")
+SPELLING(MNumericArray, "MNumericArray")
 SPELLING(CompilerError, "CompilerError")
 SPELLING(TorvaneUnaryRoutine, "TorvaneUnaryRoutine")
 SPELLING(TorvaneBinaryRoutine, "TorvaneBinaryRoutine")
