@@ -15,6 +15,7 @@
 #include "integers.h"
 #include "text.h"
 #include "parallel.h"
+#include "parts.h"
 #include "random.h"
 #include "distributions.h"
 #include "registry.h"

@@ -9,6 +9,7 @@
 #include <torvane/numeric_arrays.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
+#include <torvane/parts.h>
 #include <torvane/sorting.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
