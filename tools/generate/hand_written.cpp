@@ -11,6 +11,7 @@
 #include <torvane/parallel.h>
 #include <torvane/parts.h>
 #include <torvane/sorting.h>
+#include <torvane/sparse_arrays.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
 #include <torvane/text.h>
@@ -48,6 +49,8 @@ SPELLING(double, "mreal")
 SPELLING(mcomplex, "mcomplex")
 SPELLING(MTensor, "MTensor")
 SPELLING(MNumericArray, "MNumericArray")
+SPELLING(MSparseArray, "MSparseArray")
+SPELLING(TensorProperty, "TensorProperty")
 SPELLING(CompilerError, "CompilerError")
 SPELLING(TorvaneUnaryRoutine, "TorvaneUnaryRoutine")
 SPELLING(TorvaneBinaryRoutine, "TorvaneBinaryRoutine")
