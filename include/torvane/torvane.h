@@ -20,6 +20,7 @@
 #include "distributions.h"
 #include "registry.h"
 #include "sorting.h"
+#include "sparse_arrays.h"
 #include "transposition.h"
 #include "numeric_arrays.h"
 #include "machfuncs.h"
