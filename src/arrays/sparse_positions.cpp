@@ -86,9 +86,15 @@ void sumRows(mint *rowPointers, mint rows) {
   for (mint row = 1; row <= rows; ++row) rowPointers[row] += rowPointers[row - 1];
 }
 
-void copyColumns(const Lines &lines, mint *columns) {
-  const mint length = lines.rank - 1;
-  for (mint i = 0; i < lines.count; ++i, columns += length) std::copy_n(lines[i] + 1, length, columns);
+// A loop, because coordinates are few: the call of memmove costs more than they do.
+inline void copyColumn(const mint *line, ptrdiff_t length, mint *columns) {
+  for (ptrdiff_t k = 0; k < length; ++k) columns[k] = line[k + 1];
+}
+
+template <mint kRank> void copyColumns(const Lines &lines, mint *columns) {
+  const ptrdiff_t rank = kRank == 0 ? lines.rank : kRank;
+  for (ptrdiff_t i = 0; i < lines.count; ++i)
+    copyColumn(lines.first + i * rank, rank - 1, columns + i * (rank - 1));
 }
 
 struct NoValue {};
@@ -102,11 +108,11 @@ template <> void placeValue<NoValue>(void *, mint, const void *, mint) {}
 // `next` holds the next free place of each row; afterwards, where the row ends.
 template <class Value, mint kRank>
 void placeLines(const Lines &lines, mint *next, mint *columns, void *target, const void *values) {
-  const ptrdiff_t length = (kRank == 0 ? lines.rank : kRank) - 1;
-  for (mint i = 0; i < lines.count; ++i) {
-    const mint *line = lines[i];
+  const ptrdiff_t rank = kRank == 0 ? lines.rank : kRank;
+  const mint *line = lines.first;
+  for (mint i = 0; i < lines.count; ++i, line += rank) {
     const mint place = next[line[0] - 1]++;
-    std::copy_n(line + 1, length, columns + place * length);
+    copyColumn(line, rank - 1, columns + place * (rank - 1));
     placeValue<Value>(target, place, values, i);
   }
 }
@@ -143,8 +149,10 @@ void placeByRow(const Lines &lines, MSparseArray *array, const MTensor *values) 
 void keepOrder(const Lines &lines, MSparseArray *array, const MTensor *values) {
   if (lines.rank == 1)
     std::copy_n(lines.first, lines.count, array->columnIndexData);
+  else if (lines.rank == 2)
+    copyColumns<2>(lines, array->columnIndexData);
   else
-    copyColumns(lines, array->columnIndexData);
+    copyColumns<0>(lines, array->columnIndexData);
   if (values != nullptr) MTensor_copyContiguousData(array->skeleton->values, 0, values, 0, lines.count);
 }
 
