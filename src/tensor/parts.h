@@ -1,5 +1,5 @@
-// Parts of tensors and numeric arrays: selectors are read into records, checked against the dimensions, and
-// copied by. No operation but the first three knows of more than dimensions and bytes.
+// Parts of tensors and numeric arrays: selectors are read into records, which are checked against the
+// dimensions and then say what is copied.
 #pragma once
 
 #include "../runtime/types.h"
@@ -11,11 +11,11 @@
 namespace torvane {
 
 // One selector, in words. Positions stand in memory of the caller's and are made positive by the check: one
-// of them, those of a list, or start, end, step and flags of a span.
+// of them, those of a list, or start, end, step and flags of a span. How many a span has, and the whole of a
+// dimension, the check finds out.
 struct PartSpec {
   intptr_t kind;
-  intptr_t
-      count; // of positions; of a span, once it is checked; kInvalidPart for a selector that no check passes
+  intptr_t count; // of positions; kInvalidPart for a selector that no check passes
   mint *positions;
   intptr_t stride;      // elements from one position to the next
   intptr_t blockLength; // elements of one position
