@@ -45,7 +45,9 @@ struct Input {
       triplets.emplace_back(mint(random() % uint32_t(c.rows)), mint(random() % uint32_t(c.columns)),
                             double(i));
     if (c.byRows)
-      std::stable_sort(triplets.begin(), triplets.end(), [](auto &a, auto &b) { return a.row() < b.row(); });
+      std::sort(triplets.begin(), triplets.end(), [](auto &a, auto &b) {
+        return a.row() != b.row() ? a.row() < b.row() : a.value() < b.value();
+      });
     const mint lines[] = {count, 2}, two = 2;
     positions = CreatePackedArray(TORVANE_TYPE_INTEGER, 2, lines);
     values = CreatePackedArray(TORVANE_TYPE_REAL, 1, &count);

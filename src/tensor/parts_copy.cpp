@@ -61,7 +61,7 @@ template <PartDirection kDirection> MoveListed moveListedFor(size_t block) {
 class PartCopy {
 public:
   PartCopy(const PartShape &shape, mint packedCount, mint selectorCount, const PartSpec *specs) {
-    addPacked(shape, packedCount, selectorCount, specs);
+    addAxes(shape, packedCount, selectorCount, specs);
     block = shape.width;
     if (rank > 0 && isContiguous(axes[rank - 1])) block *= axes[--rank].count;
     for (listed = rank; listed > 0 && axes[listed - 1].positions == nullptr;) --listed;
@@ -111,7 +111,7 @@ private:
     const auto count = static_cast<size_t>(spec.count);
     if (spec.kind == TORVANE_PART_SPAN) {
       offset += (spec.positions[0] - 1) * stride;
-      add({count, nullptr, spec.positions[2] * stride, packed});
+      add({count, nullptr, count > 1 ? spec.positions[2] * stride : 0, packed}); // else any step at all
     } else {
       add({count, spec.kind == TORVANE_PART_ALL ? nullptr : spec.positions, stride, packed});
     }
@@ -119,7 +119,7 @@ private:
 
   // `length` is what one index of the axis spans in the selection. Where that is the whole source, or more,
   // the axis starts it over.
-  void addPacked(const PartShape &shape, mint packedCount, mint selectorCount, const PartSpec *specs) {
+  void addAxes(const PartShape &shape, mint packedCount, mint selectorCount, const PartSpec *specs) {
     const auto width = static_cast<ptrdiff_t>(shape.width);
     int64_t length = 1;
     for (mint i = 0; i < selectorCount; ++i) length *= specs[i].count;

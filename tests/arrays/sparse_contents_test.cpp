@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <random>
 #include <set>
 
@@ -62,8 +63,26 @@ template <class Element> struct Drawn {
       lines.push_back(line);
       values.push_back(elementOf<Element>(mint(random() % 9)));
     }
-    if (random() % 2 == 0)
-      std::stable_sort(lines.begin(), lines.end(), [](auto &a, auto &b) { return a[0] < b[0]; });
+    if (random() % 2 == 0) sortByRow();
+  }
+
+  // Lines of a row stay in their order.
+  std::vector<size_t> orderByRow() const {
+    std::vector<size_t> order(lines.size());
+    std::iota(order.begin(), order.end(), size_t{0});
+    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) {
+      return lines[a][0] != lines[b][0] ? lines[a][0] < lines[b][0] : a < b;
+    });
+    return order;
+  }
+
+  void sortByRow() {
+    Drawn unsorted = *this;
+    const std::vector<size_t> order = orderByRow();
+    for (size_t i = 0; i < order.size(); ++i) {
+      lines[i] = unsorted.lines[order[i]];
+      values[i] = unsorted.values[order[i]];
+    }
   }
 
   size_t placeOf(const std::vector<mint> &line) const {
@@ -103,16 +122,10 @@ template <class Element> void expectSame(const std::vector<Element> &a, const st
 
 // The lines in row order, and with them their values.
 template <class Element> void expectLines(const MSparseArray *array, const Drawn<Element> &drawn) {
-  std::vector<size_t> order(drawn.lines.size());
-  for (size_t i = 0; i < order.size(); ++i) order[i] = i;
-  if (drawn.extents.size() > 1)
-    std::stable_sort(order.begin(), order.end(),
-                     [&](size_t a, size_t b) { return drawn.lines[a][0] < drawn.lines[b][0]; });
-  Lines lines;
-  std::vector<Element> values;
-  for (const size_t i : order) lines.push_back(drawn.lines[i]), values.push_back(drawn.values[i]);
-  ASSERT_EQ(linesOf(array), lines);
-  expectSame(sparseValuesOf<Element>(array), values);
+  Drawn<Element> byRow = drawn;
+  if (drawn.extents.size() > 1) byRow.sortByRow();
+  ASSERT_EQ(linesOf(array), byRow.lines);
+  expectSame(sparseValuesOf<Element>(array), byRow.values);
 }
 
 template <class Element> void expectNoRepetitions(const Sparse &array, const Drawn<Element> &drawn) {
