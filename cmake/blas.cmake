@@ -2,7 +2,7 @@
 # administrator's choice of BLAS is followed. It is tried by a link, for the target at hand. A BLAS that the system
 # does not have, such as the one that check unpacks for the 32-bit target, is named by its prefix, and then it is
 # that one or none; what is installed finds it there as well.
-option(TORVANE_BLAS "Compute norms by the system's BLAS where there is one" ON)
+option(TORVANE_BLAS "Compute norms and large products by the system's BLAS where there is one" ON)
 set(TORVANE_BLAS_ROOT "" CACHE PATH "Prefix of a BLAS to take in place of the system's, or empty")
 set(torvane_blas)
 if(TORVANE_BLAS)
@@ -38,9 +38,9 @@ if(TORVANE_BLAS)
   endif()
 endif()
 if(torvane_blas)
-  message(STATUS "Norms by the BLAS in ${torvane_blas}")
+  message(STATUS "Norms and large products by the BLAS in ${torvane_blas}")
   set_source_files_properties(src/linalg/blas.cpp PROPERTIES COMPILE_DEFINITIONS TORVANE_CBLAS
                               INCLUDE_DIRECTORIES ${torvane_cblas_include})
 else()
-  message(STATUS "NO BLAS with a C interface for this target: norms run in plain loops")
+  message(STATUS "NO BLAS with a C interface for this target: norms and products run in plain loops")
 endif()

@@ -10,7 +10,7 @@
 #include <string.h>
 
 bool csvComplain(const Csv *csv, mint line, mint column, const char *format, ...) {
-  fprintf(stderr, "standardise: %s", csv->path);
+  fprintf(stderr, "%s: %s", csv->program, csv->path);
   if (line > 0) fprintf(stderr, ":%d", line);
   if (column > 0) fprintf(stderr, ": column %d", column);
   if (column > 0 && column <= csv->columnCount) fprintf(stderr, " (%s)", csv->names[column - 1]);
@@ -198,4 +198,19 @@ mint csvNumericColumn(const Csv *csv, mint index) {
   mint column = 0;
   while (!csv->numeric[column] || index-- > 0) column++;
   return column;
+}
+
+const char *csvName(const Csv *csv, mint index) { return csv->names[csvNumericColumn(csv, index)]; }
+
+int csvNameWidth(const Csv *csv) {
+  size_t width = 12;
+  for (mint column = 0; column < csv->columnCount; column++)
+    if (strlen(csv->names[column]) > width) width = strlen(csv->names[column]);
+  return (int)width;
+}
+
+void csvPrintHeading(const Csv *csv) {
+  printf("%s: %d rows, %d numeric columns\n", csv->path, csv->rowCount, csv->numericCount);
+  for (mint column = 0; column < csv->columnCount; column++)
+    if (!csv->numeric[column]) printf("skipped, not numeric: %s\n", csv->names[column]);
 }

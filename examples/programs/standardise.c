@@ -8,7 +8,6 @@
 #include "csv.h"
 
 #include <stdio.h>
-#include <string.h>
 
 enum { SUBTRACT = 258, DIVIDE = 260, SQUARE = 56, SQRT = 57 }; /* operator numbers */
 
@@ -142,38 +141,23 @@ static bool check(Study *again, const Study *study, const Csv *csv) {
   return succeeded(MTensor_makeCopy(z, study->standardised), "copying") && standardise(again, csv);
 }
 
-static const char *nameOf(const Csv *csv, mint row) { return csv->names[csvNumericColumn(csv, row)]; }
-
-static int nameWidth(const Csv *csv) {
-  size_t width = 12;
-  for (mint column = 0; column < csv->columnCount; column++)
-    if (strlen(csv->names[column]) > width) width = strlen(csv->names[column]);
-  return (int)width;
-}
-
-static void printHeading(const Csv *csv) {
-  printf("%s: %d rows, %d numeric columns\n", csv->path, csv->rowCount, csv->numericCount);
-  for (mint column = 0; column < csv->columnCount; column++)
-    if (!csv->numeric[column]) printf("skipped, not numeric: %s\n", csv->names[column]);
-}
-
 static void printSummary(const Csv *csv, const Study *study, const Study *again) {
-  printf("\n%-*s %6s %12s %12s %9s %9s %10s %12s\n", nameWidth(csv), "column", "count", "mean", "deviation",
-         "z min", "z max", "z mean", "z deviation");
+  printf("\n%-*s %6s %12s %12s %9s %9s %10s %12s\n", csvNameWidth(csv), "column", "count", "mean",
+         "deviation", "z min", "z max", "z mean", "z deviation");
   for (mint row = 0; row < csv->numericCount; row++) {
     Range z = rangeOf(study->standardised, row);
-    printf("%-*s %6d %12.6g %12.6g %9.5f %9.5f %10.1e %12.9f\n", nameWidth(csv), nameOf(csv, row),
+    printf("%-*s %6d %12.6g %12.6g %9.5f %9.5f %10.1e %12.9f\n", csvNameWidth(csv), csvName(csv, row),
            csv->rowCount, element(study->means, row), element(study->deviations, row), z.low, z.high,
            element(again->means, row), element(again->deviations, row));
   }
 }
 
 static void printCorrelation(const Csv *csv, const Study *study) {
-  int width = nameWidth(csv);
+  int width = csvNameWidth(csv);
   printf("\n%-*s", width, "correlation");
-  for (mint column = 0; column < csv->numericCount; column++) printf(" %*s", width, nameOf(csv, column));
+  for (mint column = 0; column < csv->numericCount; column++) printf(" %*s", width, csvName(csv, column));
   for (mint row = 0; row < csv->numericCount; row++) {
-    printf("\n%-*s", width, nameOf(csv, row));
+    printf("\n%-*s", width, csvName(csv, row));
     for (mint column = 0; column < csv->numericCount; column++)
       printf(" %*.7f", width, rowOf(study->correlation, row)[column]);
   }
@@ -181,7 +165,7 @@ static void printCorrelation(const Csv *csv, const Study *study) {
 }
 
 static bool print(const Csv *csv, const Study *study, const Study *again) {
-  printHeading(csv);
+  csvPrintHeading(csv);
   printSummary(csv, study, again);
   printCorrelation(csv, study);
   if (fflush(stdout) == 0 && !ferror(stdout)) return true;
@@ -203,7 +187,7 @@ int main(int argc, char **argv) {
   }
   InitializeTorvaneRTL(NULL, NULL, NULL);
   setExceptionStyle(1);
-  Csv csv = {0};
+  Csv csv = {.program = "standardise"};
   Study study = {0}, again = {0};
   bool printed = run(&csv, &study, &again, argv[1]);
   studyDelete(&study);

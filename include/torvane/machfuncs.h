@@ -7,9 +7,10 @@
  * operand. Nothing is raised. A count below 1 does nothing.
  *
  * Reductions store into one accumulator, whose stride is not read and whose content does not count.
- * A checked total fails at the first running sum that is out of range, infinite or a NaN, and so does
- * dot; of a long run, each worker sums a piece. An extreme fails only if it is the most negative word,
- * where that first occurs.
+ * A checked total fails at the first running sum that is out of range, infinite or a NaN; of a long
+ * run, each worker sums a piece. A checked dot fails at the first product out of range; its sum is
+ * tested at each of up to 7 elements, of more at the last one only. An extreme fails only if it is the
+ * most negative word, where that first occurs.
  *
  * Generated from src/scalar/operators.def by tools/generate; not to be edited. */
 #ifndef TORVANE_MACHFUNCS_H

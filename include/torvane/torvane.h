@@ -8,6 +8,7 @@
 #include "startup.h"
 #include "tensor.h"
 #include "lists.h"
+#include "linalg.h"
 #include "operators.h"
 #include "elementwise.h"
 #include "tolerance.h"

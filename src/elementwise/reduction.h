@@ -281,58 +281,75 @@ __attribute__((always_inline)) inline void walkBoth(const Run<mint> &x, const Ru
     for (mint k = 0; k < x.count; ++k) body(x.at(k), y.at(k));
 }
 
-// The products' sum. A checked one asks, at each element, only whether the exact sum of what stands and the
-// product fits, as the fused operation on scalars does; a product alone need not.
+// The products' sum, kept whole in 64 bits: 2^31 products of 32 bits each do not leave them.
+struct ProductSum {
+  int64_t value;
+};
+
+// A checked sum of products fails at the first product out of range. Below kFreeOrder elements the sum is
+// tested at each of them, in their order, from there on as a whole only: it then does not matter how a sum is
+// cut, into packed registers or pieces.
 struct dot {
-  template <class T> using Accumulator = T;
-  template <class T> static constexpr T initial() { return 0; }
-  template <class Form> static mint take(mint &sum, const Run<mint> &x, const Run<mint> &y) {
-    if constexpr (Form::checked) return addChecked(sum, x, y);
-    sum = static_cast<mint>(static_cast<uint32_t>(sum) + wrappedProducts(x, y));
+  template <class T> using Accumulator = ProductSum;
+  template <class T> using Stored = T;
+  template <class T> static constexpr ProductSum initial() { return {0}; }
+  template <class Form> static mint take(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
+    if constexpr (Form::checked)
+      return x.count < torvane_loops::kFreeOrder ? addOneByOne(sum, x, y) : addBlocks(sum, x, y);
+    sum.value += int64_t{wrappedProducts(x, y)};
     return 0;
   }
-  template <class Form, class T> static bool merge(T &into, const T &from) {
-    return total::merge<Form, T>(into, from);
+  template <class Form, class T> static bool merge(ProductSum &into, const ProductSum &from) {
+    into.value += from.value;
+    return true;
   }
+  // A whole that does not fit fails at the last element.
+  static mint finish(const ProductSum &sum, const Run<mint> &x) { return isInRange(sum.value) ? 0 : x.count; }
 
 private:
+  static bool isInRange(int64_t x) { return x <= kMaximum<mint> && x >= -int64_t{kMaximum<mint>}; }
+
   static uint32_t wrappedProducts(const Run<mint> &x, const Run<mint> &y) {
     uint32_t sum = 0;
     walkBoth(x, y, [&sum](mint a, mint b) { sum += static_cast<uint32_t>(a) * static_cast<uint32_t>(b); });
     return sum;
   }
 
-  static mint addOneByOne(mint &sum, const Run<mint> &x, const Run<mint> &y) {
+  static mint addOneByOne(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
     for (mint k = 0; k < x.count; ++k) {
-      error code = error::none;
-      sum = compute<ternary::axpy, Checked>(code, x.at(k), y.at(k), sum);
-      if (code != error::none) [[unlikely]]
+      const int64_t product = int64_t{x.at(k)} * y.at(k);
+      sum.value += product;
+      if (!isInRange(product) || !isInRange(sum.value)) [[unlikely]]
         return k + 1;
     }
     return 0;
   }
 
-  // The sum of the magnitudes of the products; the largest number where a factor has more than 16 bits, so
-  // that a product might have more than 32.
-  static uint64_t sumOfMagnitudes(const Run<mint> &x, const Run<mint> &y) {
-    uint64_t sum = 0;
-    uint32_t bits = 0;
+  // Either distance to a bound is negative where a product is out of range.
+  static bool addProducts(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
+    int64_t whole = 0, distances = 0;
     walkBoth(x, y, [&](mint a, mint b) {
-      bits |= magnitudeBits(a) | magnitudeBits(b);
-      sum += uint64_t{magnitudeBits(a) * magnitudeBits(b)};
+      const int64_t product = int64_t{a} * b;
+      whole += product;
+      distances |= (kMaximum<mint> - product) | (kMaximum<mint> + product);
     });
-    return bits < 1u << 16 ? sum : kMaximum<uint64_t> / 2;
+    sum.value += whole;
+    return distances >= 0;
   }
 
-  static mint addChecked(mint &sum, const Run<mint> &x, const Run<mint> &y) {
+  static mint firstOutOfRange(const Run<mint> &x, const Run<mint> &y) {
+    mint k = 0;
+    while (isInRange(int64_t{x.at(k)} * y.at(k))) ++k;
+    return k + 1;
+  }
+
+  static mint addBlocks(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
     for (mint start = 0; start < x.count; start += kCheckedBlock) {
       const mint length = x.count - start < kCheckedBlock ? x.count - start : kCheckedBlock;
       const Run<mint> a = x.from(start, length), b = y.from(start, length);
-      if (staysInRange(sum, sumOfMagnitudes(a, b)))
-        sum = static_cast<mint>(static_cast<uint32_t>(sum) + wrappedProducts(a, b));
-      else if (const mint failure = addOneByOne(sum, a, b))
-        return start + failure;
-      if (x.count - start <= kCheckedBlock) break;
+      if (!addProducts(sum, a, b)) [[unlikely]]
+        return start + firstOutOfRange(a, b);
+      if (x.count - start <= kCheckedBlock) break; // the next start may be beyond mint
     }
     return 0;
   }
@@ -341,6 +358,14 @@ private:
 } // namespace reduction
 
 // ---- loops --------------------------------------------------------------------------------------
+
+// What the routine stores: the first bytes of its accumulator, the low ones of a sum that is kept wider.
+template <class Op, class T> struct StoredBy { using Type = typename Op::template Accumulator<T>; };
+template <class Op, class T>
+requires requires { typename Op::template Stored<T>; }
+struct StoredBy<Op, T> {
+  using Type = typename Op::template Stored<T>;
+};
 
 // A reduction in the form that its driver knows.
 template <class Op, class Form, class T, bool isPair> struct ErasedReduction {
@@ -379,8 +404,7 @@ template <class Op, class Form, class T, bool isPair> struct ErasedReduction {
 template <class Op, class T, bool isPair>
 inline constexpr torvane_loops::ReductionLoop kLoopOf = {
     ErasedReduction<Op, Plain, T, isPair>::form(), ErasedReduction<Op, Checked, T, isPair>::form(),
-    isInteger<T> ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS,
-    sizeof(typename Op::template Accumulator<T>)};
+    isInteger<T> ? TORVANE_CHECK_INTEGERS : TORVANE_CHECK_REALS, sizeof(typename StoredBy<Op, T>::Type)};
 
 template <class Op, class T>
 inline constexpr const torvane_loops::ReductionLoop &kReductionLoop = kLoopOf<Op, T, false>;

@@ -12,6 +12,9 @@ struct ReductionOperands {
   mint strides[2];
 };
 
+// Products from which a checked dot product tests its sum as a whole.
+inline constexpr mint kFreeOrder = 8;
+
 inline constexpr uint32_t kAccumulatorBytes = 2 * sizeof(mreal); // of the largest one
 
 struct ReductionForm {
@@ -25,8 +28,8 @@ struct ReductionForm {
 
 struct ReductionLoop {
   ReductionForm plain, checked;
-  mint checkFlag; // of the operands' kind
-  uint32_t accumulatorBytes;
+  mint checkFlag;            // of the operands' kind
+  uint32_t accumulatorBytes; // that are stored
 };
 using PairReductionLoop = ReductionLoop;
 

@@ -118,7 +118,9 @@ void initializeAbortPoll(mint stage) {
   abortPollNeighbour.store(0, relaxed);
 }
 
-mint abortQ() { return abortPollSwitch.load(relaxed) == 0 ? 0 : confirmAbort("In DLLFunction"); }
+mint abortQ(const char *where) { return abortPollSwitch.load(relaxed) == 0 ? 0 : confirmAbort(where); }
+
+mint setAbortPoll(mint isOn) { return abortPollSwitch.exchange(isOn, relaxed); }
 
 } // namespace torvane
 

@@ -11,7 +11,11 @@ inline void raise(error code) { throwTorvaneException(static_cast<mint>(code)); 
 // Stores what the host gave; null keeps the library's own.
 void setAbortWatch(mint *flag, mint (*test)(const char *));
 
-// The poll of long loops: a process-wide switch that nothing sets, then a confirmation that is 0 here.
-mint abortQ();
+// The poll of long loops: a process-wide switch, then a confirmation that is told where it is asked, and is 0
+// here.
+mint abortQ(const char *where = "In DLLFunction");
+
+// The switch, which nothing in the library sets; yields what it was. For tests.
+mint setAbortPoll(mint isOn);
 
 } // namespace torvane

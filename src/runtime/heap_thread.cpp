@@ -4,6 +4,7 @@
 #include "heap_remote.h"
 #include "heap_slab.h"
 #include "heap_state.h"
+#include "startup.h"
 
 #include <new>
 
@@ -128,9 +129,17 @@ void endThreadHeap() {
   if (heap != nullptr) closeHeap(heap);
 }
 
+// The hooks still need the heap, so it goes back into its slot until the last of them takes it away, or
+// endThreadHeap where start-up has made no hooks. A slot that is not empty is that of a state which was
+// adopted since, with a heap and an end of its own.
 void endHeapOfSlot(void *heap) {
-  forgetHeap();
-  closeHeap(static_cast<ThreadHeap *>(heap));
+  const ThreadSlot slot = currentState()->tlsSlot;
+  if (threadSlotValue(slot) != nullptr || !setThreadSlotValue(slot, heap)) {
+    forgetHeap();
+    return closeHeap(static_cast<ThreadHeap *>(heap));
+  }
+  runThreadExitHooks();
+  endThreadHeap();
 }
 
 void leaveOrphan(ThreadHeap *heap) {

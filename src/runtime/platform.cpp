@@ -69,6 +69,7 @@ void *threadSlotValue(ThreadSlot slot) { return pthread_getspecific(slot); }
 bool setThreadSlotValue(ThreadSlot slot, void *value) { return pthread_setspecific(slot, value) == 0; }
 
 uint32_t currentThreadId() { return static_cast<uint32_t>(syscall(SYS_gettid)); }
+uint32_t processClock() { return static_cast<uint32_t>(clock()); }
 
 void sleepMilliseconds(uint32_t milliseconds) {
   timespec remaining = {static_cast<time_t>(milliseconds / 1000),

@@ -84,6 +84,7 @@ bool setThreadSlotValue(ThreadSlot slot, void *value); // false when there was n
 inline uint64_t timeStamp() { return __builtin_ia32_rdtsc(); }
 
 uint32_t currentThreadId();
+uint32_t processClock(); // processor time of the process, in the platform's units, cut to a word
 void sleepMilliseconds(uint32_t milliseconds);
 void writeStandardOutput(const char *text);
 [[noreturn]] void endProcess(int status);

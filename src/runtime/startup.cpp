@@ -33,7 +33,7 @@ const StartupModule kStartupModules[kStartupModuleCount] = {
     {"numeric array conversion tables", initializeElementTypeNames, tearDownElementTypeNames},
     {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
     {"sparse arrays", initializeSparseArrays, nullptr},
-    {"random numbers", nullptr, nullptr},
+    {"random numbers", initializeRandomNumbers, tearDownRandomNumbers},
     {"parallel and vector thresholds", initializeThresholds, tearDownPool},
     {"eternal tensor", initializeEternalTensor, tearDownEternalTensor},
     {"abort poll", initializeAbortPoll, nullptr},

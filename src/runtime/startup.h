@@ -15,6 +15,7 @@ void initializeRuntimeFunctionTable(mint stage);
 void initializeElementTypeNames(mint stage);
 void initializeRankZeroTensors(mint stage);
 void initializeSparseArrays(mint stage);
+void initializeRandomNumbers(mint stage);
 void initializeThresholds(mint stage);
 void initializeEternalTensor(mint stage);
 void initializeAbortPoll(mint stage);
@@ -24,6 +25,7 @@ void tearDownThreadHookLists();
 void tearDownRuntimeFunctionTable();
 void tearDownElementTypeNames();
 void tearDownRankZeroTensors();
+void tearDownRandomNumbers();
 void tearDownEternalTensor();
 void tearDownPool();
 

@@ -29,11 +29,14 @@ enum Status : mint {
   kValueFailed = 4,
   kNoMemory = 5,
   kNoSuchService = 6,
+  kNoFunction = 11, // of a random generator
   kWrongArguments = 12,
   kNotInThisForm = 14,
   kNegativeRank = 401,
   kNegativeExtent = 402,
   kSizeFailed = 403,
+  kAborted = 1000,
+  kNotFinite = 1001, // or out of range: a checked sum, product, norm or bound
 };
 
 // Last argument of every operation that allocates. Any other value behaves as a quiet failure that does

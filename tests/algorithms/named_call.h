@@ -6,6 +6,7 @@
 
 #include "algorithms/registry.h"
 #include "runtime/memory.h"
+#include "runtime/startup.h"
 #include "support/tensor_builders.h"
 
 #include <gtest/gtest.h>
@@ -97,7 +98,7 @@ public:
   NamedCall(const NamedCall &other) : name(other.name) {
     for (const Value &value : other.values)
       values.push_back({value.tensor != nullptr ? cloneOf(value.tensor.get()) : nullptr, nullptr,
-                        value.integer, value.real});
+                        value.integer, value.real, value.isReal});
   }
   NamedCall &tensor(Tensor argument) {
     values.push_back({std::move(argument), nullptr, 0, 0});
@@ -116,10 +117,10 @@ public:
     return *this;
   }
 
-  mint run(void *result) {
+  mint run(void *result, TorvaneLibraryData *libraryData = nullptr) {
     std::vector<void *> arguments;
     for (Value &value : values) arguments.push_back(pointerTo(value));
-    return lookupRuntimeFunction(name.c_str())(nullptr, mint(arguments.size()), arguments.data(), result);
+    return lookupRuntimeFunction(name.c_str())(libraryData, mint(arguments.size()), arguments.data(), result);
   }
 
   size_t count() const { return values.size(); }
@@ -219,7 +220,10 @@ inline void expectRefused(const NamedCall &call, mint status) {
 // The registry as start-up leaves it.
 class NamedFunctions : public testing::Test {
 protected:
-  NamedFunctions();
+  NamedFunctions() {
+    if (lookupRuntimeFunction("CopyTensor") == unavailableRuntimeFunction)
+      for (mint stage : {0, 1}) initializeRuntimeFunctionTable(stage);
+  }
 };
 
 } // namespace torvane::test

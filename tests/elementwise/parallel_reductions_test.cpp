@@ -139,6 +139,27 @@ TEST_F(ConcurrentReductions, DotProductsAreThoseOfOnePiece) {
     }
 }
 
+// A piece alone would be out of range; what counts is the whole.
+TEST_F(ConcurrentReductions, ACheckedDotProductFailsAsInOnePiece) {
+  const size_t count = 40000;
+  std::vector<mint> x(count, 1 << 20), y(count, 1);
+  std::fill(x.begin() + count / 2, x.end(), -(1 << 20));
+  mint dot = 7;
+  for (const mint threshold : {mint{1}, kNever}) {
+    setThresholds(threshold);
+    EXPECT_EQ(machfunc_ii_dot(&dot, x.data(), y.data(), mint(count), kDense, kChecks), 0);
+    EXPECT_EQ(dot, 0);
+    y.back() = -1;
+    y.front() = 1 << 11;
+    EXPECT_EQ(machfunc_ii_dot(&dot, x.data(), y.data(), mint(count), kDense, kChecks), 1) << "a product";
+    y.front() = 1 << 10;
+    y[1] = 1 << 10;
+    EXPECT_EQ(machfunc_ii_dot(&dot, x.data(), y.data(), mint(count), kDense, kChecks), mint(count))
+        << "the sum";
+    y.front() = y[1] = y.back() = 1;
+  }
+}
+
 TEST_F(ConcurrentReductions, ATotalFailsAtTheFirstFailureOfItsFirstFailingPiece) {
   std::vector<mint> data(300, 0);
   data[150] = INT32_MAX;

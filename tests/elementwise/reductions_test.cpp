@@ -458,15 +458,35 @@ TEST(IntegerDot, WalksBothStrides) {
   }
 }
 
-TEST(IntegerDot, ACheckedOneAsksWhetherTheWholeFits) {
+TEST(IntegerDot, ACheckedOneTestsEveryProduct) {
   EXPECT_EQ(dotOf({2147483647, 65536}, {1, 65536}, 4).status, 2);
-  EXPECT_EQ(dotOf({5, 2}, {1, -1073741826}, 4).status, 0) << "the product alone is out of range";
-  EXPECT_EQ(dotOf({5, 2}, {1, -1073741826}, 4).value[0], -2147483647);
+  EXPECT_EQ(dotOf({5, 2}, {1, -1073741826}, 4).status, 2) << "the product alone is out of range";
   EXPECT_EQ(dotOf({0, 2}, {1, -1073741824}, 4).status, 2) << "the reserved value";
+  EXPECT_EQ(dotOf({5, 2}, {1, -1073741824}, 4).status, 2) << "the reserved value, with a sum in range";
   EXPECT_EQ(dotOf({0, 2}, {1, -1073741824}, 0).value[0], INT32_MIN);
   EXPECT_EQ(dotOf({0, 2}, {1, -1073741824}, 2).status, 0) << "the flag of another kind";
   EXPECT_EQ(dotOf({INT32_MIN, 1}, {INT32_MIN, 1}, 0).value[0], 1);
   EXPECT_EQ(dotOf({1, INT32_MIN, 1}, {1, INT32_MIN, 1}, 4).status, 2);
+}
+
+TEST(IntegerDot, ACheckedOneTestsPartialSumsOfUpToSevenElements) {
+  const mint most = 2147483647;
+  EXPECT_EQ(dotOf({most, 1, -1}, {1, 1, 1}, 4).status, 2) << "the whole would fit";
+  EXPECT_EQ(dotOf({-most, -1, 1}, {1, 1, 1}, 4).status, 2) << "the reserved value";
+  for (size_t count = 3; count <= 20; ++count) {
+    std::vector<mint> x(count), ones(count, 1);
+    x[0] = most;
+    x[1] = 1;
+    x[count - 1] = -1;
+    EXPECT_EQ(dotOf(x, ones, 4).status, count < 8 ? 2 : 0) << count;
+    if (count >= 8) EXPECT_EQ(dotOf(x, ones, 4).value[0], most);
+    x[count - 1] = 1;
+    EXPECT_EQ(dotOf(x, ones, 4).status, count < 8 ? 2 : mint(count)) << "a whole that does not fit";
+    x = std::vector<mint>(count);
+    x[0] = -most;
+    x[count - 1] = -1;
+    EXPECT_EQ(dotOf(x, ones, 4).status, mint(count)) << "the reserved value";
+  }
 }
 
 // A product of 2 to the 32 or 33 wraps to nothing: it may not be taken for a small one.
@@ -475,16 +495,34 @@ TEST(IntegerDot, ACheckedOneIsNotDeceivedByProductsThatWrap) {
     for (int bits = 31; bits <= 34; ++bits)
       for (int bit = bits - 30; bit <= 30; ++bit) {
         const mint x = 1 << bit, y = sign * (1 << (bits - bit));
-        EXPECT_EQ(dotOf({x}, {y}, 4).status, 1) << x << " times " << y;
-        EXPECT_EQ(dotOf({1, x, 1}, {1, y, 1}, 4).status, sign == -1 && bits == 31 ? 0 : 2)
-            << x << " times " << y;
+        for (const size_t count : std::initializer_list<size_t>{1, 3, 7, 8, 9, 40, 1025, 3000})
+          for (const size_t at : {size_t{0}, count / 2, count - 1}) {
+            std::vector<mint> a(count, -1), b(count, 1);
+            a[at] = x;
+            b[at] = y;
+            ASSERT_EQ(dotOf(a, b, 4).status, at + 1) << x << " times " << y << " of " << count;
+          }
       }
+}
+
+// Products first, then sums; where both fail, whichever comes first in the order of the tests.
+Reduced<mint> exactDot(const std::vector<int64_t> &products) {
+  const auto fits = [](int64_t x) { return x <= INT32_MAX && x > INT32_MIN; };
+  const bool testsPartials = products.size() < 8;
+  int64_t sum = 0;
+  for (size_t k = 0; k < products.size(); ++k) {
+    sum += products[k];
+    if (!fits(products[k]) || (testsPartials && !fits(sum))) return {{}, mint(k + 1)};
+  }
+  if (!fits(sum)) return {{}, mint(products.size())};
+  return {{mint(sum)}, 0};
 }
 
 TEST(IntegerDot, AgreesWithExactSumsAtEveryLengthAndMagnitude) {
   std::mt19937_64 random(6);
-  for (int round = 0; round < 3000; ++round) {
-    const size_t size = round < 2000 ? size_t(round) % kAllLengths : size_t(random() % 4000);
+  mint failures = 0;
+  for (int round = 0; round < 6000; ++round) {
+    const size_t size = round < 5000 ? size_t(round) % kAllLengths : size_t(random() % 4000);
     const mint bitsX = mint(random() % 31), bitsY = mint(random() % 31);
     std::vector<mint> x(size), y(size);
     std::vector<int64_t> products;
@@ -495,11 +533,14 @@ TEST(IntegerDot, AgreesWithExactSumsAtEveryLengthAndMagnitude) {
       products.push_back(int64_t(x[k]) * y[k]);
       wrapped += uint32_t(x[k]) * uint32_t(y[k]);
     }
-    const Reduced<mint> expected = exactTotal(products), checked = dotOf(x, y, 4);
+    const Reduced<mint> expected = exactDot(products), checked = dotOf(x, y, 4);
     ASSERT_EQ(checked.status, expected.status);
+    failures += expected.status != 0;
     if (expected.status == 0) ASSERT_EQ(checked.value[0], expected.value[0]);
     ASSERT_EQ(uint32_t(dotOf(x, y, 0).value[0]), wrapped);
   }
+  EXPECT_GT(failures, 1000);
+  EXPECT_LT(failures, 5000);
 }
 
 } // namespace

@@ -1,40 +1,8 @@
 #!/bin/bash
 # standardise.sh PROGRAM SOURCE CASE: runs one case of the standardise example; exit status 0 when it holds.
-set -u
-program=$1 source=$2 case=$3
-iris=$source/examples/data/iris.csv
-here=$source/tests/examples
-work=$(mktemp -d) && trap 'rm -rf "$work"' EXIT
-cd "$work" || exit 1
+. "$(dirname "$0")/cases.sh"
 
-fail() { echo "$@" >&2; exit 1; }
-
-# report FILE: its report matches the figures that awk computes from the same file.
-report() {
-  "$program" "$1" >out 2>err || fail "exit status $?: $(cat err)"
-  [ ! -s err ] || fail "stderr: $(cat err)"
-  awk -f "$here/report.awk" "$1" out || { cat out; exit 1; }
-}
-
-# line NAME FIGURES...: the report's last row that begins with NAME holds these figures, in this order.
-line() {
-  awk -v want="$*" '{ gsub(/ +/, " "); sub(/ $/, "") } index($0, want) == 1 { found = 1 } END { exit !found }' out ||
-    fail "no row \"$*\" in: $(cat out)"
-}
-
-# refused STATUS MESSAGE ARGUMENTS...: exactly this message on stderr, this exit status, nothing on stdout.
-refused() {
-  local want=$1 message=$2
-  shift 2
-  "$program" "$@" >out 2>err
-  local got=$?
-  [ "$(cat err)" = "$message" ] || fail "stderr: $(cat err)"
-  [ $got -eq "$want" ] || fail "exit status $got, not $want"
-  [ ! -s out ] || fail "stdout: $(cat out)"
-}
-
-# table TEXT: writes t.csv.
-table() { printf "$1" >t.csv; }
+report() { reported_by report.awk "$1"; }
 
 case $case in
 the_shipped_table_gives_the_published_figures)

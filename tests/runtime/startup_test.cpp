@@ -52,6 +52,7 @@ TEST(Startup, RowsCallTheInitialisersOfTheirModules) {
   EXPECT_EQ(kStartupModules[2].initialize, initializeRuntimeFunctionTable);
   EXPECT_EQ(kStartupModules[3].initialize, initializeElementTypeNames);
   EXPECT_EQ(kStartupModules[4].initialize, initializeRankZeroTensors);
+  EXPECT_EQ(kStartupModules[6].initialize, initializeRandomNumbers);
   EXPECT_EQ(kStartupModules[7].initialize, initializeThresholds);
   EXPECT_EQ(kStartupModules[8].initialize, initializeEternalTensor);
   EXPECT_EQ(kStartupModules[9].initialize, initializeAbortPoll);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace torvane::test {
@@ -10,6 +11,11 @@ namespace torvane::test {
 // What a hook was called with on this thread since the last call of forgetHookCalls.
 const std::vector<uint32_t> &limitHookCalls();
 const std::vector<uint32_t> &reportedAllocationFailures();
+const std::vector<std::string> &confirmedAborts(); // where each poll asked
 void forgetHookCalls();
+
+// The confirmation of this thread answers 0 so many times, then 1. Without this call it always answers 1, so
+// that a poll that asks although its switch is 0 shows.
+void confirmAbortAfter(int64_t polls);
 
 } // namespace torvane::test

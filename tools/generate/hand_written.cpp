@@ -1,15 +1,18 @@
 // Reads the signatures of hand-written exports from the headers, by the compiler's own knowledge of them.
 #include "signature.h"
 
+#include <torvane/distributions.h>
 #include <torvane/elementwise.h>
 #include <torvane/failure.h>
 #include <torvane/integers.h>
+#include <torvane/linalg.h>
 #include <torvane/lists.h>
 #include <torvane/memory.h>
 #include <torvane/numeric_arrays.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
 #include <torvane/parts.h>
+#include <torvane/random.h>
 #include <torvane/sorting.h>
 #include <torvane/sparse_arrays.h>
 #include <torvane/startup.h>
@@ -54,6 +57,14 @@ SPELLING(TensorProperty, "TensorProperty")
 SPELLING(CompilerError, "CompilerError")
 SPELLING(TorvaneUnaryRoutine, "TorvaneUnaryRoutine")
 SPELLING(TorvaneBinaryRoutine, "TorvaneBinaryRoutine")
+SPELLING(RandomGenerator, "RandomGenerator")
+SPELLING(RandomGeneratorSnapshot, "RandomGeneratorSnapshot")
+SPELLING(BufferData, "BufferData")
+SPELLING(RandomAlloc, "RandomAlloc")
+SPELLING(RandomClone, "RandomClone")
+SPELLING(RandomFree, "RandomFree")
+SPELLING(RandomGetBits, "RandomGetBits")
+SPELLING(RandomFill, "RandomFill")
 #undef SPELLING
 
 template <class T> struct Spelling<const T> {

@@ -53,9 +53,10 @@ by its name and calls what it gets through one signature, `RuntimeFunctionHandle
   result. It may be one of the arguments.
 - Arguments stay the caller's, and as they were, whether the call succeeds or not. The exception is `Join`; see
   [lists.md](lists.md).
-- 0 is success. A slot that held null holds null after a failure; what another slot holds then says nothing. No handler
-  raises. [errors.md](errors.md) says what a status means; those of the table are what a function returns for arguments
-  that its columns do not allow, and for want of memory.
+- 0 is success. A slot that held null holds null after a failure, unless it is one of `Cross` half way
+  ([small_dense.md](small_dense.md)); what another slot holds then says nothing. No handler raises.
+  [errors.md](errors.md) says what a status means; those of the table are what a function returns for arguments that its
+  columns do not allow, and for want of memory.
 - Where the count is "any", and inside pairs, the count is the compiler's to keep.
 
 The table never changes after start-up, so any thread may look a name up. A handler is as safe on several threads as the

@@ -122,9 +122,10 @@ void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines) {
       " * or complex routine that is not in place tests in bulk and returns 1. The result may be the first\n"
       " * operand. Nothing is raised. A count below 1 does nothing.\n"
       " *\n * Reductions store into one accumulator, whose stride is not read and whose content does not count.\n"
-      " * A checked total fails at the first running sum that is out of range, infinite or a NaN, and so does\n"
-      " * dot; of a long run, each worker sums a piece. An extreme fails only if it is the most negative word,\n"
-      " * where that first occurs.",
+      " * A checked total fails at the first running sum that is out of range, infinite or a NaN; of a long\n"
+      " * run, each worker sums a piece. A checked dot fails at the first product out of range; its sum is\n"
+      " * tested at each of up to 7 elements, of more at the last one only. An extreme fails only if it is the\n"
+      " * most negative word, where that first occurs.",
       routines);
   writeUnits(files, "src/elementwise",
              "#include \"../drivers.h\"\n#include \"../kernel.h\"\n#include \"../reduction.h\"\n#include "

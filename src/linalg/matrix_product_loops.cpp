@@ -1,0 +1,337 @@
+// Loops of matrix products, compiled once a processor level (elementwise/levels.h).
+//
+// A tile of neighbouring result elements stands in vector registers while the inner index runs: each element
+// is still one sum in its own order, so that its bits depend neither on the tile nor on the level. The last
+// vector of a row ends with the row and may compute elements of the one before it once more, to the same
+// bits.
+#include "../elementwise/folds.h"
+#include "../elementwise/levels.h"
+#include "../scalar/magnitude.h"
+#include "matrix_product_loops.h"
+
+namespace torvane {
+
+using torvane_loops::kExactColumns;
+using torvane_loops::kExactRows;
+
+namespace {
+
+// `length` elements side by side.
+template <class T, int length> struct VectorOf {
+  typedef T Type __attribute__((vector_size(sizeof(T) * length)));
+};
+template <class T> struct VectorOf<T, 1> { using Type = T; };
+template <class T, int length> using Lanes = typename VectorOf<T, length>::Type;
+
+template <class V, class T> inline V load(const T *from) {
+  V v;
+  __builtin_memcpy(&v, from, sizeof v); // any alignment
+  return v;
+}
+template <class V, class T> inline void store(T *to, V v) { __builtin_memcpy(to, &v, sizeof v); }
+
+// Vectors side by side, of the longest length; of a shorter one a row has fewer.
+#if defined __AVX512F__
+constexpr int kMostVectors = 4;
+#elif defined __AVX2__
+constexpr int kMostVectors = 3;
+#else
+constexpr int kMostVectors = 2;
+#endif
+
+// Rows of a tile of reals: as many as the registers hold beside the operands, since the ends of a tile cost
+// as much as several steps of its sums.
+constexpr int mostRows(int vectors) {
+  constexpr int kRegisters = kMostVectors == 4 ? 32 : 16;
+  const int rows = (kRegisters - 2) / vectors - 1;
+  return rows > 8 ? 8 : rows;
+}
+
+// Words and their products, by vectors of one length, of which `most` stand side by side.
+template <class T, int length, int most> struct Plain {
+  using Word = T;
+  using Vector = Lanes<T, length>;
+  static constexpr int kLength = length, kWords = 1, kMost = most;
+  static constexpr int rowsBeside(int vectors) { return isSame<T, mreal> ? mostRows(vectors) : 4; }
+  struct Factor {
+    T word;
+    explicit Factor(const T *from) : word(*from) {}
+    Vector times(Vector row) const { return row * word; }
+  };
+};
+
+// Complex numbers, as pairs of words: x.re * y, plus (-x.im, x.im) * the swapped y, is the product with both
+// parts rounded as ever, since a sign costs no rounding.
+template <int length, int most> struct Pairs {
+  using Word = mreal;
+  using Vector = Lanes<mreal, 2 * length>;
+  static constexpr int kLength = length, kWords = 2, kMost = most;
+  static constexpr int rowsBeside(int) { return 4; }
+  struct Factor {
+    mreal re;
+    Vector im;
+    explicit Factor(const mreal *from) : re(from[0]), im(signs() * from[1]) {}
+    static Vector signs() {
+      if constexpr (length == 1)
+        return Vector{-1, 1};
+      else if constexpr (length == 2)
+        return Vector{-1, 1, -1, 1};
+      else
+        return Vector{-1, 1, -1, 1, -1, 1, -1, 1};
+    }
+    static Vector swapped(Vector row) {
+      if constexpr (length == 1)
+        return __builtin_shufflevector(row, row, 1, 0);
+      else if constexpr (length == 2)
+        return __builtin_shufflevector(row, row, 1, 0, 3, 2);
+      else
+        return __builtin_shufflevector(row, row, 1, 0, 3, 2, 5, 4, 7, 6);
+    }
+    Vector times(Vector row) const { return row * re + swapped(row) * im; }
+  };
+};
+
+template <class Kind> struct Matrices {
+  using Word = typename Kind::Word;
+  using Vector = typename Kind::Vector;
+  Word *result;
+  const Word *a, *b;
+  ptrdiff_t k, n; // in words of a row
+};
+
+// The sum of all elements, lane by lane. While it is finite, so is every element; where it is not, they may
+// all be finite and large.
+template <class Kind> struct Total {
+  typename Kind::Vector lanes = {};
+
+  bool isFinite() const {
+    typename Kind::Word words[sizeof lanes / sizeof(typename Kind::Word)], differences = 0;
+    __builtin_memcpy(words, &lanes, sizeof words);
+    for (const typename Kind::Word word : words) differences += word - word;
+    return differences == 0;
+  }
+};
+
+// The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words.
+template <class Kind, int rows, int vectors>
+inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets, Total<Kind> &total) {
+  using Vector = typename Kind::Vector;
+  Vector sums[rows][vectors] = {}, all[vectors] = {};
+  const typename Kind::Word *a = at.a + row * at.k, *columns[vectors];
+  for (int v = 0; v < vectors; ++v) columns[v] = at.b + offsets[v];
+  for (ptrdiff_t p = 0; p < at.k; p += Kind::kWords) {
+    Vector of[vectors];
+    for (int v = 0; v < vectors; ++v) {
+      of[v] = load<Vector>(columns[v]);
+      columns[v] += at.n;
+    }
+    for (int r = 0; r < rows; ++r) {
+      const typename Kind::Factor factor(a + r * at.k + p);
+      for (int v = 0; v < vectors; ++v) sums[r][v] += factor.times(of[v]);
+    }
+  }
+  for (int r = 0; r < rows; ++r)
+    for (int v = 0; v < vectors; ++v) {
+      store(at.result + (row + r) * at.n + offsets[v], sums[r][v]);
+      all[v] += sums[r][v];
+    }
+  for (int v = 0; v < vectors; ++v) total.lanes += all[v];
+}
+
+// The smallest products look for the fewest rows.
+template <class Kind, int rows, int vectors>
+inline void runTileOf(ptrdiff_t count, const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets,
+                      Total<Kind> &total) {
+  if constexpr (rows < Kind::rowsBeside(vectors))
+    if (count > rows) return runTileOf<Kind, rows + 1, vectors>(count, at, row, offsets, total);
+  runTile<Kind, rows, vectors>(at, row, offsets, total);
+}
+
+// Of so many rows or vectors that are left: what fits, or about a half, because a rest of one would wait for
+// its own sums.
+inline ptrdiff_t next(ptrdiff_t left, ptrdiff_t most) {
+  if (left <= most) return left;
+  return left < 2 * most ? left / 2 : most;
+}
+
+template <class Kind, int vectors>
+void runColumns(const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets, Total<Kind> &total) {
+  constexpr int kMostRows = Kind::rowsBeside(vectors);
+  for (ptrdiff_t row = 0; row < m;) {
+    const ptrdiff_t rows = next(m - row, kMostRows);
+    runTileOf<Kind, 1, vectors>(rows, at, row, offsets, total);
+    row += rows;
+  }
+}
+
+template <class Kind, int vectors>
+inline void runColumnsOf(ptrdiff_t count, const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets,
+                         Total<Kind> &total) {
+  if constexpr (vectors < Kind::kMost)
+    if (count > vectors) return runColumnsOf<Kind, vectors + 1>(count, at, m, offsets, total);
+  runColumns<Kind, vectors>(at, m, offsets, total);
+}
+
+// All columns, by groups of vectors. Whether the sum of the elements is finite.
+template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
+  constexpr ptrdiff_t kStep = ptrdiff_t{Kind::kLength} * Kind::kWords;
+  ptrdiff_t offsets[Kind::kMost];
+  Total<Kind> total;
+  const ptrdiff_t all = (at.n + kStep - 1) / kStep;
+  for (ptrdiff_t done = 0; done < all;) {
+    const ptrdiff_t vectors = next(all - done, Kind::kMost);
+    for (ptrdiff_t v = 0; v < vectors; ++v) {
+      const ptrdiff_t offset = (done + v) * kStep;
+      offsets[v] = offset + kStep <= at.n ? offset : at.n - kStep;
+    }
+    runColumnsOf<Kind, 1>(vectors, at, m, offsets, total);
+    done += vectors;
+  }
+  return total.isFinite();
+}
+
+// A length below the longest serves rows of fewer than two vectors of the next longer one.
+template <class T, int length>
+constexpr int kMostOf = kPackedBytes == length *static_cast<int>(sizeof(T)) ? kMostVectors : 2;
+
+bool multiplyReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
+  if constexpr (kPackedLength<mreal> >= 8)
+    if (n >= 8) return run<Plain<mreal, 8, kMostVectors>>({result, a, b, k, n}, m);
+  if constexpr (kPackedLength<mreal> >= 4)
+    if (n >= 4) return run<Plain<mreal, 4, kMostOf<mreal, 4>>>({result, a, b, k, n}, m);
+  if (n >= 2) return run<Plain<mreal, 2, kMostOf<mreal, 2>>>({result, a, b, k, n}, m);
+  return run<Plain<mreal, 1, 1>>({result, a, b, k, n}, m);
+}
+
+bool multiplyComplexes(mcomplex *to, const mcomplex *x, const mcomplex *y, mint m, mint k, mint n) {
+  auto *result = reinterpret_cast<mreal *>(to);
+  const auto *a = reinterpret_cast<const mreal *>(x), *b = reinterpret_cast<const mreal *>(y);
+  const ptrdiff_t width = ptrdiff_t{2} * n, depth = ptrdiff_t{2} * k;
+  if constexpr (kPackedLength<mreal> >= 8)
+    if (n >= 4) return run<Pairs<4, kMostVectors>>({result, a, b, depth, width}, m);
+  if constexpr (kPackedLength<mreal> >= 4)
+    if (n >= 2) return run<Pairs<2, kMostOf<mcomplex, 2>>>({result, a, b, depth, width}, m);
+  return run<Pairs<1, kMostOf<mcomplex, 1>>>({result, a, b, depth, width}, m);
+}
+
+void multiplyIntegers(mint *to, const mint *x, const mint *y, mint m, mint k, mint n) {
+  auto *result = reinterpret_cast<uint32_t *>(to);
+  const auto *a = reinterpret_cast<const uint32_t *>(x), *b = reinterpret_cast<const uint32_t *>(y);
+  if constexpr (kPackedLength<mint> >= 16)
+    if (n >= 16) return static_cast<void>(run<Plain<uint32_t, 16, kMostVectors>>({result, a, b, k, n}, m));
+  if constexpr (kPackedLength<mint> >= 8)
+    if (n >= 8)
+      return static_cast<void>(run<Plain<uint32_t, 8, kMostOf<uint32_t, 8>>>({result, a, b, k, n}, m));
+  if (n >= 4)
+    return static_cast<void>(run<Plain<uint32_t, 4, kMostOf<uint32_t, 4>>>({result, a, b, k, n}, m));
+  run<Plain<uint32_t, 1, 3>>({result, a, b, k, n}, m);
+}
+
+void largestOfRows(uint32_t *magnitudes, const mint *b, mint k, mint n) {
+  for (mint p = 0; p < k; ++p) {
+    LargestMagnitude<uint32_t> largest = {0};
+    foldDense(largest, reinterpret_cast<const uint32_t *>(b) + ptrdiff_t{p} * n, n);
+    magnitudes[p] = largest.value;
+  }
+}
+
+// Stores sums up to the first one out of range, and yields how many.
+mint storeInRange(mint *result, const int64_t *sums, mint count) {
+  for (mint j = 0; j < count; ++j) {
+    if (sums[j] > kMaximum<mint> || sums[j] < -int64_t{kMaximum<mint>}) return j;
+    result[j] = static_cast<mint>(sums[j]);
+  }
+  return count;
+}
+
+// Sums in 64 bits, few enough to stay in the nearest cache while b is read row by row. Products in range need
+// 32, which multiply in half the time.
+template <mint rows> struct ExactBlock {
+  int64_t sums[rows][kExactColumns];
+
+  void run(const mint *a, const mint *b, mint k, mint n, mint start, mint length) {
+    __builtin_memset(sums, 0, sizeof sums);
+    for (mint j = 0; j < length; j += kChunk)
+      addColumns(a, b + start + j, k, n, j, length - j < kChunk ? length - j : kChunk);
+  }
+
+private:
+  static constexpr mint kChunk = 64;
+
+  void addColumns(const mint *a, const mint *columns, mint k, mint n, mint at, mint length) {
+    for (ptrdiff_t p = 0; p < k; ++p) {
+      const mint *row = columns + p * n;
+      for (mint r = 0; r < rows; ++r) {
+        const auto x = static_cast<uint32_t>(a[ptrdiff_t{r} * k + p]);
+        int64_t *to = sums[r] + at;
+        for (mint j = 0; j < length; ++j) to[j] += static_cast<mint>(x * static_cast<uint32_t>(row[j]));
+      }
+    }
+  }
+};
+
+// A row of any length, block by block.
+mint multiplyExactRow(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  ExactBlock<1> block;
+  for (mint start = 0; start < n; start += kExactColumns) {
+    const mint length = n - start < kExactColumns ? n - start : kExactColumns;
+    block.run(a, b, k, n, start, length);
+    const mint stored = storeInRange(result + start, block.sums[0], length);
+    if (stored < length) return start + stored;
+    if (n - start <= kExactColumns) break; // the next start may be beyond mint
+  }
+  return n;
+}
+
+// Rows of one block, which read b once.
+mint multiplyExactRows(mint *result, const mint *a, const mint *b, mint k, mint n) {
+  ExactBlock<kExactRows> block;
+  block.run(a, b, k, n, 0, n);
+  for (mint r = 0; r < kExactRows; ++r) {
+    const mint stored = storeInRange(result + ptrdiff_t{r} * n, block.sums[r], n);
+    if (stored < n) return r * n + stored;
+  }
+  return kExactRows * n;
+}
+
+// The first and the last vector lie where the data do, those between begin at a line of the cache: one
+// element looked at twice counts for nothing, and a vector across two lines costs two.
+bool areAllFinite(const mreal *x, mint count) {
+  constexpr mint kOne = kPackedLength<mreal>, kFour = 4 * kOne;
+  Finiteness<mreal> rest = {0};
+  if (count < kOne) {
+    for (mint k = 0; k < count; ++k) rest.take(x[k]);
+    return rest.value == 0;
+  }
+  Finiteness<Packed<mreal>> a = {{}}, b = a, c = a, d = a;
+  a.take(loadPacked(x));
+  b.take(loadPacked(x + count - kOne));
+  mint k = static_cast<mint>(reinterpret_cast<uintptr_t>(x) / sizeof(mreal) % kOne);
+  k = k == 0 ? 0 : kOne - k;
+  for (; count - k >= kFour; k += kFour) {
+    a.take(loadPacked(x + k));
+    b.take(loadPacked(x + k + kOne));
+    c.take(loadPacked(x + k + 2 * kOne));
+    d.take(loadPacked(x + k + 3 * kOne));
+  }
+  for (; count - k >= kOne; k += kOne) c.take(loadPacked(x + k));
+  a.merge(b);
+  c.merge(d);
+  a.merge(c);
+  for (mint lane = 0; lane < kOne; ++lane) rest.merge({a.value[lane]});
+  return rest.value == 0;
+}
+
+} // namespace
+
+} // namespace torvane
+
+const torvane_loops::ProductLoops torvane_loops::TORVANE_LOOPS_HERE(product) = {
+    .reals = torvane::multiplyReals,
+    .complexes = torvane::multiplyComplexes,
+    .integers = torvane::multiplyIntegers,
+    .rowMagnitudes = torvane::largestOfRows,
+    .exactRow = torvane::multiplyExactRow,
+    .exactRows = torvane::multiplyExactRows,
+    .areFinite = torvane::areAllFinite,
+};
