@@ -1,5 +1,5 @@
 // Join and JoinAtLevel: tensors one after another along one dimension.
-#include "box.h"
+#include "../tensor/box.h"
 #include "handler.h"
 #include "result_tensor.h"
 #include "scratch.h"

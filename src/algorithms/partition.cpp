@@ -1,5 +1,5 @@
 // Partition: blocks of given sizes at given distances, along the first dimensions.
-#include "box.h"
+#include "../tensor/box.h"
 #include "handler.h"
 #include "result_tensor.h"
 #include "scratch.h"

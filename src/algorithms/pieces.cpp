@@ -5,7 +5,7 @@
 // last that branches are cut, so that all boxes of a cut find their lines in the cache.
 #include "pieces.h"
 
-#include "box.h"
+#include "../tensor/box.h"
 
 namespace torvane {
 

@@ -2,14 +2,12 @@
 // dimension of some length.
 #pragma once
 
+#include "../tensor/parts_span.h"
 #include "../tensor/tensor.h"
 
 namespace torvane {
 
-enum RangeBounds : mint { kClipStart = 1, kClipEnd = 2 };
-inline constexpr mint kAutomaticStep = INT32_MIN; // towards the end of the range, wherever it lies
-
-// Positions are 1-based and both included; negative ones count from the end.
+// Positions are 1-based and both included; negative ones count from the end. `bounds` are SpanFlags.
 struct Range {
   mint start, end, step, bounds;
 };

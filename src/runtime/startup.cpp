@@ -32,7 +32,7 @@ const StartupModule kStartupModules[kStartupModuleCount] = {
     {"function registry", initializeRuntimeFunctionTable, tearDownRuntimeFunctionTable},
     {"numeric array conversion tables", initializeElementTypeNames, tearDownElementTypeNames},
     {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
-    {"sparse arrays", nullptr, nullptr},
+    {"sparse arrays", initializeSparseArrays, nullptr},
     {"random numbers", initializeRandomNumbers, tearDownRandomNumbers},
     {"parallel and vector thresholds", initializeThresholds, tearDownPool},
     {"eternal tensor", initializeEternalTensor, tearDownEternalTensor},

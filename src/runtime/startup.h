@@ -14,6 +14,7 @@ void initializeHashConstants(mint stage);
 void initializeRuntimeFunctionTable(mint stage);
 void initializeElementTypeNames(mint stage);
 void initializeRankZeroTensors(mint stage);
+void initializeSparseArrays(mint stage);
 void initializeRandomNumbers(mint stage);
 void initializeThresholds(mint stage);
 void initializeEternalTensor(mint stage);

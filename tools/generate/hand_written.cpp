@@ -8,10 +8,13 @@
 #include <torvane/linalg.h>
 #include <torvane/lists.h>
 #include <torvane/memory.h>
+#include <torvane/numeric_arrays.h>
 #include <torvane/operators.h>
 #include <torvane/parallel.h>
+#include <torvane/parts.h>
 #include <torvane/random.h>
 #include <torvane/sorting.h>
+#include <torvane/sparse_arrays.h>
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
 #include <torvane/text.h>
@@ -48,6 +51,9 @@ SPELLING(float, "float")
 SPELLING(double, "mreal")
 SPELLING(mcomplex, "mcomplex")
 SPELLING(MTensor, "MTensor")
+SPELLING(MNumericArray, "MNumericArray")
+SPELLING(MSparseArray, "MSparseArray")
+SPELLING(TensorProperty, "TensorProperty")
 SPELLING(CompilerError, "CompilerError")
 SPELLING(TorvaneUnaryRoutine, "TorvaneUnaryRoutine")
 SPELLING(TorvaneBinaryRoutine, "TorvaneBinaryRoutine")

@@ -84,6 +84,10 @@ using Rows = void (*)(char *, const char *, size_t, const BoxAxis &);
 
 Rows rowsFor(size_t block) {
   switch (block) {
+  case 1:
+    return copyFixed<1>;
+  case 2:
+    return copyFixed<2>;
   case sizeof(mint):
     return copyFixed<sizeof(mint)>;
   case sizeof(mreal):
@@ -91,7 +95,9 @@ Rows rowsFor(size_t block) {
   case sizeof(mcomplex):
     return copyFixed<sizeof(mcomplex)>;
   default:
-    return block < 16             ? copySteps<8>
+    return block < 4              ? copySteps<2>
+           : block < 8            ? copySteps<4>
+           : block < 16           ? copySteps<8>
            : block < kLine        ? copySteps<16>
            : block < kCalledBlock ? copyLines
            : block < kLongBlock   ? copyBlocks
