@@ -7,7 +7,7 @@
 #include "../runtime/failure.h"
 #include "handler.h"
 #include "result_tensor.h"
-#include "scratch.h"
+#include "../tensor/scratch.h"
 #include "scratch_bytes.h"
 
 #include <torvane/machfuncs.h>

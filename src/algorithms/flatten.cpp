@@ -1,7 +1,7 @@
 // Flatten: the first level + 1 dimensions as one. The elements stay as they stand.
 #include "handler.h"
 #include "result_tensor.h"
-#include "scratch.h"
+#include "../tensor/scratch.h"
 #include <torvane/lists.h>
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "handler.h"
 #include "pieces.h"
 #include "result_tensor.h"
-#include "scratch.h"
+#include "../tensor/scratch.h"
 #include "tiling.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "../tensor/box.h"
 #include "handler.h"
 #include "result_tensor.h"
-#include "scratch.h"
+#include "../tensor/scratch.h"
 #include <torvane/lists.h>
 
 #include <algorithm>

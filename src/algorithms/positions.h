@@ -6,7 +6,7 @@
 // the place after the last. So keys sort as the rows do.
 #pragma once
 
-#include "scratch.h"
+#include "../tensor/scratch.h"
 
 namespace torvane {
 

@@ -3,7 +3,7 @@
 #include "handler.h"
 #include "pieces.h"
 #include "result_tensor.h"
-#include "scratch.h"
+#include "../tensor/scratch.h"
 #include <torvane/lists.h>
 
 namespace torvane {

@@ -3,7 +3,7 @@
 #include "pieces.h"
 #include "ranges.h"
 #include "result_tensor.h"
-#include "scratch.h"
+#include "../tensor/scratch.h"
 #include <torvane/lists.h>
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "dot.h"
 
 #include "../algorithms/result_tensor.h"
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "blas.h"
 #include "matrix_product.h"
 

@@ -1,6 +1,6 @@
 // Outer products by name: the tensors, then their levels, then for sums and products the flags.
 #include "../algorithms/handler.h"
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "outer.h"
 
 namespace torvane {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "../algorithms/result_tensor.h"
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "../tensor/tensor.h"
 
 namespace torvane {

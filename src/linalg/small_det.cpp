@@ -4,7 +4,7 @@
 // recursion stand one behind the other in one array of n (n + 1) / 2. The cost grows with n!, as the name
 // says. There is no pivoting: the products and the order of their sum are part of the interface.
 #include "../algorithms/handler.h"
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 
 namespace torvane {
 

@@ -4,7 +4,7 @@
 // (1978). One on either side: A. C. Atkinson and J. Whittaker, J. R. Stat. Soc. A 139 (1976). Uniforms come
 // in one call for as many trials as values are missing, and the trials of a call end before the next call:
 // the sequence of the stream depends on that.
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "variates.h"
 #include <torvane/distributions.h>
 

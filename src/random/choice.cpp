@@ -2,7 +2,7 @@
 #include "../algorithms/handler.h"
 #include "../algorithms/order.h"
 #include "../algorithms/result_tensor.h"
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "dimension_argument.h"
 #include "sampling.h"
 

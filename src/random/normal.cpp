@@ -1,6 +1,6 @@
 // Normal variates in pairs: G. E. P. Box and M. E. Muller, A note on the generation of random normal
 // deviates, Ann. Math. Stat. 29 (1958).
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "variates.h"
 #include <torvane/distributions.h>
 

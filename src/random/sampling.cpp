@@ -1,6 +1,6 @@
 #include "sampling.h"
 
-#include "../algorithms/scratch.h"
+#include "../tensor/scratch.h"
 #include "../runtime/failure.h"
 #include "position_set.h"
 #include "weight_tree.h"
