@@ -16,8 +16,8 @@ bool fail(PartReporter *reporter, const char *tag, intptr_t first = 0, intptr_t 
   return false;
 }
 
-bool checkPositions(mint extent, const PartSpec &spec, PartReporter *reporter) {
-  for (mint *p = spec.positions; p < spec.positions + spec.count; ++p) {
+bool checkPositions(mint extent, const PartSpec &selector, PartReporter *reporter) {
+  for (mint *p = selector.positions; p < selector.positions + selector.count; ++p) {
     const int64_t position = *p < 0 ? int64_t{*p} + extent + 1 : *p;
     if (position < 1 || position > extent) return fail(reporter, kPartPosition, *p);
     *p = static_cast<mint>(position);
@@ -25,24 +25,24 @@ bool checkPositions(mint extent, const PartSpec &spec, PartReporter *reporter) {
   return true;
 }
 
-bool checkSpan(mint extent, PartSpec &spec, PartReporter *reporter) {
-  mint *span = spec.positions, count;
+bool checkSpan(mint extent, PartSpec &selector, PartReporter *reporter) {
+  mint *span = selector.positions, count;
   if (!MTensor_resolveSpan(extent, span[3], &span[0], &span[1], &span[2], &count))
     return fail(reporter, kPartTake, span[0], span[1]);
-  spec.count = count;
+  selector.count = count;
   return true;
 }
 
-bool checkSelector(mint extent, PartSpec &spec, PartReporter *reporter) {
-  if (spec.count == kInvalidPart) return false;
-  switch (spec.kind) {
+bool checkSelector(mint extent, PartSpec &selector, PartReporter *reporter) {
+  if (selector.count == kInvalidPart) return false;
+  switch (selector.kind) {
   case TORVANE_PART_ALL:
-    spec.count = extent;
+    selector.count = extent;
     return true;
   case TORVANE_PART_SPAN:
-    return checkSpan(extent, spec, reporter);
+    return checkSpan(extent, selector, reporter);
   default:
-    return checkPositions(extent, spec, reporter);
+    return checkPositions(extent, selector, reporter);
   }
 }
 

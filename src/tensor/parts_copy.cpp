@@ -106,14 +106,14 @@ private:
       axes[rank++] = axis;
   }
 
-  void addSelector(const PartShape &shape, const PartSpec &spec, ptrdiff_t packed) {
-    const auto stride = static_cast<ptrdiff_t>(shape.width) * spec.stride;
-    const auto count = static_cast<size_t>(spec.count);
-    if (spec.kind == TORVANE_PART_SPAN) {
-      offset += (spec.positions[0] - 1) * stride;
-      add({count, nullptr, count > 1 ? spec.positions[2] * stride : 0, packed}); // else any step at all
+  void addSelector(const PartShape &shape, const PartSpec &selector, ptrdiff_t packed) {
+    const auto stride = static_cast<ptrdiff_t>(shape.width) * selector.stride;
+    const auto count = static_cast<size_t>(selector.count);
+    if (selector.kind == TORVANE_PART_SPAN) {
+      offset += (selector.positions[0] - 1) * stride;
+      add({count, nullptr, count > 1 ? selector.positions[2] * stride : 0, packed}); // else any step at all
     } else {
-      add({count, spec.kind == TORVANE_PART_ALL ? nullptr : spec.positions, stride, packed});
+      add({count, selector.kind == TORVANE_PART_ALL ? nullptr : selector.positions, stride, packed});
     }
   }
 

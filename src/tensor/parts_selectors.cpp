@@ -10,21 +10,21 @@ namespace {
 
 constexpr mint kSpanWords = 4; // start, end, step, flags
 
-const MTensor *vectorOf(mint kind, const void *spec) {
+const MTensor *vectorOf(mint kind, const void *given) {
   const bool isVector = kind == TORVANE_PART_LIST || kind == TORVANE_PART_SPAN;
-  return isVector ? *static_cast<MTensor *const *>(spec) : nullptr;
+  return isVector ? *static_cast<MTensor *const *>(given) : nullptr;
 }
 
 bool isIntegerVector(const MTensor *tensor) {
   return tensor != nullptr && tensor->type == TORVANE_TYPE_INTEGER && tensor->rank == 1;
 }
 
-mint wordsOf(mint kind, const void *spec) {
+mint wordsOf(mint kind, const void *given) {
   switch (kind) {
   case TORVANE_PART_POSITION:
     return 1;
   case TORVANE_PART_LIST:
-    return isIntegerVector(vectorOf(kind, spec)) ? vectorOf(kind, spec)->elementCount : 0;
+    return isIntegerVector(vectorOf(kind, given)) ? vectorOf(kind, given)->elementCount : 0;
   case TORVANE_PART_SPAN:
     return kSpanWords;
   default:
@@ -69,17 +69,17 @@ intptr_t readSpan(const MTensor *vector, mint *span) {
   }
 }
 
-intptr_t readSelector(mint kind, const void *spec, mint *positions) {
+intptr_t readSelector(mint kind, const void *given, mint *positions) {
   switch (kind) {
   case TORVANE_PART_POSITION:
-    *positions = *static_cast<const mint *>(spec);
+    *positions = *static_cast<const mint *>(given);
     return 1;
   case TORVANE_PART_LIST:
-    return readList(vectorOf(kind, spec), positions);
+    return readList(vectorOf(kind, given), positions);
   case TORVANE_PART_ALL:
     return 0;
   case TORVANE_PART_SPAN:
-    return readSpan(vectorOf(kind, spec), positions);
+    return readSpan(vectorOf(kind, given), positions);
   default:
     return kInvalidPart;
   }
