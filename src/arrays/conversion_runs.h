@@ -1,0 +1,142 @@
+// Loops of conversions over arrays.
+//
+// A rule that may fail goes through blocks. Lanes compute a block into a buffer without a branch and gather
+// what makes them suspect that an element fails, or is not for them; a block beyond suspicion is copied to
+// its place, and any other is converted one by one. So nothing behind a failing element is written, and the
+// common case is vector code. Lanes may suspect too much, never too little, and agree with the rule bit for
+// bit.
+#pragma once
+
+#include "conversion_rules.h"
+
+#include <emmintrin.h>
+
+namespace torvane {
+
+inline constexpr size_t kBlockBytes = 4096;
+template <class From, class To>
+inline constexpr mint kBlockOf = kBlockBytes / (sizeof(From) > sizeof(To) ? sizeof(From) : sizeof(To));
+
+// For lanes that cannot fail.
+template <class Lanes, class From, class To>
+mint convertAll(Lanes lanes, To *__restrict to, const From *__restrict from, mint count) {
+  for (mint i = 0; i < count; ++i) store(to[i], lanes(from[i]));
+  return kSuccess;
+}
+
+template <class Rule, class From, class To>
+[[gnu::noinline]] mint convertOneByOne(const Conversion &conversion, To *to, const From *from, mint count) {
+  for (mint i = 0; i < count; ++i) {
+    RealPartOf<To> value;
+    const mint status = Rule::convert(conversion, from[i], value);
+    if (status != kSuccess) return status;
+    store(to[i], value);
+  }
+  return kSuccess;
+}
+
+// Elements up to the next cache line: from there on a block's loads cross none.
+template <class From> mint untilLine(const From *from) {
+  const uintptr_t past = reinterpret_cast<uintptr_t>(from) % 64;
+  return static_cast<mint>((past == 0 ? 0 : 64 - past) / sizeof(From));
+}
+
+template <class Lanes, class From, class To>
+[[gnu::always_inline]] inline bool computeBlock(Lanes lanes, To *__restrict block,
+                                                const From *__restrict from, mint count) {
+  for (mint i = 0; i < count; ++i) store(block[i], lanes(from[i]));
+  return !lanes.isSuspicious();
+}
+
+template <class Rule, class Lanes, class From, class To>
+mint convertBlocks(const Conversion &conversion, Lanes lanes, To *to, const From *from, mint count) {
+  constexpr mint length = kBlockOf<From, To>;
+  alignas(64) To block[length];
+  mint done = 0;
+  for (mint end = untilLine(from); done < count; end += length) {
+    const mint n = (end < count ? end : count) - done;
+    if (computeBlock(lanes, block, from + done, n)) {
+      __builtin_memcpy(to + done, block, static_cast<size_t>(n) * sizeof(To));
+    } else {
+      const mint status = convertOneByOne<Rule>(conversion, to + done, from + done, n);
+      if (status != kSuccess) return status;
+    }
+    done += n;
+  }
+  return kSuccess;
+}
+
+// ---- lanes of integers ----
+
+// A block is in bounds if its least element and its greatest are.
+template <class From, class To> struct BoundedLanes {
+  Bounds<From> bounds;
+  From least = 0, most = 0; // 0 is within all bounds
+  To operator()(From x) {
+    least = x < least ? x : least;
+    most = x > most ? x : most;
+    return static_cast<To>(x);
+  }
+  bool isSuspicious() const { return least < bounds.low || most > bounds.high; }
+};
+
+// ---- lanes of reals ----
+
+// Rounds to the nearest integer by adding 1.5 * 2^52 (or 2^23): the sum's pattern counts up with its value,
+// so that the difference of patterns is the integer as long as it is small, and far from every small one
+// otherwise, infinities and NaNs included.
+template <class R> inline constexpr R kRounder = isSame<R, Real32> ? R(12582912) : R(6755399441055744);
+template <class R> Word<R> patternOf(R x) { return __builtin_bit_cast(Word<R>, x); }
+
+inline bool roundsToNearest() { return (_mm_getcsr() & _MM_ROUND_MASK) == _MM_ROUND_NEAREST; }
+
+// The real in which lanes compute what goes into To.
+template <class R, class To> using LaneReal = ChooseOf<isSame<R, Real32> && sizeof(To) <= 2, Real32, Real64>;
+
+template <bool agrees, class R, class To> struct RoundingLanes {
+  using Lane = LaneReal<R, To>;
+  Word<Lane> strays = 0, inexact = 0;
+  To operator()(R from) {
+    const Lane x = from, sum = x + kRounder<Lane>;
+    const auto least =
+        static_cast<Word<Lane>>(patternOf(kRounder<Lane>) + static_cast<Word<Lane>>(kLeast<To>));
+    strays |= patternOf(sum) - least;
+    if constexpr (agrees) inexact |= patternOf(sum - kRounder<Lane>) ^ patternOf(x);
+    return static_cast<To>(patternOf(sum)); // the low bits of the rounder's pattern are 0
+  }
+  bool isSuspicious() const { return (strays >> (kBitsOf<To> - 1) >> 1) != 0 || inexact != 0; }
+};
+
+template <bool agrees, class R, class To> struct ClippingLanes {
+  using Lane = LaneReal<R, To>;
+  Bounds<Lane> bounds;
+  Word<Lane> inexact = 0;
+  To operator()(R from) {
+    const Lane x = from, sum = clamped(bounds, x) + kRounder<Lane>;
+    if constexpr (agrees) inexact |= patternOf(x + kRounder<Lane> - kRounder<Lane>) ^ patternOf(x);
+    return static_cast<To>(patternOf(sum));
+  }
+  bool isSuspicious() const { return inexact != 0; }
+};
+
+template <class Lane, class To> Bounds<Lane> realBoundsOf(bool isSymmetric) {
+  return {static_cast<Lane>(kLeast<To>) + (isSigned<To> && isSymmetric ? Lane(1) : Lane(0)),
+          static_cast<Lane>(kMost<To>)};
+}
+
+// Narrows, and suspects what became the largest Real32 or more, and what became less than a normal one but 0.
+template <mint method> struct NarrowingLanes {
+  uint32_t most = 0, least = ~uint32_t{0};
+  uint64_t inexact = 0;
+  Real32 operator()(Real64 x) {
+    const auto value = static_cast<Real32>(x);
+    const uint32_t magnitude = patternOf(value) & 0x7FFFFFFF, below = magnitude - 1; // of 0 all ones
+    most = magnitude > most ? magnitude : most;
+    least = below < least ? below : least;
+    if constexpr (method == kCheck) inexact |= patternOf(static_cast<Real64>(value)) ^ patternOf(x);
+    return method == kRound ? nearestInteger(value) : value;
+  }
+  bool isSuspicious() const { return most >= 0x7F7FFFFF || least < 0x00800000 || inexact != 0; }
+};
+
+} // namespace torvane
