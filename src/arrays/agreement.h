@@ -11,9 +11,13 @@ namespace torvane {
 
 inline constexpr mreal kAllBits = 53;
 
-// 2^(tolerance - 53), where a tolerance asks for it.
+// 2^(tolerance - 53), where a tolerance asks for it. Whole numbers of bits, the usual ones, are made of their
+// exponent: short arrays would spend their time in the general way.
 inline mreal agreementFactor(mreal tolerance) {
-  return tolerance > 0 && tolerance < kAllBits ? ToleranceShiftFactor(tolerance) : 0;
+  if (!(tolerance > 0 && tolerance < kAllBits)) return 0;
+  const auto whole = static_cast<uint32_t>(tolerance);
+  if (whole != tolerance) return ToleranceShiftFactor(tolerance);
+  return __builtin_bit_cast(mreal, uint64_t{1023 - 53 + whole} << 52);
 }
 
 template <class R> R magnitudeOf(R x) { return x < 0 ? -x : x; }

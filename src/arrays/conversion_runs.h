@@ -13,14 +13,26 @@
 
 namespace torvane {
 
-inline constexpr size_t kBlockBytes = 4096;
+inline constexpr size_t kBlockBytes = 8192;
 template <class From, class To>
 inline constexpr mint kBlockOf = kBlockBytes / (sizeof(From) > sizeof(To) ? sizeof(From) : sizeof(To));
 
-// For lanes that cannot fail.
+// Where the accesses of a long loop are to cross no cache line: the wider elements' first line border. A
+// short loop does not gain what the beginning costs.
+template <class From, class To> mint elementsUntilLine(const From *from, const To *to, mint count) {
+  if (count < 2 * kBlockOf<From, To>) return 0;
+  const auto address =
+      sizeof(From) < sizeof(To) ? reinterpret_cast<uintptr_t>(to) : reinterpret_cast<uintptr_t>(from);
+  constexpr mint width = sizeof(From) < sizeof(To) ? sizeof(To) : sizeof(From);
+  return static_cast<mint>(-address % 64) / width;
+}
+
+// For lanes that cannot fail: what stands before the border, and the rest.
 template <class Lanes, class From, class To>
 mint convertAll(Lanes lanes, To *__restrict to, const From *__restrict from, mint count) {
-  for (mint i = 0; i < count; ++i) store(to[i], lanes(from[i]));
+  mint i = 0;
+  for (mint end = elementsUntilLine(from, to, count); i < count; end = count)
+    for (; i < end; ++i) store(to[i], lanes(from[i]));
   return kSuccess;
 }
 
@@ -35,12 +47,6 @@ template <class Rule, class From, class To>
   return kSuccess;
 }
 
-// Elements up to the next cache line: from there on a block's loads cross none.
-template <class From> mint untilLine(const From *from) {
-  const uintptr_t past = reinterpret_cast<uintptr_t>(from) % 64;
-  return static_cast<mint>((past == 0 ? 0 : 64 - past) / sizeof(From));
-}
-
 template <class Lanes, class From, class To>
 [[gnu::always_inline]] inline bool computeBlock(Lanes lanes, To *__restrict block,
                                                 const From *__restrict from, mint count) {
@@ -53,7 +59,7 @@ mint convertBlocks(const Conversion &conversion, Lanes lanes, To *to, const From
   constexpr mint length = kBlockOf<From, To>;
   alignas(64) To block[length];
   mint done = 0;
-  for (mint end = untilLine(from); done < count; end += length) {
+  for (mint end = elementsUntilLine(from, to, count); done < count; end += length) {
     const mint n = (end < count ? end : count) - done;
     if (computeBlock(lanes, block, from + done, n)) {
       __builtin_memcpy(to + done, block, static_cast<size_t>(n) * sizeof(To));

@@ -37,15 +37,30 @@ template <class To, class From> To scaledInteger(From v) {
     return scaledDown<To>(v);
 }
 
-// One division in Real64, whose quotient is narrowed. For sources of up to 16 bits a product with the
-// reciprocal narrows to the same Real32: a test tries all of them.
+// A reciprocal in two parts: the first one's product with a source of up to 16 bits is exact in Real32.
+struct SplitReciprocal {
+  Real32 high, low;
+};
+template <class From> constexpr SplitReciprocal splitReciprocal(Real64 divisor) {
+  const auto pattern = __builtin_bit_cast(uint32_t, static_cast<Real32>(1 / divisor));
+  const auto high = __builtin_bit_cast(Real32, pattern & ~uint32_t{0} << kBitsOf<From>);
+  return {high, static_cast<Real32>(1 / divisor - high)};
+}
+
+// What one division in Real64 and its narrowing yield, without either: a test tries all sources.
+template <class From> Real32 scaledNarrow(From v) {
+  constexpr SplitReciprocal above = splitReciprocal<From>(static_cast<Real64>(kMost<From>)),
+                            below = splitReciprocal<From>(kTwoTo<Real64>(kDigits<From>));
+  const auto x = static_cast<Real32>(v);
+  const bool isAbove = !isSigned<From> || v > 0;
+  return x * (isAbove ? above.high : below.high) + x * (isAbove ? above.low : below.low);
+}
+
+// One division in Real64, whose quotient is narrowed.
 template <class R, class From> R scaledToReal(From v) {
+  if constexpr (isSame<R, Real32> && kBitsOf<From> <= 16) return scaledNarrow(v);
   constexpr auto most = static_cast<Real64>(kMost<From>), least = kTwoTo<Real64>(kDigits<From>);
-  const auto x = static_cast<Real64>(v);
-  if constexpr (isSame<R, Real32> && kBitsOf<From> <= 16)
-    return static_cast<R>(x * (v > 0 ? 1 / most : 1 / least));
-  else
-    return static_cast<R>(x / (v > 0 ? most : least));
+  return static_cast<R>(static_cast<Real64>(v) / (v > 0 ? most : least));
 }
 
 // Up to 32 bits a NaN is 0, and with 64 what the processor stores for want of an integer: callers rely on it.
