@@ -99,6 +99,7 @@ inline bool roundsToNearest() { return (_mm_getcsr() & _MM_ROUND_MASK) == _MM_RO
 // The real in which lanes compute what goes into To.
 template <class R, class To> using LaneReal = ChooseOf<isSame<R, Real32> && sizeof(To) <= 2, Real32, Real64>;
 
+// What rounding adds to an element counts by its pattern too: 0 for an integer, and for nothing else.
 template <bool agrees, class R, class To> struct RoundingLanes {
   using Lane = LaneReal<R, To>;
   Word<Lane> strays = 0, inexact = 0;
@@ -107,19 +108,20 @@ template <bool agrees, class R, class To> struct RoundingLanes {
     const auto least =
         static_cast<Word<Lane>>(patternOf(kRounder<Lane>) + static_cast<Word<Lane>>(kLeast<To>));
     strays |= patternOf(sum) - least;
-    if constexpr (agrees) inexact |= patternOf(sum - kRounder<Lane>) ^ patternOf(x);
+    if constexpr (agrees) inexact |= patternOf(sum - kRounder<Lane> - x);
     return static_cast<To>(patternOf(sum)); // the low bits of the rounder's pattern are 0
   }
   bool isSuspicious() const { return (strays >> (kBitsOf<To> - 1) >> 1) != 0 || inexact != 0; }
 };
 
+// What is clipped is suspect where it must agree with an integer: far from the bounds the sum tells nothing.
 template <bool agrees, class R, class To> struct ClippingLanes {
   using Lane = LaneReal<R, To>;
   Bounds<Lane> bounds;
   Word<Lane> inexact = 0;
   To operator()(R from) {
     const Lane x = from, sum = clamped(bounds, x) + kRounder<Lane>;
-    if constexpr (agrees) inexact |= patternOf(x + kRounder<Lane> - kRounder<Lane>) ^ patternOf(x);
+    if constexpr (agrees) inexact |= patternOf(sum - kRounder<Lane> - x);
     return static_cast<To>(patternOf(sum));
   }
   bool isSuspicious() const { return inexact != 0; }
