@@ -2,6 +2,7 @@
 #pragma once
 
 #include "arrays/numeric_array.h"
+#include "runtime/element_types.h"
 
 #include <cstring>
 #include <memory>
@@ -18,15 +19,16 @@ inline Array newArray(mint tag, const std::vector<mint> &extents) {
   return Array(Runtime_CreateNumericArray(tag, mint(extents.size()), extents.data()));
 }
 
+// `values` may be the parts of complexes.
 template <class T> Array arrayOf(mint tag, const std::vector<T> &values) {
-  Array array = newArray(tag, {mint(values.size())});
+  Array array = newArray(tag, {mint(values.size() * sizeof(T) / kElementWidths[tag])});
   if (!values.empty()) std::memcpy(array->data, values.data(), values.size() * sizeof(T));
   return array;
 }
 
 template <class T> std::vector<T> valuesOf(const MNumericArray *array) {
   const auto *first = static_cast<const T *>(array->data);
-  return array->elementCount == 0 ? std::vector<T>() : std::vector<T>(first, first + array->elementCount);
+  return std::vector<T>(first, first + MNumericArray_byteCount(array) / sizeof(T));
 }
 
 } // namespace torvane::test

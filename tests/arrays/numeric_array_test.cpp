@@ -201,8 +201,7 @@ TEST(NumericArrays, ResetDimensionsTakesTheArraysOwn) {
 TEST(NumericArrayMemory, EveryFailedRequestYieldsNullAndNothingIsLost) {
   FailingHeap heap;
   const uint32_t used = usedBytesOfThisThread();
-  const std::vector<mint> large(20000, 1);
-  std::vector<mint> extents = large;
+  std::vector<mint> extents(20000, 1);
   extents.back() = 300000;
   const int64_t failures = failEveryRequest(heap, [&] {
     const Array array = newArray(10, extents);
@@ -216,10 +215,10 @@ TEST(NumericArrayMemory, EveryFailedRequestYieldsNullAndNothingIsLost) {
 
 TEST(NumericArrayMemory, GrowingTheExtentsFailsWithoutAChange) {
   const Array array = newArray(1, {4});
-  const std::vector<mint> extents(50000, 1);
+  const std::vector<mint> extents(3000000, 1);
   FailingHeap heap;
   heap.failFrom(1);
-  EXPECT_EQ(MNumericArray_resetDimensions(array.get(), 50000, extents.data()), 403);
+  EXPECT_EQ(MNumericArray_resetDimensions(array.get(), 3000000, extents.data()), 403);
   EXPECT_TRUE(heap.failed());
   heap.succeed();
   EXPECT_EQ(array->rank, 1);
