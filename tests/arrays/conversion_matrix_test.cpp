@@ -88,7 +88,7 @@ struct Case {
   testing::AssertionResult runFailing() const {
     for (size_t i = 0; i < count(); ++i) {
       if (expected[i].status == 0) continue;
-      std::array<unsigned char, 16> target;
+      alignas(16) std::array<unsigned char, 16> target;
       target.fill(kUntouched);
       const mint status = convert(at(i), 1, target.data());
       if (status != expected[i].status) return differs(i, "status " + std::to_string(status));

@@ -27,7 +27,7 @@ struct Asked {
 
 struct Converted {
   mint status = 0;
-  std::array<unsigned char, 16> bytes = {};
+  alignas(16) std::array<unsigned char, 16> bytes = {};
 };
 
 Converted modelOf(const Asked &asked, mint sourceTag, const void *element, mint targetTag);
