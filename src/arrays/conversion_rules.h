@@ -73,11 +73,12 @@ template <class From> From clamped(Bounds<From> bounds, From x) {
   return raised < bounds.high ? raised : bounds.high;
 }
 
-// Whether a real type has this value: the nearest one truncated gives it back. The nearest may be a power of
-// two above the integer's range, which nothing truncates into it.
+// Whether a real type has this value: its significant bits are no more than a significand's. Told by the
+// bits, because a conversion to the real and back may go through registers that are wider than it.
 template <class R, class From> bool isExactIn(From v) {
-  const R nearest = static_cast<R>(v);
-  return nearest < kTwoTo<R>(kDigits<From>) && static_cast<From>(nearest) == v;
+  const auto bits = static_cast<uint64_t>(v);
+  const uint64_t magnitude = v < From(0) ? 0 - bits : bits;
+  return magnitude == 0 || magnitude >> __builtin_ctzll(magnitude) >> kDigits<R> == 0;
 }
 
 // Check of an integer in a real type. A clipped value that is merely inexact becomes the extreme of its sign:

@@ -58,16 +58,15 @@ template <class Rule, class Lanes, class From, class To>
 mint convertBlocks(const Conversion &conversion, Lanes lanes, To *to, const From *from, mint count) {
   constexpr mint length = kBlockOf<From, To>;
   alignas(64) To block[length];
-  mint done = 0;
-  for (mint end = elementsUntilLine(from, to, count); done < count; end += length) {
-    const mint n = (end < count ? end : count) - done;
+  mint next = elementsUntilLine(from, to, count), n;
+  for (mint done = 0; done < count; done += n, next = length) {
+    n = next < count - done ? next : count - done;
     if (computeBlock(lanes, block, from + done, n)) {
       __builtin_memcpy(to + done, block, static_cast<size_t>(n) * sizeof(To));
     } else {
       const mint status = convertOneByOne<Rule>(conversion, to + done, from + done, n);
       if (status != kSuccess) return status;
     }
-    done += n;
   }
   return kSuccess;
 }
