@@ -16,7 +16,8 @@ template <mint method, class From, class To> struct RealRule {
   }
 };
 
-// Lanes know neither symmetric bounds nor other ways of rounding, and words of 64 bits are not for them.
+// Lanes round to the nearest alone, words of 64 bits are not for them, and those that may fail know no
+// symmetric bounds.
 template <mint method, class From, class To>
 mint roundAll(const Conversion &conversion, To *to, const From *from, mint count) {
   using Rule = RealRule<method, From, To>;

@@ -8,6 +8,7 @@
 #include "support/failing_heap.h"
 #include "support/tensor_builders.h"
 
+#include <cfenv>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -93,7 +94,8 @@ TEST(Conversions, NullArgumentsGive1300AndLeaveTheSlot) {
 TEST(Conversions, OneTypeAndNoDestinationMakesACloneBitForBit) {
   const std::vector<uint64_t> patterns = {0x7FF0000000000001u, 0x8000000000000000u, 1, 0x4004000000000000u};
   const Array source = arrayOf(10, patterns);
-  for (const mint method : {mint{kCheck}, mint{kCoerce}, mint{kScale}, mint{99}}) { // no method is asked for a copy
+  for (const mint method :
+       {mint{kCheck}, mint{kCoerce}, mint{kScale}, mint{99}}) { // no method is asked for a copy
     const ConversionMethod record = {0, method, kClipped};
     MNumericArray *result = nullptr;
     ASSERT_EQ(MNumericArray_convert(&result, source.get(), 10, &record), 0);
@@ -220,6 +222,28 @@ TEST(Conversions, ComplexElementThatFailsInItsSecondPartIsNotWritten) {
   MNumericArray *slot = target.get();
   EXPECT_EQ(MNumericArray_convert(&slot, source.get(), 11, &kPlain), 1305);
   EXPECT_EQ(valuesOf<float>(target.get()), (std::vector<float>{1, 2, 7, 7}));
+}
+
+TEST(Conversions, RoundingIsThatOfTheModeInForce) {
+  const Array source = arrayOf<double>(10, {2.25, -2.25, 7.75, -0.75});
+  const struct {
+    int mode;
+    std::vector<int16_t> expected;
+  } cases[] = {{FE_TONEAREST, {2, -2, 8, -1}},
+               {FE_UPWARD, {3, -2, 8, 0}},
+               {FE_DOWNWARD, {2, -3, 7, -1}},
+               {FE_TOWARDZERO, {2, -2, 7, 0}}};
+  for (const auto &one : cases)
+    for (const uint32_t flags : {uint32_t{0}, kClipped}) {
+      const ConversionMethod method = {1, kRound, flags};
+      MNumericArray *result = nullptr;
+      std::fesetround(one.mode);
+      const mint status = MNumericArray_convert(&result, source.get(), 3, &method);
+      std::fesetround(FE_TONEAREST);
+      ASSERT_EQ(status, 0);
+      const Array owner(result);
+      EXPECT_EQ(valuesOf<int16_t>(result), one.expected) << one.mode;
+    }
 }
 
 // ---- the host's abort test ----
