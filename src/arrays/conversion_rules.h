@@ -93,12 +93,21 @@ template <class R, class From> mint checkExact(const Conversion &conversion, Fro
 
 // ---- from reals to integers ----
 
+inline Real32 withSignOf(Real32 magnitude, Real32 x) { return __builtin_copysignf(magnitude, x); }
+inline Real64 withSignOf(Real64 magnitude, Real64 x) { return __builtin_copysign(magnitude, x); }
+
+// By the rounding mode in force, ties to even but for a host that has set another. Below SSE4.1 there is no
+// instruction for it, and what compilers put in its place rounds magnitudes, which is right to nearest alone.
+#ifdef __SSE4_1__
+inline Real32 nearestInteger(Real32 x) { return __builtin_rintf(x); }
+inline Real64 nearestInteger(Real64 x) { return __builtin_rint(x); }
+#else
 template <class R> R nearestInteger(R x) {
-  if constexpr (isSame<R, Real32>)
-    return __builtin_rintf(x);
-  else
-    return __builtin_rint(x);
+  constexpr R noFraction = kTwoTo<R>(kDigits<R> - 1);
+  const R unit = withSignOf(noFraction, x), r = x + unit - unit;
+  return magnitudeOf(x) < noFraction ? withSignOf(r, x) : x;
 }
+#endif
 
 // Whether an integral real lies in an integer type. Its powers of two are exact in R where its bounds are
 // not.
@@ -130,7 +139,7 @@ template <mint method, class R, class To> mint roundInto(const Conversion &conve
 inline bool narrow(Real64 x, bool clips, Real32 &value) {
   const Real64 magnitude = magnitudeOf(x);
   if (magnitude < 1.1754943508222875e-38)
-    value = static_cast<Real32>(__builtin_copysign(0.0, x));
+    value = static_cast<Real32>(withSignOf(0.0, x));
   else if (magnitude <= kLargestFinite<Real32>)
     value = static_cast<Real32>(x);
   else if (clips && magnitude <= kLargestFinite<Real64>)

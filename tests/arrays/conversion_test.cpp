@@ -3,6 +3,7 @@
 #include "arrays.h"
 
 #include "arrays/conversion.h"
+#include "elementwise/at_levels.h"
 #include "runtime/failure.h"
 #include "runtime/memory.h"
 #include "support/failing_heap.h"
@@ -224,7 +225,9 @@ TEST(Conversions, ComplexElementThatFailsInItsSecondPartIsNotWritten) {
   EXPECT_EQ(valuesOf<float>(target.get()), (std::vector<float>{1, 2, 7, 7}));
 }
 
-TEST(Conversions, RoundingIsThatOfTheModeInForce) {
+class ConversionsAt : public AtLevel {};
+
+TEST_P(ConversionsAt, RoundByTheModeInForce) {
   const Array source = arrayOf<double>(10, {2.25, -2.25, 7.75, -0.75});
   const struct {
     int mode;
@@ -233,18 +236,20 @@ TEST(Conversions, RoundingIsThatOfTheModeInForce) {
                {FE_UPWARD, {3, -2, 8, 0}},
                {FE_DOWNWARD, {2, -3, 7, -1}},
                {FE_TOWARDZERO, {2, -2, 7, 0}}};
-  for (const auto &one : cases)
+  for (const auto &row : cases)
     for (const uint32_t flags : {uint32_t{0}, kClipped}) {
       const ConversionMethod method = {1, kRound, flags};
       MNumericArray *result = nullptr;
-      std::fesetround(one.mode);
+      std::fesetround(row.mode);
       const mint status = MNumericArray_convert(&result, source.get(), 3, &method);
       std::fesetround(FE_TONEAREST);
       ASSERT_EQ(status, 0);
       const Array owner(result);
-      EXPECT_EQ(valuesOf<int16_t>(result), one.expected) << one.mode;
+      EXPECT_EQ(valuesOf<int16_t>(result), row.expected) << row.mode;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Levels, ConversionsAt, testing::Range(mint{0}, levelsToTest()));
 
 // ---- the host's abort test ----
 

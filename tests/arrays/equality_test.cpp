@@ -171,6 +171,14 @@ TEST(Equality, FindsADifferenceAtAnyPlace) {
   }
 }
 
+TEST(Equality, HalfTheLargerElementIsTooFarAtAnyToleranceBelow53) {
+  const Array one = arrayOf<double>(10, {1}), half = arrayOf<double>(10, {0.5}),
+              more = arrayOf<double>(10, {0.51});
+  EXPECT_EQ(MNumericArray_equal(52.9, 0, one.get(), half.get()), 0);
+  EXPECT_EQ(MNumericArray_equal(52.9, 0, one.get(), more.get()), 1);
+  EXPECT_EQ(MNumericArray_equal(53, 0, one.get(), half.get()), 1);
+}
+
 TEST(Equality, NaNsAreNotEqualToThemselves) {
   const Array a = arrayOf<float>(9, {NAN});
   EXPECT_EQ(MNumericArray_equal(53, 0, a.get(), a.get()), 0);
