@@ -54,19 +54,23 @@ template <class Lanes, class From, class To>
   return !lanes.isSuspicious();
 }
 
+// The length of a block is kept from the compiler's sight: where GCC knows its bound, it copies by a string
+// instruction, which doubles the time of all.
 template <class Rule, class Lanes, class From, class To>
 mint convertBlocks(const Conversion &conversion, Lanes lanes, To *to, const From *from, mint count) {
-  constexpr mint length = kBlockOf<From, To>;
+  constexpr size_t length = kBlockOf<From, To>;
   alignas(64) To block[length];
-  mint next = elementsUntilLine(from, to, count), n;
-  for (mint done = 0; done < count; done += n, next = length) {
-    n = next < count - done ? next : count - done;
-    if (computeBlock(lanes, block, from + done, n)) {
-      __builtin_memcpy(to + done, block, static_cast<size_t>(n) * sizeof(To));
+  const auto total = static_cast<size_t>(count);
+  size_t done = 0;
+  for (auto end = static_cast<size_t>(elementsUntilLine(from, to, count)); done < total; end += length) {
+    const size_t n = (end < total ? end : total) - done;
+    if (computeBlock(lanes, block, from + done, static_cast<mint>(n))) {
+      __builtin_memcpy(to + done, block, n * sizeof(To));
     } else {
-      const mint status = convertOneByOne<Rule>(conversion, to + done, from + done, n);
+      const mint status = convertOneByOne<Rule>(conversion, to + done, from + done, static_cast<mint>(n));
       if (status != kSuccess) return status;
     }
+    done += n;
   }
   return kSuccess;
 }
