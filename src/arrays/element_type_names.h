@@ -8,4 +8,8 @@ namespace torvane {
 // The tag of a primary name; 0 when the name is unknown, or before stage 1 of start-up.
 mint elementTypeOfPrimaryName(const char *name);
 
+// For start-up: see startup.h.
+void initializeElementTypeNames(mint stage);
+void tearDownElementTypeNames();
+
 } // namespace torvane

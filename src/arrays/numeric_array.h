@@ -11,7 +11,6 @@ namespace torvane {
 
 enum ArrayStatus : mint {
   kNotAnArray = 204, // a tensor that cannot be viewed as an array
-  kStopped = 1000,   // the host's abort test said so
   kNullArgument = 1300,
   kBadElementType = 1301,
   kRanksDiffer = 1302,

@@ -30,7 +30,7 @@ const StartupModule kStartupModules[kStartupModuleCount] = {
     {"memory", initializeMemory, tearDownMemoryModule},
     {"hash and numeric constants", initializeHashConstants, nullptr},
     {"function registry", initializeRuntimeFunctionTable, tearDownRuntimeFunctionTable},
-    {"numeric array conversion tables", initializeElementTypeNames, tearDownElementTypeNames},
+    {"numeric array conversion tables", initializeConversionTables, tearDownConversionTables},
     {"rank-zero tensors", initializeRankZeroTensors, tearDownRankZeroTensors},
     {"sparse arrays", initializeSparseArrays, nullptr},
     {"random numbers", initializeRandomNumbers, tearDownRandomNumbers},

@@ -12,7 +12,7 @@ namespace torvane {
 void initializeMemory(mint stage);
 void initializeHashConstants(mint stage);
 void initializeRuntimeFunctionTable(mint stage);
-void initializeElementTypeNames(mint stage);
+void initializeConversionTables(mint stage);
 void initializeRankZeroTensors(mint stage);
 void initializeSparseArrays(mint stage);
 void initializeRandomNumbers(mint stage);
@@ -23,7 +23,7 @@ void initializeAbortPoll(mint stage);
 // Release what the modules hold outside the allocator, or would find again after it is gone.
 void tearDownThreadHookLists();
 void tearDownRuntimeFunctionTable();
-void tearDownElementTypeNames();
+void tearDownConversionTables();
 void tearDownRankZeroTensors();
 void tearDownRandomNumbers();
 void tearDownEternalTensor();

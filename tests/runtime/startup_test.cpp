@@ -50,7 +50,7 @@ TEST(Startup, RowsCallTheInitialisersOfTheirModules) {
   EXPECT_EQ(kStartupModules[0].initialize, initializeMemory);
   EXPECT_EQ(kStartupModules[1].initialize, initializeHashConstants);
   EXPECT_EQ(kStartupModules[2].initialize, initializeRuntimeFunctionTable);
-  EXPECT_EQ(kStartupModules[3].initialize, initializeElementTypeNames);
+  EXPECT_EQ(kStartupModules[3].initialize, initializeConversionTables);
   EXPECT_EQ(kStartupModules[4].initialize, initializeRankZeroTensors);
   EXPECT_EQ(kStartupModules[6].initialize, initializeRandomNumbers);
   EXPECT_EQ(kStartupModules[7].initialize, initializeThresholds);
