@@ -71,7 +71,7 @@ private:
   void takeRun(const torvane_loops::ReductionLoop &loop, const MTensor *tensor, mint first, mint last) {
     if (first == last) return;
     Element extreme;
-    loop.plain.run(&extreme, {{tensor->data, nullptr}, {1, 0}}, first, last);
+    loop.plain.run(&extreme, {{tensor->data, nullptr}, {1, 0}, last}, first, last);
     take(extreme);
   }
 };

@@ -42,7 +42,7 @@ bool isFinite(mreal x) { return classify(x) == error::none; }
 
 // Stores the start value itself, which is 0.
 bool sumRun(const ReductionLoop &loop, void *sum, const void *data, mint count, bool isChecked) {
-  return (isChecked ? loop.checked : loop.plain).run(sum, {{data, nullptr}, {1, 0}}, 0, count) == 0;
+  return (isChecked ? loop.checked : loop.plain).run(sum, {{data, nullptr}, {1, 0}, count}, 0, count) == 0;
 }
 
 } // namespace

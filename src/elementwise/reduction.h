@@ -286,16 +286,17 @@ struct ProductSum {
   int64_t value;
 };
 
-// A checked sum of products fails at the first product out of range. Below kFreeOrder elements the sum is
-// tested at each of them, in their order, from there on as a whole only: it then does not matter how a sum is
-// cut, into packed registers or pieces.
+// A checked sum of products fails at the first product out of range. A sum of fewer than kFreeOrder elements
+// is tested at each of them, in their order and so in one piece; a longer one as a whole only: it then does
+// not matter how it is cut, into packed registers or pieces of any length.
 struct dot {
   template <class T> using Accumulator = ProductSum;
   template <class T> using Stored = T;
   template <class T> static constexpr ProductSum initial() { return {0}; }
-  template <class Form> static mint take(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
+  template <class Form>
+  static mint take(ProductSum &sum, const Run<mint> &x, const Run<mint> &y, mint wholeCount) {
     if constexpr (Form::checked)
-      return x.count < torvane_loops::kFreeOrder ? addOneByOne(sum, x, y) : addBlocks(sum, x, y);
+      return wholeCount < torvane_loops::kFreeOrder ? addOneByOne(sum, x, y) : addBlocks(sum, x, y);
     sum.value += int64_t{wrappedProducts(x, y)};
     return 0;
   }
@@ -382,7 +383,7 @@ template <class Op, class Form, class T, bool isPair> struct ErasedReduction {
     own = Op::template initial<T>();
     const Run<T> x = operand(operands, 0, first, last);
     if constexpr (isPair)
-      return Op::template take<Form>(own, x, operand(operands, 1, first, last));
+      return Op::template take<Form>(own, x, operand(operands, 1, first, last), operands.count);
     else
       return Op::template take<Form>(own, x);
   }

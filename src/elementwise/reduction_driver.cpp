@@ -3,6 +3,7 @@
 #include "../runtime/memory.h"
 #include "pieces.h"
 
+#include <algorithm>
 #include <string.h>
 
 namespace torvane {
@@ -72,13 +73,13 @@ mint runOverWorkers(const ReductionForm &form, Accumulator *accumulator, const R
   return position;
 }
 
-mint drive(const ReductionLoop &loop, RoutineArity arity, void *result, const ReductionOperands &operands,
-           mint count, mint flags) {
+mint drive(const ReductionLoop &loop, bool isParallel, void *result, const ReductionOperands &operands,
+           mint flags) {
   const ReductionForm &form = (flags & loop.checkFlag) != 0 ? loop.checked : loop.plain;
-  if (count < 0) count = 0;
+  const mint count = operands.count;
   Accumulator own;
-  mint position = goesParallel(arity, count) ? runOverWorkers(form, &own, operands, count)
-                                             : form.run(&own, operands, 0, count);
+  mint position =
+      isParallel ? runOverWorkers(form, &own, operands, count) : form.run(&own, operands, 0, count);
   if (position == 0 && count > 0 && form.finish != nullptr) position = form.finish(&own, operands, count);
   memcpy(result, &own, loop.accumulatorBytes);
   return position;
@@ -88,12 +89,15 @@ mint drive(const ReductionLoop &loop, RoutineArity arity, void *result, const Re
 
 mint driveReduction(const ReductionLoop &loop, void *accumulator, const void *data, mint count,
                     const mint *strides, mint flags) {
-  return drive(loop, kReductions, accumulator, {{data, nullptr}, {strides[1], 0}}, count, flags);
+  return drive(loop, goesParallel(kReductions, count), accumulator,
+               {{data, nullptr}, {strides[1], 0}, std::max(count, 0)}, flags);
 }
 
+// A sum whose order counts is one piece, however low the threshold.
 mint drivePairReduction(const ReductionLoop &loop, void *accumulator, const void *x, const void *y,
                         mint count, const mint *strides, mint flags) {
-  return drive(loop, kScalarValued, accumulator, {{x, y}, {strides[1], strides[2]}}, count, flags);
+  const bool isParallel = count >= torvane_loops::kFreeOrder && goesParallel(kScalarValued, count);
+  return drive(loop, isParallel, accumulator, {{x, y}, {strides[1], strides[2]}, std::max(count, 0)}, flags);
 }
 
 } // namespace torvane

@@ -6,10 +6,12 @@
 
 namespace torvane_loops {
 
-// One run of elements, or the two of a dot product. Strides count elements.
+// One run of elements, or the two of a dot product. Strides count elements. `count` are all of them, in
+// however many pieces they are taken.
 struct ReductionOperands {
   const void *data[2];
   mint strides[2];
+  mint count;
 };
 
 // Products from which a checked dot product tests its sum as a whole.

@@ -7,6 +7,7 @@
 #include "support/on_thread.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <torvane/elementwise.h>
 #include <torvane/machfuncs.h>
 #include <torvane/operators.h>
@@ -137,6 +138,22 @@ TEST_F(ConcurrentReductions, DotProductsAreThoseOfOnePiece) {
       ASSERT_EQ(machfunc_ii_dot(&whole, x.data(), y.data(), mint(count), strides, flags), 0);
       ASSERT_EQ(pieces, whole);
     }
+}
+
+// Whatever the pieces: fewer than eight products are added and tested in their order, more as a whole.
+TEST_F(ConcurrentReductions, CheckedDotProductsOfAFewElementsFailAsInOnePiece) {
+  const mint most = std::numeric_limits<mint>::max();
+  for (const mint threshold : {mint{1}, mint{8}, kNever}) {
+    setThresholds(threshold);
+    for (const size_t count : {3, 4, 7, 8, 9, 12, 14, 33}) {
+      std::vector<mint> x(count, 0), y(count, 1);
+      x[0] = most, x[1] = 1, x[2] = -1;
+      mint dot = 7;
+      const mint position = machfunc_ii_dot(&dot, x.data(), y.data(), mint(count), kDense, kChecks);
+      EXPECT_EQ(position != 0, count < 8) << count << " elements, threshold " << threshold;
+      if (count >= 8) EXPECT_EQ(dot, most);
+    }
+  }
 }
 
 // A piece alone would be out of range; what counts is the whole.
