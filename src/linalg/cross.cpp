@@ -2,13 +2,15 @@
 //
 // The products and differences are the vector routines', one element at a time, with the check flags of the
 // caller's arithmetic. Where one fails, what has been computed stays in the slot, deliberately: compiled code
-// that goes on after the failure finds the components before it.
+// that goes on after the failure finds the components before it, and zeros behind it.
 #include "../algorithms/handler.h"
 #include "../algorithms/result_tensor.h"
 #include "../runtime/library_data.h"
 
 #include <torvane/machfuncs.h>
 #include <torvane/operators.h>
+
+#include <string.h>
 
 namespace torvane {
 
@@ -89,6 +91,8 @@ mint cross(MTensor **slot, const MTensor *a, const MTensor *b, mint flags) {
   if (b != nullptr) result.avoid(b);
   status = result.allocateLike(a->type, a);
   if (status != kSuccess) return status;
+  // A failure leaves the components behind it unwritten, and the caller gets them all the same.
+  memset(result.get()->data, 0, static_cast<size_t>(length) * elementWidth(a->type));
   if (b == nullptr)
     turn(result.get(), a);
   else

@@ -1,6 +1,7 @@
 // Running sums against one addition at a time; integers against exact ones.
 #include "exact_call.h"
 
+#include "parallel/four_workers.h"
 #include "support/exact_integer.h"
 
 #include <cmath>
@@ -136,6 +137,28 @@ TEST_F(RunningSums, OfIntegersFailAtTheReservedValueToo) {
   // A first row is copied, not added.
   expectExactly(accumulate(tensorOf<mint>({1}, {INT32_MIN}), kIntegers), tensorOf<mint>({1}, {INT32_MIN}));
   expectFails(accumulate(tensorOf<mint>({2, 3}, {0, 0, INT32_MAX, 0, 0, 1}), kIntegers), 3);
+}
+
+// Rows above the length at which a vector routine gives pieces of them to the workers.
+class ConcurrentRunningSums : public RunningSums {
+protected:
+  const FourWorkers workers;
+};
+
+TEST_F(ConcurrentRunningSums, OfRowsAreExactOrFailWithThePositionInTheRow) {
+  const mint width = 50000;
+  std::mt19937 random(4);
+  const Tensor tensor = newTensor(TORVANE_TYPE_INTEGER, {3, width});
+  for (mint i = 0; i < 3 * width; ++i) elements<mint>(tensor)[i] = mint(random() % 20000) - 10000;
+  expectExactly(accumulate(tensor, kIntegers), IntegerModel(tensor).sums);
+  elements<mint>(tensor)[width + 40000] = INT32_MAX;
+  elements<mint>(tensor)[40000] = 1;
+  EXPECT_EQ(IntegerModel(tensor).failure, 40001);
+  expectFails(accumulate(tensor, kIntegers), 40001);
+  expectExactly(accumulate(tensor, kReals), IntegerModel(tensor).sums);
+  elements<mint>(tensor)[width + 40000] = 0; // and in the last row alone
+  elements<mint>(tensor)[2 * width + 40000] = INT32_MAX;
+  expectFails(accumulate(tensor, kIntegers), 40001);
 }
 
 TEST_F(RunningSums, OfNothingAreNothing) {

@@ -260,6 +260,10 @@ TEST_F(Neighbours, CheckedRealsFailWhereARoutineDoes) {
   expectFails(differences(far, {1}, kReals), 1);
   expectFails(ratios(tensorOf<mreal>({3}, {1, 0, 1}), {1}, kReals), 1);
   expectExactly(ratios(tensorOf<mreal>({3}, {1, 0, 1}), {1}, 0), tensorOf<mreal>({2}, {0, infinity}));
+  // Real routines tell that one of their elements fails, not which.
+  const Tensor rows = tensorOf<mreal>({3, 2}, {1, 1, 0, 0, 5, 5});
+  expectFails(ratios(rows, {1}, kReals), 1);
+  expectExactly(ratios(rows, {1}, 0), tensorOf<mreal>({2, 2}, {0, 0, infinity, infinity}));
 }
 
 // Whatever the flags, and with the position in its row.

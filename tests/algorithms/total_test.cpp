@@ -1,6 +1,7 @@
 // Totals of rows and of all elements against sums one addition at a time; integers against exact ones.
 #include "exact_call.h"
 
+#include "parallel/four_workers.h"
 #include "support/exact_integer.h"
 
 #include <bit>
@@ -191,7 +192,6 @@ template <class T> void expectTotalOfAll(const Tensor &tensor) {
   }
 }
 
-// 40,000 and 100,000 elements are above the length at which vector routines give pieces to the workers.
 TEST_F(Totals, OfAllElementsRunFromLeftToRightAtAnyLength) {
   std::mt19937 random(6);
   atEveryLevel([&random] {
@@ -215,6 +215,86 @@ TEST_F(Totals, OfAllIntegersFailAtAPartialSumThatOnlyTheWholeRunHas) {
   values[50000] = 1;
   values[79999] = -INT32_MAX;
   expectTotalOfAll<mint>(tensorOf<mint>({80000}, values));
+}
+
+// Lengths at which vector routines give pieces to the workers, and workers to give them to.
+class ConcurrentTotals : public Totals {
+protected:
+  const FourWorkers workers;
+};
+
+std::vector<mreal> realsOfMixedExponents(size_t count) {
+  std::mt19937_64 random(7);
+  std::vector<mreal> values(count);
+  for (mreal &x : values) x = std::ldexp(mreal(int64_t(random())), mint(random() % 60) - 90);
+  return values;
+}
+
+mreal plainSum(const mreal *from, const mreal *to) {
+  volatile mreal sum = 0;
+  for (; from != to; ++from) sum = sum + *from;
+  return sum;
+}
+
+TEST_F(ConcurrentTotals, OfRealsAreThoseOfOneLoopFromLeftToRight) {
+  const size_t count = 100000;
+  const std::vector<mreal> values = realsOfMixedExponents(count);
+  const mreal expected = plainSum(values.data(), values.data() + count);
+  volatile mreal ofPieces = 0;
+  for (size_t first = 0; first < count; first += count / 4)
+    ofPieces = ofPieces + plainSum(values.data() + first, values.data() + first + count / 4);
+  ASSERT_NE(ofPieces, expected) << "sums whose order does not show";
+  for (const mint flags : {0, kReals, kIntegers}) {
+    mreal sum = 77;
+    ASSERT_EQ(NamedCall("TotalAll").tensor(tensorOf<mreal>({100000}, values)).integer(flags).run(&sum), 0);
+    EXPECT_EQ(std::bit_cast<uint64_t>(sum), std::bit_cast<uint64_t>(expected)) << flags;
+    expectExactly(NamedCall("Total").tensor(tensorOf<mreal>({100000, 1}, values)).integer(flags),
+                  tensorOf<mreal>({1}, {expected}));
+  }
+}
+
+TEST_F(ConcurrentTotals, OfComplexNumbersAreThoseOfOneLoopFromLeftToRight) {
+  const std::vector<mreal> parts = realsOfMixedExponents(100000);
+  std::vector<mcomplex> values;
+  for (const mreal x : parts) values.push_back({x, -x});
+  const mreal expected = plainSum(parts.data(), parts.data() + parts.size());
+  mcomplex sum = {77, 78};
+  ASSERT_EQ(NamedCall("TotalAll").tensor(tensorOf<mcomplex>({100000}, values)).integer(kReals).run(&sum), 0);
+  EXPECT_EQ(std::bit_cast<uint64_t>(sum.re), std::bit_cast<uint64_t>(expected));
+  EXPECT_EQ(std::bit_cast<uint64_t>(sum.im), std::bit_cast<uint64_t>(-expected));
+  expectExactly(NamedCall("Total").tensor(tensorOf<mcomplex>({100000, 1}, values)).integer(kReals),
+                tensorOf<mcomplex>({1}, {{expected, -expected}}));
+}
+
+// With the last of them at 74999 the sums of four equal pieces would be in range, and theirs in order too.
+TEST_F(ConcurrentTotals, OfIntegersFailAtAPartialSumThatOnlyTheWholeRunHas) {
+  for (const size_t back : {size_t{79999}, size_t{74999}}) {
+    std::vector<mint> values(100000, 0);
+    values[100] = INT32_MAX;
+    values[50000] = 1;
+    values[back] = -INT32_MAX;
+    const Tensor vector = tensorOf<mint>({100000}, values), column = tensorOf<mint>({100000, 1}, values);
+    mint sum = 77;
+    EXPECT_EQ(NamedCall("TotalAll").tensor(cloneOf(vector.get())).integer(kIntegers).run(&sum), 1001);
+    EXPECT_EQ(sum, 77);
+    EXPECT_EQ(NamedCall("TotalAll").tensor(cloneOf(vector.get())).integer(kReals).run(&sum), 0);
+    EXPECT_EQ(sum, 1);
+    expectFails(NamedCall("Total").tensor(cloneOf(column.get())).integer(kIntegers), 1001);
+    expectExactly(NamedCall("Total").tensor(cloneOf(column.get())).integer(kReals), tensorOf<mint>({1}, {1}));
+  }
+}
+
+// And here the last piece alone would be out of range.
+TEST_F(ConcurrentTotals, OfIntegersFitWhereEveryPartialSumDoes) {
+  std::vector<mint> values(100000, 0);
+  values[0] = -INT32_MAX;
+  values[99998] = INT32_MAX;
+  values[99999] = INT32_MAX;
+  mint sum = 77;
+  EXPECT_EQ(NamedCall("TotalAll").tensor(tensorOf<mint>({100000}, values)).integer(kIntegers).run(&sum), 0);
+  EXPECT_EQ(sum, INT32_MAX);
+  expectExactly(NamedCall("Total").tensor(tensorOf<mint>({100000, 1}, values)).integer(kIntegers),
+                tensorOf<mint>({1}, {INT32_MAX}));
 }
 
 TEST_F(Totals, OfInfinitiesFailWhereTheyAreChecked) {

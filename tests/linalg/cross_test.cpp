@@ -148,6 +148,45 @@ TEST_F(Cross, LeavesThePartialResultInTheSlot) {
   EXPECT_EQ(usedBytesOfThisThread(), used);
 }
 
+// Which of the components is the first to fail shows in what has been stored.
+TEST_F(Cross, FailsAtInfinitiesOfTheDataWhereRealsAreChecked) {
+  const mreal infinity = std::numeric_limits<mreal>::infinity();
+  for (const mreal third : {1.0, 0.0}) // infinity * third is the first product, - infinity * 0 the last
+    for (const intptr_t flags : {0, 2, 4, 6}) {
+      MTensor *slot = nullptr;
+      EXPECT_EQ(cross<mreal>({0, infinity, 0}, {0, 0, third}).run(&slot, withFlags(flags)),
+                (flags & 2) != 0 ? 4 : 0)
+          << third << ", flags " << flags;
+      ASSERT_NE(slot, nullptr);
+      EXPECT_EQ(extentsOf(slot), Extents{3});
+      const mreal *stored = static_cast<mreal *>(slot->data);
+      EXPECT_TRUE(third == 1 ? stored[0] == infinity : std::isnan(stored[0]));
+      EXPECT_EQ(stored[1], 0);
+      if ((flags & 2) == 0) EXPECT_TRUE(std::isnan(stored[2]));
+      MTensor_delete(slot);
+    }
+}
+
+// Also where the memory that the slot holds, or gets, has held something else.
+TEST_F(Cross, LeavesZerosBehindTheFailure) {
+  for (const mint held : {0, 1, 2}) {
+    const Tensor reused = tensorOf<mint>({3}, {7, 7, 7});
+    NamedCall integers = cross<mint>({7, 65536, 7}, {7, 7, 65536}),
+              reals = cross<mreal>({7, 1e200, 7}, {7, 7, 1e200}),
+              complexes = cross<mcomplex>({{7, 7}, {1e200, 0}, {7, 7}}, {{7, 7}, {7, 7}, {1e200, 0}});
+    for (NamedCall *call : {&integers, &reals, &complexes}) {
+      { const Tensor freed = cloneOf(call->tensorAt(0)); }
+      MTensor *slot = held == 0 ? nullptr : held == 1 ? reused.get() : call->tensorAt(1);
+      const size_t width = elementWidth(call->tensorAt(0)->type);
+      ASSERT_EQ(call->run(&slot, withFlags(6)), 4);
+      ASSERT_NE(slot, nullptr);
+      const std::vector<char> zeros(2 * width, 0);
+      EXPECT_EQ(std::memcmp(static_cast<char *>(slot->data) + width, zeros.data(), 2 * width), 0) << held;
+      if (held == 0) MTensor_delete(slot);
+    }
+  }
+}
+
 TEST_F(Cross, FailsAtADifferenceToo) {
   MTensor *slot = nullptr;
   EXPECT_EQ(cross<mint>({0, 46340, 46340}, {0, -46340, 46340}).run(&slot, withFlags(4)), 4);

@@ -2,6 +2,7 @@
 #include "dot_models.h"
 
 #include "algorithms/registry.h"
+#include "parallel/four_workers.h"
 #include "runtime/memory.h"
 #include "support/child_process.h"
 #include "support/failing_heap.h"
@@ -223,6 +224,8 @@ const Scan kScans[] = {
     {"a vector by a small matrix", {2}, {2, 2}, false},
     {"a large matrix by a vector", {40, 40}, {40}, false},
     {"a vector by a large matrix", {40}, {40, 40}, false},
+    {"a higher rank by a vector, small", {2, 2, 2}, {2}, true},
+    {"a higher rank by a vector, large", {3, 40, 90}, {90}, false},
 };
 
 template <class T> void expectScans(T bad) {
@@ -256,6 +259,105 @@ TEST(Dot, ReportsASumThatOverflows) {
   MTensor *slot = nullptr;
   EXPECT_EQ(MTensorGeneralDot(&slot, a.get(), b.get(), 0), 1);
   EXPECT_EQ(slot, nullptr);
+}
+
+// ---- results and sums that the workers share --------------------------------------------------------
+
+class ConcurrentDots : public testing::Test {
+protected:
+  const FourWorkers workers;
+};
+
+void expectStatus(const Tensor &a, const Tensor &b, mint flags, bool fails, const char *what) {
+  MTensor *slot = nullptr;
+  EXPECT_EQ(MTensorGeneralDot(&slot, a.get(), b.get(), flags), fails ? 1 : 0) << what << ", flags " << flags;
+  EXPECT_EQ(slot == nullptr, fails) << what;
+  MTensor_delete(slot);
+  slot = nullptr;
+  EXPECT_EQ(callDot(&slot, a.get(), b.get(), flags), fails ? 4 : 0) << what << ", flags " << flags;
+  MTensor_delete(slot);
+}
+
+const Scan kSharedScans[] = {
+    {"two matrices", {200, 40}, {40, 200}, true},
+    {"higher ranks", {2, 20, 40}, {40, 1000}, false},
+};
+
+// At first a column of the result is bad, then one element of it, which may be in any worker's piece.
+template <class T> void expectSharedScans(T bad, T large) {
+  for (const Scan &scan : kSharedScans) {
+    const Tensor a = newTensor(typeOf<T>(), scan.left), b = newTensor(typeOf<T>(), scan.right);
+    MTensor_initialize(a.get(), 0);
+    MTensor_initialize(b.get(), 0);
+    const mint columns = scan.right[1], rows = a->elementCount / 40;
+    T *const last = elements<T>(b) + b->elementCount - 1;
+    for (const mint flags : {0, 2, 4}) {
+      expectStatus(a, b, flags, false, scan.what);
+      *last = bad; // times 0: a NaN
+      expectStatus(a, b, flags, scan.isAlways || flags == 2, scan.what);
+      *last = T{};
+    }
+    for (const mint row : {0, rows / 2, rows - 1})
+      for (const mint column : {0, columns - 1}) {
+        elements<T>(a)[row * 40] = elements<T>(b)[column] = large;
+        for (const mint flags : {0, 2}) expectStatus(a, b, flags, scan.isAlways || flags == 2, scan.what);
+        elements<T>(a)[row * 40] = elements<T>(b)[column] = T{};
+      }
+  }
+}
+
+TEST_F(ConcurrentDots, ReportInfinitiesAndNaNsByShapeAndFlag) {
+  expectSharedScans<mreal>(kInfinity, 1e300);
+  expectSharedScans<mcomplex>({0, kInfinity}, {1e300, 0});
+}
+
+constexpr mint kRowLength = 40000;
+
+int64_t exactDot(const mint *x, const mint *y, mint count) {
+  int64_t sum = 0;
+  for (mint k = 0; k < count; ++k) sum += int64_t{x[k]} * y[k];
+  return sum;
+}
+
+TEST_F(ConcurrentDots, OfIntegersAreExactOrWrap) {
+  Samples samples(16);
+  for (const mint bits : {7, 30}) {
+    const Tensor a = samples.tensor<mint>({2, kRowLength}, bits),
+                 b = samples.tensor<mint>({kRowLength}, bits);
+    std::vector<mint> expected;
+    for (const mint row : {0, 1})
+      expected.push_back(mint(exactDot(elements<mint>(a) + row * kRowLength, elements<mint>(b), kRowLength)));
+    for (const auto call : {MTensorGeneralDot, callDot})
+      for (const mint flags : {0, 4}) {
+        if (bits == 30 && flags == 4) continue;
+        MTensor *slot = nullptr;
+        ASSERT_EQ(call(&slot, a.get(), b.get(), flags), 0);
+        expectResult(slot, {2}, expected);
+        MTensor_delete(slot);
+      }
+  }
+}
+
+// Products in range and sums of every worker's piece too: it is the whole that is not.
+TEST_F(ConcurrentDots, OfIntegersFailWhereTheWholeIsOutOfRange) {
+  const Tensor a = newTensor(TORVANE_TYPE_INTEGER, {2, kRowLength}),
+               b = newTensor(TORVANE_TYPE_INTEGER, {kRowLength});
+  MTensor_initialize(a.get(), 0);
+  MTensor_initialize(b.get(), 1);
+  for (mint k = 0; k < kRowLength; k += kRowLength / 4) elements<mint>(a)[k] = 1 << 29;
+  const Tensor used = tensorOf<mint>({2}, {77, 78});
+  MTensor *slot = nullptr;
+  EXPECT_EQ(MTensorGeneralDot(&slot, a.get(), b.get(), 4), 1);
+  EXPECT_EQ(callDot(&slot, a.get(), b.get(), 4), 4);
+  EXPECT_EQ(slot, nullptr);
+  slot = used.get();
+  EXPECT_EQ(MTensorGeneralDot(&slot, a.get(), b.get(), 4), 1);
+  EXPECT_EQ(valuesOf<mint>(used), (std::vector<mint>{77, 78}));
+  ASSERT_EQ(MTensorGeneralDot(&slot, a.get(), b.get(), 2), 0);
+  EXPECT_EQ(valuesOf<mint>(used), (std::vector<mint>{INT32_MIN, 0}));
+  elements<mint>(a)[1] = -1; // 2^31 - 1
+  ASSERT_EQ(MTensorGeneralDot(&slot, a.get(), b.get(), 4), 0);
+  EXPECT_EQ(valuesOf<mint>(used), (std::vector<mint>{INT32_MAX, 0}));
 }
 
 // Every position of a result, so that no lane is left out.

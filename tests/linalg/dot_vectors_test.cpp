@@ -4,6 +4,7 @@
 #include "algorithms/registry.h"
 #include "linalg/dot.h"
 #include "linalg/plain_products.h"
+#include "parallel/four_workers.h"
 
 #include <torvane/linalg.h>
 
@@ -270,6 +271,80 @@ TEST(DotVV, GivesFourForAFailingSumAndKeepsTheResult) {
   EXPECT_EQ(callDotVV(&d, reals.get(), reals.get(), 4), 0);
   EXPECT_EQ(i, 0) << "wrapped";
   EXPECT_EQ(d, kInfinity);
+}
+
+// ---- sums that the workers share --------------------------------------------------------------------
+
+class ConcurrentVectorDots : public testing::Test {
+protected:
+  const FourWorkers workers;
+};
+
+constexpr mint kLong = 100000;
+constexpr mint kLongStrides[] = {1, 2, -1};
+
+int64_t exactDot(const std::vector<mint> &x, const std::vector<mint> &y) {
+  int64_t sum = 0;
+  for (size_t k = 0; k < x.size(); ++k) sum += int64_t{x[k]} * y[k];
+  return sum;
+}
+
+TEST_F(ConcurrentVectorDots, OfIntegersAreExactOrWrapAtEveryStride) {
+  Samples samples(9);
+  for (const mint bits : {7, 30}) { // of 30, many products are out of range
+    const auto x = samples.list<mint>(2 * kLong, bits), y = samples.list<mint>(2 * kLong, bits);
+    for (const mint incx : kLongStrides)
+      for (const mint incy : kLongStrides) {
+        const int64_t expected = exactDot(walked(x, incx, kLong), walked(y, incy, kLong));
+        mint dot = 77;
+        for (const mint flags : {0, 2}) {
+          ASSERT_EQ(VectorDot_I(&dot, x.data(), incx, y.data(), incy, kLong, flags), 0);
+          ASSERT_EQ(dot, mint(expected)) << bits << " bits at " << incx << ", " << incy;
+        }
+        dot = 77;
+        ASSERT_EQ(VectorDot_I(&dot, x.data(), incx, y.data(), incy, kLong, 4), mint(bits == 30));
+        ASSERT_EQ(dot, bits == 30 ? 77 : mint(expected));
+      }
+  }
+}
+
+TEST_F(ConcurrentVectorDots, OfTensorsAreExactOrWrap) {
+  Samples samples(10);
+  for (const mint bits : {7, 30}) {
+    const Tensor x = samples.tensor<mint>({kLong}, bits), y = samples.tensor<mint>({kLong}, bits);
+    const int64_t expected = exactDot(valuesOf<mint>(x), valuesOf<mint>(y));
+    mint dot = 77;
+    ASSERT_EQ(callDotVV(&dot, x.get(), y.get(), 2), 0);
+    EXPECT_EQ(dot, mint(expected));
+    dot = 77;
+    ASSERT_EQ(callDotVV(&dot, x.get(), y.get(), 4), bits == 30 ? 4 : 0);
+    EXPECT_EQ(dot, bits == 30 ? 77 : mint(expected));
+  }
+}
+
+// Products in range and sums of every worker's piece too: it is the whole that is not.
+TEST_F(ConcurrentVectorDots, OfIntegersFailWhereTheWholeIsOutOfRange) {
+  const std::vector<mint> y(2 * kLong, 1);
+  for (const mint stride : kLongStrides) {
+    const size_t step = stride == 2 ? 2 : 1;
+    std::vector<mint> x(2 * kLong, 0);
+    for (size_t k = 0; k < 4; ++k) x[k * 25000 * step] = 1 << 29;
+    mint dot = 77;
+    EXPECT_EQ(VectorDot_I(&dot, x.data(), stride, y.data(), 1, kLong, 4), 1) << stride;
+    EXPECT_EQ(dot, 77);
+    EXPECT_EQ(VectorDot_I(&dot, x.data(), stride, y.data(), 1, kLong, 0), 0) << stride;
+    EXPECT_EQ(dot, INT32_MIN);
+    x[step] = -1; // 2^31 - 1
+    EXPECT_EQ(VectorDot_I(&dot, x.data(), stride, y.data(), 1, kLong, 4), 0) << stride;
+    EXPECT_EQ(dot, INT32_MAX);
+  }
+  const Tensor a = newTensor(TORVANE_TYPE_INTEGER, {kLong}), ones = newTensor(TORVANE_TYPE_INTEGER, {kLong});
+  MTensor_initialize(a.get(), 0);
+  MTensor_initialize(ones.get(), 1);
+  for (mint k = 0; k < kLong; k += 25000) elements<mint>(a)[k] = 1 << 29;
+  mint dot = 77;
+  EXPECT_EQ(callDotVV(&dot, a.get(), ones.get(), 4), 4);
+  EXPECT_EQ(dot, 77);
 }
 
 } // namespace

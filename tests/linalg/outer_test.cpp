@@ -4,6 +4,7 @@
 
 #include "algorithms/registry.h"
 #include "linalg/outer.h"
+#include "parallel/four_workers.h"
 #include "runtime/failure.h"
 #include "runtime/memory.h"
 #include "support/failing_heap.h"
@@ -618,6 +619,69 @@ TEST(Outer, OfRealsGivesFourForAnOverflowUnderItsFlag) {
     EXPECT_EQ(static_cast<mreal *>(slot->data)[1], std::numeric_limits<mreal>::infinity());
     MTensor_delete(slot);
   }
+}
+
+TEST(Outer, OfComplexNumbersGivesFourForAnOverflowUnderItsFlag) {
+  struct Row {
+    Kind kind;
+    mcomplex x;
+  };
+  for (const Row &row : {Row{kTimes, {1e300, 0}}, Row{kPlus, {1e308, 0}}}) {
+    Call call;
+    for (int i = 0; i < 2; ++i) call.add(tensorOf<mcomplex>({1}, {row.x}), 1);
+    MTensor *slot = nullptr;
+    EXPECT_EQ(call.runByName(row.kind, &slot, 2), 4) << row.kind;
+    EXPECT_EQ(slot, nullptr);
+    ASSERT_EQ(call.runByName(row.kind, &slot, 4), 0) << row.kind;
+    EXPECT_EQ(static_cast<mcomplex *>(slot->data)->re, std::numeric_limits<mreal>::infinity());
+    MTensor_delete(slot);
+  }
+}
+
+TEST(Outer, OfBlocksOfRealsGivesFourForAnOverflowUnderItsFlag) {
+  Call call;
+  for (int i = 0; i < 2; ++i) call.add(tensorOf<mreal>({1, 2}, {1, 1e308}), 1);
+  MTensor *slot = nullptr;
+  EXPECT_EQ(call.runByName(kPlus, &slot, 2), 4);
+  EXPECT_EQ(slot, nullptr);
+  ASSERT_EQ(call.runByName(kPlus, &slot, 4), 0);
+  expectTensor<mreal>(slot, {1, 1, 2}, {2, std::numeric_limits<mreal>::infinity()});
+  MTensor_delete(slot);
+}
+
+// ---- rows that the workers share --------------------------------------------------------------------
+
+class ConcurrentOuter : public testing::Test {
+protected:
+  const FourWorkers workers;
+};
+
+TEST_F(ConcurrentOuter, OfLongVectorsIsItsModel) {
+  Samples samples(36);
+  for (const Kind kind : kKinds) {
+    Call integers, reals;
+    integers.add(samples.tensor<mint>({3}), 1).add(samples.tensor<mint>({50000}), 1);
+    reals.add(samples.tensor<mreal>({3}), 1).add(samples.tensor<mreal>({50000}), 1);
+    expectInEverySlot<mint>(integers, kind, 4);
+    expectInEverySlot<mreal>(reals, kind, 2);
+  }
+}
+
+TEST_F(ConcurrentOuter, GivesFourForAnOverflowInOneWorkersPiece) {
+  Call call;
+  call.add(tensorOf<mint>({3}, {0, 1, 2}), 1).add(newTensor(TORVANE_TYPE_INTEGER, {50000}), 1);
+  MTensor_initialize(call.tensors[1].get(), 5);
+  elements<mint>(call.tensors[1])[40000] = INT32_MAX - 1; // + 2, in the last row
+  const auto expected = modelValues<mint>(call, kPlus);
+  MTensor *slot = nullptr;
+  EXPECT_EQ(call.runByName(kPlus, &slot, 4), 4);
+  EXPECT_EQ(slot, nullptr);
+  ASSERT_EQ(call.runByName(kPlus, &slot, 2), 0);
+  expectTensor(slot, {3, 50000}, expected);
+  EXPECT_EQ(static_cast<mint *>(slot->data)[2 * 50000 + 40000], INT32_MIN);
+  elements<mint>(call.tensors[1])[40000] = INT32_MAX - 2;
+  EXPECT_EQ(call.runByName(kPlus, &slot, 4), 0);
+  MTensor_delete(slot);
 }
 
 // ---- memory -----------------------------------------------------------------------------------------
