@@ -2,7 +2,7 @@
  *
  * `destination` has room for `count` elements; a count below 1 draws nothing. Every draw consumes an exact
  * number of bits of the stream, in an order that docs/random.md tells, and takes no lock. Status 0; 11 where
- * the generator lacks the function, tested before anything else. */
+ * the generator lacks the function or the thread has no generator, tested before anything else. */
 #ifndef TORVANE_DISTRIBUTIONS_H
 #define TORVANE_DISTRIBUTIONS_H
 

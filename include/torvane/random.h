@@ -95,7 +95,8 @@ TORVANE_API RandomGenerator *RandomGenerator_copyGeneric(RandomGenerator *genera
 TORVANE_API void RandomGenerator_deleteGeneric(RandomGenerator *generator);
 
 /* A generator that reads from a buffer of `wordCount` words, empty at first, which `fill` fills. The caller
- * sets the buffer's source. Its getWords writes nothing and returns 11. */
+ * sets the buffer's source. Its getWords writes nothing and returns 11. With no words its bits are zeros, and
+ * it draws integers and reals with status 11. */
 TORVANE_API RandomGenerator *RandomBuffer_new(RandomFill fill, uint32_t wordCount);
 /* With a copy of the words and the cursor; the source is null, for the caller to set. */
 TORVANE_API RandomGenerator *RandomBuffer_copy(RandomGenerator *generator);
@@ -110,7 +111,8 @@ TORVANE_API void BufferData_delete(BufferData *data);
 TORVANE_API uint32_t BufferData_clear(BufferData *data);
 
 /* The calling thread's generator, ready to draw from: one that a snapshot holds is replaced by a clone first.
- * The library's. A thread without one gets the default method, seeded from the clock. */
+ * The library's. A thread without one gets the default method, seeded from the clock; null where that one
+ * refuses. */
 TORVANE_API RandomGenerator *Runtime_GetCurrentRandomGenerator(void);
 TORVANE_API RandomGetBits Runtime_RandomGenerator_getBitFunction(RandomGenerator *generator);
 

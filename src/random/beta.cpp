@@ -5,6 +5,7 @@
 // in one call for as many trials as values are missing, and the trials of a call end before the next call:
 // the sequence of the stream depends on that.
 #include "../tensor/scratch.h"
+#include "draw_source.h"
 #include "variates.h"
 #include <torvane/distributions.h>
 
@@ -90,16 +91,22 @@ mint tryPairs(const Trial &trial, const mreal *uniforms, mint pairs, mreal *valu
   return kSuccess;
 }
 
+// Of some parameters that make no distribution, (-50, 20) for one, not one trial in millions is accepted, if
+// any ever is. Those that make one are accepted far more often than once in ten trials, so that as many
+// rejections in a row tell them apart for sure.
+constexpr mint kHopelessTrials = 10000;
+
 template <class Trial> mint drawByTrials(const Trial &trial, mreal *values, mint count) {
-  RandomGenerator *generator = Runtime_GetCurrentRandomGenerator();
-  const RandomMReals draw = generator->functions->randomMReals;
-  if (draw == nullptr) return kNoFunction;
+  const RealSource source;
+  if (!source) return kNoFunction;
   Scratch<mreal> uniforms(2 * count);
-  mint status = uniforms.status();
+  mint status = uniforms.status(), rejected = 0;
   for (mint accepted; status == kSuccess && count > 0; values += accepted, count -= accepted) {
+    if (rejected >= kHopelessTrials) return kNotFinite;
     accepted = 0;
-    status = draw(uniforms.get(), 2 * count, 0, 1, generator);
+    status = source.draw<mreal>(uniforms.get(), 2 * count, 0, 1);
     if (status == kSuccess) status = tryPairs(trial, uniforms.get(), count, values, &accepted);
+    rejected = accepted == 0 ? rejected + count : 0;
   }
   return status;
 }

@@ -10,7 +10,10 @@ namespace torvane {
 
 namespace {
 
+// Zeros from a buffer of no words.
 uint32_t bufferedBits(mint bits, RandomGenerator *generator) {
+  if (bufferOf(generator)->data == nullptr) [[unlikely]]
+    return 0;
   return BitCursor(bufferOf(generator)).read(static_cast<uint32_t>(bits));
 }
 

@@ -71,11 +71,12 @@ mint drawSpan(RandomBuffer *buffer, mint *destination, mint count, const Integer
 } // namespace
 
 mint bufferedMIntegers(mint *destination, mint count, mint low, mint high, RandomGenerator *generator) {
+  auto *buffer = static_cast<RandomBuffer *>(generator->state);
+  if (buffer->data == nullptr) return kNoFunction;
   IntegerSpan span;
   if (const mint status = spanOf(low, high, &span)) return status;
   if (count < 1) return kSuccess;
-  if (span.range != 0)
-    return drawSpan(static_cast<RandomBuffer *>(generator->state), destination, count, span);
+  if (span.range != 0) return drawSpan(buffer, destination, count, span);
   std::fill_n(destination, count, low);
   return kSuccess;
 }

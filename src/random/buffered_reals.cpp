@@ -20,10 +20,11 @@ mreal takeOne(RandomBuffer *buffer, const RealInterval &interval) {
 // The bound c is not tested, so that an interval whose far end is out of range draws infinities. Callers rely
 // on the status of such bounds.
 mint bufferedMReals(mreal *destination, mint count, mreal low, mreal high, RandomGenerator *generator) {
+  auto *buffer = static_cast<RandomBuffer *>(generator->state);
+  if (buffer->data == nullptr) return kNoFunction;
   const RealInterval interval(low, high);
   if (!interval.hasFiniteWidth()) return kNotFinite;
   constexpr mint kFew = 3; // not worth the looking
-  auto *buffer = static_cast<RandomBuffer *>(generator->state);
   while (count > 0) {
     StandingReads reads = count > kFew ? standingFractions(buffer->data, count) : StandingReads{};
     if (reads.count > 0) {

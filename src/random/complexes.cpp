@@ -1,6 +1,7 @@
 // Uniform complex numbers of a box: all real parts, then all imaginary ones.
 #include "../runtime/memory.h"
 #include "../tensor/tensor.h"
+#include "draw_source.h"
 #include <torvane/distributions.h>
 
 using namespace torvane;
@@ -9,8 +10,6 @@ namespace {
 
 // No negative zero comes out.
 mreal withoutSignOfZero(mreal x) { return x == 0 ? 0.0 : x; }
-
-bool canDrawReals() { return Runtime_GetCurrentRandomGenerator()->functions->randomMReals != nullptr; }
 
 // Null for none, and where they cannot be had.
 mreal *newReals(mint count) {
@@ -24,7 +23,7 @@ mreal *newReals(mint count) {
 // costs and rely upon. Whoever draws in a loop draws many at a time.
 mint UniformRandomMComplexes(mcomplex *destination, mint count, mreal lowRe, mreal lowIm, mreal highRe,
                              mreal highIm) {
-  if (!canDrawReals()) return kNoFunction;
+  if (!RealSource()) return kNoFunction;
   mreal *const scratch = newReals(count);
   if (scratch == nullptr && count > 0) return kSizeFailed;
   mint status = UniformRandomMReals(scratch, count, lowRe, highRe);

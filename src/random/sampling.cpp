@@ -2,6 +2,7 @@
 
 #include "../tensor/scratch.h"
 #include "../runtime/failure.h"
+#include "draw_source.h"
 #include "position_set.h"
 #include "weight_tree.h"
 #include <torvane/distributions.h>
@@ -14,16 +15,10 @@ namespace {
 
 bool isLargeShare(mint count, mint length) { return count > length / 10; }
 
-// The generator with its integer draw.
-struct IntegerSource {
-  RandomGenerator *generator = Runtime_GetCurrentRandomGenerator();
-  RandomMIntegers function = generator->functions->randomMIntegers;
-
-  explicit operator bool() const { return function != nullptr; }
-  mint draw(mint *destination, mint count, mint low, mint high) const {
-    return function(destination, count, low, high, generator);
-  }
-};
+// Callers tell a generator without integers from no generator.
+mint statusWithoutDraw(const IntegerSource &source) {
+  return source.generator == nullptr ? mint{kNoFunction} : kNoIntegers;
+}
 
 mint *newNumbers(mint length) {
   const uint32_t bytes = checkedByteCount(sizeof(mint), length);
@@ -75,12 +70,12 @@ mint takeByWeights(mint *positions, mint count, const RunningSums &weights) {
 
 mint drawPositions(mint *positions, mint count, mint length) {
   const IntegerSource source;
-  return source ? source.draw(positions, count, 1, length) : kNoIntegers;
+  return source ? source.draw(positions, count, 1, length) : statusWithoutDraw(source);
 }
 
 mint samplePositions(mint *positions, mint count, mint length) {
   const IntegerSource source;
-  if (!source) return kNoIntegers;
+  if (!source) return statusWithoutDraw(source);
   if (isLargeShare(count, length)) return shuffleSome(source, positions, count, length);
   return drawUntilDistinct(positions, count,
                            [&](mint *place, mint missing) { return source.draw(place, missing, 1, length); });

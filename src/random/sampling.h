@@ -5,7 +5,8 @@
 
 namespace torvane {
 
-// With replacement, of 1 to length. kNoIntegers where the generator has no randomMIntegers.
+// With replacement, of 1 to length. kNoIntegers where the generator has no randomMIntegers, kNoFunction where
+// the thread has no generator.
 inline constexpr mint kNoIntegers = -1;
 mint drawPositions(mint *positions, mint count, mint length);
 

@@ -1,5 +1,6 @@
 // Uniform draws from the calling thread's generator, by its table of functions.
 #include "../runtime/types.h"
+#include "draw_source.h"
 #include <torvane/distributions.h>
 
 #include <algorithm>
@@ -7,18 +8,14 @@
 using namespace torvane;
 
 mint UniformRandomMIntegers(mint *destination, mint count, mint a, mint b) {
-  RandomGenerator *generator = Runtime_GetCurrentRandomGenerator();
-  const RandomMIntegers draw = generator->functions->randomMIntegers;
-  if (draw == nullptr) return kNoFunction;
-  return draw(destination, count, std::min(a, b), std::max(a, b), generator);
+  const IntegerSource source;
+  return source ? source.draw(destination, count, std::min(a, b), std::max(a, b)) : mint{kNoFunction};
 }
 
 // The bounds stay as given: from a, included, downwards where a is the larger one.
 mint UniformRandomMReals(mreal *destination, mint count, mreal a, mreal b) {
-  RandomGenerator *generator = Runtime_GetCurrentRandomGenerator();
-  const RandomMReals draw = generator->functions->randomMReals;
-  if (draw == nullptr) return kNoFunction;
-  return draw(destination, count, a, b, generator);
+  const RealSource source;
+  return source ? source.draw(destination, count, a, b) : mint{kNoFunction};
 }
 
 mint Runtime_UniformRandomMIntegers(mint *destination, mint count, mint a, mint b) {

@@ -216,6 +216,21 @@ TEST(BufferWithoutWords, CanBeSeededCopiedAndDeleted) {
   RandomBuffer_delete(generator);
 }
 
+TEST(BufferWithoutWords, GivesZeroBitsAndDrawsNothing) {
+  RandomGenerator *generator = RandomBuffer_new(countingFill, 0);
+  for (mint bits : {1, 19, 32}) EXPECT_EQ(drawBits(generator, bits), 0u);
+  for (mint count : {0, 1, 100}) {
+    std::vector<mint> integers(101, -7);
+    std::vector<mreal> reals(101, -7);
+    EXPECT_EQ(generator->functions->randomMIntegers(integers.data(), count, 0, 99, generator), 11);
+    EXPECT_EQ(generator->functions->randomMIntegers(integers.data(), count, 5, 5, generator), 11);
+    EXPECT_EQ(generator->functions->randomMReals(reals.data(), count, 0, 1, generator), 11);
+    EXPECT_EQ(integers, std::vector<mint>(101, -7));
+    EXPECT_EQ(reals, std::vector<mreal>(101, -7));
+  }
+  RandomBuffer_delete(generator);
+}
+
 TEST(BufferDataRecord, NewOneIsEmpty) {
   BufferData *data = BufferData_new(6);
   EXPECT_EQ(data->count, 6u);

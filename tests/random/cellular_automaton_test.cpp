@@ -163,6 +163,23 @@ TEST(ExtendedCABuffer, CloneGoesOnAtTheSameBitByItself) {
   CA5BufferState_free(generator);
 }
 
+TEST(ExtendedCABuffer, CloneOfAnotherShapeGoesOnAtTheSameBitForManyFills) {
+  for (Shape shape : {Shape{200, 5, 2}, Shape{53, 1, 0}, Shape{53, 3, 1}}) {
+    RandomGenerator *generator = CA5BufferState_alloc(&shape);
+    const uint32_t seed[] = {3, 4};
+    generator->seed(generator, seed, 2);
+    for (int i = 0; i < 50; ++i) drawBits(generator, 19);
+    EXPECT_NE(bufferOf(generator)->data->bitsLeft, 32u);
+    RandomGenerator *clone = CA5BufferState_clone(generator);
+    const int reads = 4 * 32 * mint(bufferOf(generator)->data->count) / 21;
+    std::vector<uint32_t> expected;
+    for (int i = 0; i < reads; ++i) expected.push_back(drawBits(generator, 21));
+    for (uint32_t bits : expected) ASSERT_EQ(drawBits(clone, 21), bits) << shape.width;
+    CA5BufferState_free(clone);
+    CA5BufferState_free(generator);
+  }
+}
+
 TEST(ExtendedCAParameters, OfWhichThereIsNoOutputAreRefused) {
   for (Shape shape :
        {Shape{80, 0, 0}, Shape{80, -1, 0}, Shape{80, 4, -1}, Shape{80, 4, 80}, Shape{80, 81, 0},

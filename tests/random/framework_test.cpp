@@ -11,6 +11,7 @@
 #include <torvane/startup.h>
 
 #include <cstdlib>
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -129,6 +130,39 @@ TEST_F(Framework, NegativeSeedCountTakesOneWordFromTheClock) {
   lastPlainKey = 0;
   selectMethod("A", words, 0);
   EXPECT_NE(lastPlainKey, 0u) << "words without a count";
+}
+
+std::vector<uint32_t> recordedSeed;
+mint recordSeed(RandomGenerator *, const uint32_t *words, mint count) {
+  recordedSeed.assign(words, words + count);
+  return 0;
+}
+RandomGenerator *allocRecording(void *parameters) {
+  RandomGenerator *generator = plainAlloc<0>(parameters);
+  generator->seed = recordSeed;
+  return generator;
+}
+
+TEST_F(Framework, SeedFromTheClockIsTheProcessorTimeOfTheProcess) {
+  RandomGeneratorMethod_add("A", allocRecording, plainClone<0>, plainFree<0>);
+  const auto before = static_cast<uint32_t>(std::clock());
+  selectMethod("A", nullptr, -1);
+  const auto after = static_cast<uint32_t>(std::clock());
+  ASSERT_EQ(recordedSeed.size(), 1u);
+  EXPECT_LE(before, recordedSeed[0]);
+  EXPECT_LE(recordedSeed[0], after);
+}
+
+// As published, and from the authors' initialisation by the array {0} alike.
+TEST_F(Framework, SeedsReachTheTwisterAsItsKeys) {
+  const uint32_t zero = 0;
+  EXPECT_EQ(Runtime_SeedRandom(&zero, 3), 0);
+  EXPECT_EQ(drawBits(32), 0x6DEE6E4Cu);
+  EXPECT_EQ(drawBits(32), 0x3BB91947u);
+  const uint32_t keys[] = {0x12345, 0, 0x23456, 0, 0x34567, 0, 0x45678, 0};
+  selectMethod("MersenneTwister", keys, 8);
+  const uint64_t high = drawBits(32);
+  EXPECT_EQ(high << 32 | drawBits(32), 7266447313870364031u);
 }
 
 TEST_F(Framework, NamesThatSeedByThemselves) {

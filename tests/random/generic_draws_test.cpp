@@ -1,12 +1,15 @@
 // Draws of a generator that has bits alone: values, and the reads that each makes.
 #include "words.h"
 
+#include "support/polling.h"
+
 #include <gtest/gtest.h>
 
 #include <bit>
 #include <cfloat>
 #include <cmath>
 
+using namespace torvane;
 using namespace torvane::test;
 
 namespace {
@@ -105,6 +108,38 @@ TEST_F(GenericDraws, RealBoundsWithoutALineAreRefusedWithoutARead) {
     EXPECT_EQ(value, -7);
   }
   EXPECT_TRUE(words.reads.empty());
+}
+
+TEST_F(GenericDraws, RealsStopAfterTheOneWhosePollAborts) {
+  const Polling polling(2);
+  std::vector<mreal> values(10, -7);
+  EXPECT_EQ(Generic_randomMReals(values.data(), 10, 0, 1, words.generator), 1000);
+  EXPECT_EQ(polling.polls(), 3u);
+  EXPECT_EQ(words.reads, (std::vector<mint>{32, 20, 32, 20, 32, 20}));
+  for (size_t k = 0; k < 3; ++k) {
+    const uint64_t high = model.read(32);
+    EXPECT_EQ(values[k], realOf(high << 20 | model.read(20), 0, 1));
+  }
+  EXPECT_EQ(std::vector<mreal>(values.begin() + 3, values.end()), std::vector<mreal>(7, -7));
+}
+
+TEST_F(GenericDraws, RealsWhosePollsPassAreAllDrawn) {
+  const Polling polling(INT64_MAX);
+  std::vector<mreal> values(10, -7);
+  EXPECT_EQ(Generic_randomMReals(values.data(), 10, 0, 1, words.generator), 0);
+  EXPECT_EQ(polling.polls(), 10u);
+  EXPECT_EQ(words.reads.size(), 20u);
+}
+
+// The poll has a switch of its own.
+TEST_F(GenericDraws, TheHostsAbortFlagAloneDoesNotStopReals) {
+  mint flag = 1;
+  setAbortWatch(&flag, [](const char *) { return mint{1}; });
+  EXPECT_NE(checkAbortWatch(), 0);
+  std::vector<mreal> values(10, -7);
+  EXPECT_EQ(Generic_randomMReals(values.data(), 10, 0, 1, words.generator), 0);
+  setAbortWatch(nullptr, nullptr);
+  for (const mreal value : values) EXPECT_NE(value, -7);
 }
 
 TEST_F(GenericDraws, WithoutBitsNothingElseIsLookedAt) {

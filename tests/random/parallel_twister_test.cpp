@@ -4,9 +4,11 @@
 
 #include "random/buffer.h"
 #include "random/stream_table.h"
+#include "support/child_process.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <set>
 #include <thread>
 #include <vector>
@@ -136,6 +138,18 @@ TEST(ParallelTwister, StateTellsItsParameters) {
   PMT32_free(generator);
 }
 
+// Before any other test of the program that asks for numbers.
+TEST(ParallelTwister, NumbersOfAProcessBeginAt0AndGoAround) {
+  const ChildOutcome child = runInChild([] {
+    EXPECT_EQ(PMT32_getNextIndex(), 0);
+    for (int i = 2; i < 1024; ++i) PMT32_getNextIndex();
+    EXPECT_EQ(PMT32_getNextIndex(), 1023);
+    EXPECT_EQ(PMT32_getNextIndex(), 0);
+    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+  });
+  EXPECT_EQ(child.status, 0) << child.output;
+}
+
 TEST(ParallelTwisterThreads, NumbersAreHandedOutOnceEachInTurn) {
   const mint first = PMT32_getNextIndex();
   std::vector<std::vector<mint>> taken(4);
@@ -151,6 +165,8 @@ TEST(ParallelTwisterThreads, NumbersAreHandedOutOnceEachInTurn) {
   EXPECT_EQ(*all.begin(), 0);
   EXPECT_EQ(*all.rbegin(), 1023);
   EXPECT_EQ(PMT32_getNextIndex(), (first + 1025) % 1024);
+  while (PMT32_getNextIndex() != 1023) { // as the test found them, if it is repeated
+  }
 }
 
 } // namespace

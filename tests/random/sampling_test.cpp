@@ -2,6 +2,7 @@
 #include "random/sampling.h"
 #include "scripted_draws.h"
 #include "runtime/memory.h"
+#include "support/polling.h"
 #include "support/tensor_builders.h"
 
 #include <gtest/gtest.h>
@@ -348,6 +349,107 @@ TEST_F(Sampling, FewWeightedPicksAreDrawnInRoundsOfWhatIsMissing) {
   EXPECT_EQ(sampleByWeights(picks.data(), 4, sums), 0);
   EXPECT_EQ(picks, (Picks{5, 7, 9, 30}));
   EXPECT_EQ(script.calls, (std::vector<Reals::Draw>{{4, 0, 10}, {2, 0, 10}, {1, 0, 10}, {1, 0, 10}}));
+}
+
+TEST_F(Sampling, AnAbortBeforeTheFirstRoundOfWeightedPicksDrawsNothing) {
+  Reals script({});
+  const Tensor tensor = weightsOf(std::vector<mreal>(40, 0.25));
+  const RunningSums sums(tensor.get());
+  Picks picks(4, -7);
+  const Polling polling(0);
+  EXPECT_EQ(sampleByWeights(picks.data(), 4, sums), 1000);
+  EXPECT_EQ(polling.polls(), 1u);
+  EXPECT_TRUE(script.calls.empty());
+  EXPECT_EQ(picks, Picks(4, -7));
+}
+
+TEST_F(Sampling, AnAbortBetweenRoundsOfWeightedPicksEndsThem) {
+  const auto real = [](mint position) { return (position - 0.5) / 40; };
+  Reals script({real(5), real(5), real(7), real(5)});
+  const Tensor tensor = weightsOf(std::vector<mreal>(40, 0.25));
+  const RunningSums sums(tensor.get());
+  Picks picks(4, -7);
+  const uint32_t used = usedBytesOfThisThread();
+  const Polling polling(1);
+  EXPECT_EQ(sampleByWeights(picks.data(), 4, sums), 1000);
+  EXPECT_EQ(script.calls, (std::vector<Reals::Draw>{{4, 0, 10}}));
+  EXPECT_EQ(usedBytesOfThisThread(), used);
+}
+
+// The reals come in one call, before any pick.
+TEST_F(Sampling, AnAbortBetweenPicksOfALargeWeightedSampleEndsThem) {
+  const Tensor tensor = weightsOf({1, 1, 1, 1});
+  const RunningSums sums(tensor.get());
+  for (const mint passes : {0, 2}) {
+    Reals script({0.1, 0.5, 0.5, 0.5});
+    Picks picks(4, -7);
+    const uint32_t used = usedBytesOfThisThread();
+    const Polling polling(passes);
+    EXPECT_EQ(sampleByWeights(picks.data(), 4, sums), 1000);
+    EXPECT_EQ(script.calls, (std::vector<Reals::Draw>{{4, 0, 1}}));
+    EXPECT_EQ(std::count(picks.begin(), picks.end(), -7), 4 - passes);
+    EXPECT_EQ(usedBytesOfThisThread(), used);
+  }
+}
+
+// Picks of a large sample by weights, from scripted reals.
+Picks largeSample(const std::vector<mreal> &weights, const std::vector<mreal> &reals) {
+  Reals script(reals);
+  Picks picks(reals.size());
+  EXPECT_EQ(sampleByWeights(picks.data(), mint(reals.size()), RunningSums(weightsOf(weights).get())), 0);
+  return picks;
+}
+
+// Of 1e16, 3 and 5 the running sums are 1e16, 1e16 + 4 and 1e16 + 8, so that both small ones weigh 4.
+TEST_F(Sampling, LargeWeightedSamplesWeighByDifferencesOfRunningSums) {
+  EXPECT_EQ(largeSample({1e16, 3, 5}, {0.5, 0.45, 0.5}), (Picks{1, 2, 3}));
+}
+
+TEST_F(Sampling, ARealThatEqualsTheLeftSumGoesLeft) {
+  EXPECT_EQ(largeSample({1, 1, 2}, {0.25}), Picks{1});
+  EXPECT_EQ(largeSample({1, 1, 2}, {std::nextafter(0.25, 1)}), Picks{2});
+}
+
+// The sum of a range, always that of its halves, and the pick by it.
+class HalvedRange {
+public:
+  explicit HalvedRange(const std::vector<mreal> &weights) {
+    mreal sum = 0, below;
+    for (const mreal weight : weights) below = sum, leaves.push_back((sum += weight) - below);
+  }
+  mint pick(mreal real) {
+    size_t first = 0, length = leaves.size();
+    for (mreal u = real * sumOf(0, length); length > 1;) {
+      const size_t half = length / 2;
+      const mreal left = sumOf(first, half);
+      const bool isLeft = left >= u;
+      if (!isLeft) u -= left, first += half;
+      length = isLeft ? half : length - half;
+    }
+    leaves[first] = 0;
+    return mint(first) + 1;
+  }
+
+private:
+  mreal sumOf(size_t first, size_t length) const {
+    if (length == 1) return leaves[first];
+    return sumOf(first, length / 2) + sumOf(first + length / 2, length - length / 2);
+  }
+  std::vector<mreal> leaves;
+};
+
+// Where a weight that drowned the others is taken away, what is left comes back in full.
+TEST_F(Sampling, SumsOfWhatIsLeftAreAddedUpAnew) {
+  const std::vector<mreal> weights = {0.1, 0.2, 0.3, 1e16};
+  for (mint i = 0; i < 50; ++i)
+    for (mint j = 0; j < 50; ++j) {
+      const std::vector<mreal> reals = {0.5, (i + 0.5) / 50, (j + 0.5) / 50, 0.5};
+      HalvedRange model(weights);
+      Picks expected;
+      for (const mreal real : reals) expected.push_back(model.pick(real));
+      EXPECT_EQ(expected[0], 4);
+      EXPECT_EQ(largeSample(weights, reals), expected);
+    }
 }
 
 TEST_F(Sampling, WeightsAreRefusedByTheirOwnStatus) {

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <utility>
@@ -218,6 +219,44 @@ TEST_F(Variates, BetaWithoutADistributionEndsAfterOneBatch) {
     EXPECT_EQ(drawBeta(drawn, 3, a, b), 1001) << a << ' ' << b;
     EXPECT_TRUE(words.isAt(6 * 52)) << a << ' ' << b;
   }
+}
+
+TEST_F(Variates, BetaOfWhichHardlyATrialIsAcceptedEnds) {
+  for (const auto &[a, b] : {std::pair{-50.0, 20.0}, {20.0, -50.0}, {-1e4, 200.0}})
+    for (const mint count : {1, 7, 100}) {
+      const BufferedWords words(40);
+      const CurrentGenerator current(words.generator);
+      std::vector<mreal> drawn(static_cast<size_t>(count));
+      EXPECT_EQ(drawBeta(drawn.data(), count, a, b), 1001) << a << ' ' << b;
+      const auto calls = uint64_t((10000 + count - 1) / count);
+      EXPECT_TRUE(words.isAt(calls * uint64_t(count) * 2 * 52)) << a << ' ' << b << ' ' << count;
+    }
+}
+
+// Uniforms that reject, but in the calls of these numbers, whose first trial is accepted.
+mint betaAccepting(std::vector<mint> acceptingCalls, mint count, mint *calls) {
+  *calls = 0;
+  ScriptedDraws script;
+  script.reals = [&](mreal *to, mint uniforms, mreal, mreal) {
+    for (mint k = 0; k < uniforms; k += 2) to[k] = 0.5, to[k + 1] = 1 - 0x1p-52;
+    const auto end = acceptingCalls.end();
+    if (std::find(acceptingCalls.begin(), end, ++*calls) != end) to[1] = 0x1p-52;
+    return 0;
+  };
+  std::vector<mreal> drawn(static_cast<size_t>(count));
+  return drawBeta(drawn.data(), count, 0.5, 2);
+}
+
+TEST_F(Variates, BetaEndsWith10000RejectionsInARow) {
+  mint calls;
+  EXPECT_EQ(betaAccepting({10000}, 1, &calls), 0);
+  EXPECT_EQ(calls, 10000);
+  EXPECT_EQ(betaAccepting({10001}, 1, &calls), 1001);
+  EXPECT_EQ(calls, 10000);
+  EXPECT_EQ(betaAccepting({3334}, 3, &calls), 1001) << "in the call that brings their number there";
+  EXPECT_EQ(calls, 3334 + 5000);
+  EXPECT_EQ(betaAccepting({5000, 14999}, 2, &calls), 0) << "a value begins the count anew";
+  EXPECT_EQ(calls, 14999);
 }
 
 TEST_F(Variates, OtherParametersAreNotLookedAt) {
