@@ -156,6 +156,47 @@ TEST(Conversions, DestinationsThatDoNotMatchGive1305AndStay) {
   EXPECT_EQ(valuesOf<float>(otherType.get()), (std::vector<float>(4, 7)));
 }
 
+// Extents that were reset say nothing about a payload: too small a destination, and too small a source.
+TEST(Conversions, DestinationsOfOtherExtentsThanElementsGive1305AndStay) {
+  for (const mint target : {5, 10}) { // a copy, and a conversion
+    const Array five = newArray(target, {5}), source = arrayOf<int32_t>(5, {1, 2, 3, 4, 5});
+    std::memset(five->data, 0, MNumericArray_byteCount(five.get()));
+    const Array small = resetTo(newArray(target, {2}), {5}), part = resetTo(arrayOf<int32_t>(5, {1, 2}), {5});
+    MNumericArray *slot = small.get();
+    EXPECT_EQ(MNumericArray_convert(&slot, source.get(), target, &kPlain), 1305);
+    slot = five.get();
+    EXPECT_EQ(MNumericArray_convert(&slot, part.get(), target, &kPlain), 1305);
+    EXPECT_EQ(*static_cast<char *>(five->data), 0);
+    MNumericArray *made = nullptr;
+    EXPECT_EQ(MNumericArray_convert(&made, part.get(), target, &kPlain), 403);
+    EXPECT_EQ(made, nullptr);
+  }
+}
+
+TEST(Conversions, OfRankZeroGoIntoRankZeroAndNowhereElse) {
+  const Array source = resetTo(arrayOf<int32_t>(5, {6}), {}), same = resetTo(arrayOf<int32_t>(5, {0}), {}),
+              real = resetTo(arrayOf<double>(10, {0}), {});
+  MNumericArray *slot = same.get(), *other = real.get(), *made = nullptr;
+  EXPECT_EQ(MNumericArray_convert(&slot, source.get(), 5, &kPlain), 0);
+  EXPECT_EQ(MNumericArray_convert(&other, source.get(), 10, &kPlain), 0);
+  EXPECT_EQ(valuesOf<int32_t>(same.get()).front(), 6);
+  EXPECT_EQ(valuesOf<double>(real.get()).front(), 6);
+  EXPECT_EQ(MNumericArray_convert(&made, source.get(), 5, &kPlain), 403);
+}
+
+TEST(Conversions, OfAShapeThatWasAdoptedMakeThatShape) {
+  const Array source = adoptedArray(10, {0, 5});
+  const ConversionMethod *const methods[] = {&kPlain, &kRounding};
+  for (const mint target : {10, 5})
+    for (const ConversionMethod *method : methods) {
+      MNumericArray *made = nullptr;
+      ASSERT_EQ(MNumericArray_convert(&made, source.get(), target, method), 0);
+      const Array owner(made);
+      EXPECT_EQ(extentsOf(made), (std::vector<mint>{0, 5}));
+      EXPECT_EQ(made->elementType, target);
+    }
+}
+
 TEST(Conversions, TagsThatAreNoneAreRefused) {
   const Array source = arrayOf<int32_t>(5, {1}), target = arrayOf<int32_t>(5, {6});
   for (const mint tag : {INT32_MIN, -1, 0, 13, INT32_MAX}) {
