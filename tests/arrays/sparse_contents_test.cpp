@@ -428,6 +428,23 @@ TEST_F(SparseBackground, MayTakeThePlaceOfItsArray) {
   EXPECT_EQ(backgroundOf<mreal>(slot), 2);
 }
 
+// It has an element by its count, and neither rows nor columns.
+TEST_F(SparseBackground, OfAnArrayOfRankZeroLeavesIt) {
+  const Sparse array(MSparseArray_newAllocated(0, nullptr, 1));
+  *static_cast<mreal *>(MSparseArray_allocValues(array.get(), TORVANE_TYPE_REAL)->data) = 0;
+  MSparseArray *slot = nullptr;
+  EXPECT_EQ(MSparseArray_dropDuplicates(array.get(), 1, &slot), 0);
+  EXPECT_EQ(slot, array.get());
+  slot = nullptr;
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), nullptr, &slot), 0);
+  EXPECT_EQ(slot, array.get());
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), scalarTensor<mreal>(0).get(), &slot), 0);
+  EXPECT_EQ(slot, array.get());
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), scalarTensor<mreal>(1).get(), &slot), -1);
+  EXPECT_EQ(slot, array.get());
+  EXPECT_EQ(MSparseArray_dropBackground(array.get()), array.get());
+}
+
 TEST_F(SparseBackground, OfNaNTakesNothing) {
   const Sparse array = realArray({kNaN, 1}, kNaN);
   MSparseArray *slot = nullptr;
