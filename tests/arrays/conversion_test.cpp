@@ -13,6 +13,7 @@
 #include <cfenv>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace torvane::test {
 
@@ -320,6 +321,14 @@ TEST_F(Aborts, TurnTheStatusInto1000WhenTheElementsAreDone) {
   EXPECT_EQ(usedBytesOfThisThread(), used);
 }
 
+TEST_F(Aborts, GoBeforeTheStatusOfAnElementThatFails) {
+  const Array source = arrayOf<double>(10, {1, 2, 2.5, 4}), target = arrayOf<int32_t>(5, {7, 7, 7, 7});
+  MNumericArray *slot = target.get();
+  EXPECT_EQ(MNumericArray_convert(&slot, source.get(), 5, &kExact), 1000);
+  EXPECT_EQ(slot, target.get());
+  EXPECT_EQ(valuesOf<int32_t>(target.get()), (std::vector<int32_t>{1, 2, 7, 7}));
+}
+
 TEST_F(Aborts, AreNotAskedForWhenNothingButACopyIsMade) {
   const Array source = arrayOf<int32_t>(5, {1, 2});
   MNumericArray *slot = nullptr;
@@ -359,6 +368,23 @@ TEST(ConvertByMethod, CheckIsExactAndTheOthersForgiveTheLastBit) {
   EXPECT_EQ(one<int32_t>(10, near, 5, 2), 3);
 }
 
+// An imaginary part of 2^-53 is below the bit that is forgiven. With Check none passes, though its second
+// number forgives a bit too.
+TEST(ConvertByMethod, OneBitForgivesAnImaginaryPartInAllMethodsButCheck) {
+  const mcomplex nearlyOne = {1, std::ldexp(1.0, -53)};
+  for (const mint number : {1, 2}) one<double>(12, nearlyOne, 10, number, 1305);
+  for (mint number = 3; number <= 8; ++number) EXPECT_EQ(one<double>(12, nearlyOne, 10, number), 1) << number;
+  EXPECT_EQ(one<int32_t>(12, nearlyOne, 5, 5), 1);
+  for (mint number = 3; number <= 8; ++number)
+    one<double>(12, mcomplex{1, std::ldexp(1.0, -51)}, 10, number, 1305);
+}
+
+TEST(ConvertByMethod, ScaleClipsARealByItsNumber) {
+  one<float>(10, 1e39, 9, 7, 1305);
+  EXPECT_EQ(one<float>(10, 1e39, 9, 8), std::numeric_limits<float>::max());
+  EXPECT_EQ(one<float>(10, -1e39, 9, 8), std::numeric_limits<float>::lowest());
+}
+
 TEST(ConvertWithTolerance, TestsItsArgumentsInOrder) {
   const Array source = arrayOf<double>(10, {2.5});
   MNumericArray *result = nullptr;
@@ -383,6 +409,40 @@ TEST(ConvertWithTolerance, CountsDecimalDigitsForEveryMethod) {
     result = nullptr;
     EXPECT_EQ(MNumericArray_convertWithTolerance(&result, source.get(), 5, number, 9), 6) << number;
   }
+}
+
+mint statusWithDigits(mcomplex z, mint methodNumber, mreal digits) {
+  const Array source = arrayOf<double>(12, {z.re, z.im});
+  MNumericArray *result = nullptr;
+  const mint status = MNumericArray_convertWithTolerance(&result, source.get(), 10, methodNumber, digits);
+  if (status == 0) {
+    EXPECT_EQ(valuesOf<double>(result), std::vector<double>{z.re});
+    MNumericArray_delete(result);
+  }
+  return status;
+}
+
+TEST(ConvertWithTolerance, ForgivesAnImaginaryPartByDigitsInAllMethodsButCheck) {
+  const mcomplex nearlyOne = {1, 1e-4};
+  for (mint number = 1; number <= 8; ++number) {
+    EXPECT_EQ(statusWithDigits(nearlyOne, number, 0), 6) << number;
+    EXPECT_EQ(statusWithDigits(nearlyOne, number, 12), number < 3 ? 6 : 0) << number;
+  }
+}
+
+// Too far apart for any tolerance below 53 bits, which the two numbers of digits lie about.
+TEST(ConvertWithTolerance, HasMoreThanThreeBitsInADigitByTheBinaryLogarithmOfTen) {
+  EXPECT_EQ(statusWithDigits({1, -0.75}, 3, 15.9546), 0);
+  EXPECT_EQ(statusWithDigits({1, -0.75}, 3, 15.9545), 6);
+}
+
+TEST(ConvertNew, ForgivesTheLastBit) {
+  const Array source = arrayOf<double>(10, {std::nextafter(3.0, 4.0)}),
+              farther = arrayOf<double>(10, {3 + std::ldexp(1.0, -49)});
+  const Array result(MNumericArray_convertNew(source.get(), 5, 0));
+  ASSERT_NE(result, nullptr);
+  EXPECT_EQ(valuesOf<int32_t>(result.get()), std::vector<int32_t>{3});
+  EXPECT_EQ(MNumericArray_convertNew(farther.get(), 5, 0), nullptr);
 }
 
 TEST(ConvertNew, ScalesAndClipsOrCoerces) {
