@@ -15,7 +15,7 @@ namespace torvane {
 
 namespace {
 
-// At rank 0 an array has no lines for whatever its count says, and so nothing to drop.
+// At rank 0 there are no lines, whatever the count says, and so nothing to drop.
 bool hasNoLines(const MSparseArray *array) { return array->elementCount == 0 || sparseRank(array) < 1; }
 
 // The numbers, from 1, of the entries that stay, ascending.
