@@ -45,7 +45,7 @@ typedef struct MSparseArray {
 /* The skeleton is another array's, and not counted. */
 enum { TORVANE_SPARSE_BORROWED = 2 };
 
-/* A new array without elements, a pattern whose extents are not set, the background integer 0. The caller
+/* A new array without elements, a pattern whose extents are all 0, the background integer 0. The caller
  * deletes it. */
 TORVANE_API MSparseArray *MSparseArray_new(mint rank);
 

@@ -2,8 +2,6 @@
 
 #include "../scalar/scalar_types.h"
 
-#include <algorithm>
-
 namespace torvane {
 
 namespace {
@@ -45,14 +43,13 @@ mint argumentFault(const MNumericArray *source, const MNumericArray *bounds,
 mint destinationFault(const MNumericArray *result, const MNumericArray *source) {
   if (result->elementType != source->elementType) return kBadElementType;
   if (result->rank != source->rank) return kRanksDiffer;
-  if (!std::equal(source->dimensions, source->dimensions + source->rank, result->dimensions))
-    return kSizesDiffer;
+  if (!haveOneShape(result, source)) return kSizesDiffer;
   return kSuccess;
 }
 
 mint prepareDestination(MNumericArray **result, const MNumericArray *source) {
   if (*result != nullptr) return destinationFault(*result, source);
-  *result = MNumericArray_newWithData(source->elementType, source->rank, source->dimensions, nullptr, 1);
+  *result = MNumericArray_newLike(source->elementType, source);
   return *result == nullptr ? mint{kSizeFailed} : mint{kSuccess};
 }
 

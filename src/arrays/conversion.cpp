@@ -10,8 +10,6 @@
 #include "conversion_loops.h"
 #include "method_names.h"
 
-#include <string.h>
-
 namespace torvane {
 
 namespace {
@@ -40,12 +38,6 @@ const ConversionLoop *loopsFrom(mint tag) {
 
 bool isCopy(mint from, mint to, mint method) {
   return from == to && (method != kRound || to < TORVANE_ELEMENT_REAL32);
-}
-
-// The count is not compared: it follows from the extents.
-bool hasShapeOf(const MNumericArray *array, const MNumericArray *other) {
-  return array->rank == other->rank &&
-         memcmp(array->dimensions, other->dimensions, static_cast<size_t>(array->rank) * sizeof(mint)) == 0;
 }
 
 mint copyInto(MNumericArray *result, const MNumericArray *source) {
@@ -79,7 +71,7 @@ mint convertIntoNew(MNumericArray **result, const MNumericArray *source, mint ta
     *result = MNumericArray_clone(source);
     return *result == nullptr ? mint{kSizeFailed} : mint{kSuccess};
   }
-  *result = MNumericArray_newWithData(target, source->rank, source->dimensions, nullptr, 1);
+  *result = MNumericArray_newLike(target, source);
   if (*result == nullptr) return kSizeFailed;
   const mint status = convertElements(*result, source, method);
   // The slot keeps the address of what was deleted. Callers rely on the status alone, and some on a slot that
@@ -90,7 +82,7 @@ mint convertIntoNew(MNumericArray **result, const MNumericArray *source, mint ta
 
 mint convertInto(MNumericArray *result, const MNumericArray *source, mint target,
                  const ConversionMethod *method) {
-  if (result->elementType != target || !hasShapeOf(result, source)) return kNoPass;
+  if (result->elementType != target || !haveOneShape(result, source)) return kNoPass;
   if (isCopy(source->elementType, target, method->method)) return copyInto(result, source);
   return convertElements(result, source, method);
 }

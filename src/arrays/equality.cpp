@@ -3,7 +3,6 @@
 #include "../scalar/scalar_types.h"
 #include "agreement.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace torvane {
@@ -69,10 +68,6 @@ constexpr Comparison kComparisons[][12] = {
             TORVANE_COMPARISONS(UnsignedInteger32) TORVANE_COMPARISONS(Integer64)
                 TORVANE_COMPARISONS(UnsignedInteger64) TORVANE_COMPARISONS(Real32) TORVANE_COMPARISONS(Real64)
                     TORVANE_COMPARISONS(ComplexReal32) TORVANE_COMPARISONS(ComplexReal64)};
-
-bool haveOneShape(const MNumericArray *a, const MNumericArray *b) {
-  return a->rank == b->rank && std::equal(a->dimensions, a->dimensions + a->rank, b->dimensions);
-}
 
 } // namespace
 

@@ -6,6 +6,7 @@
 #include "../runtime/memory.h"
 #include "../tensor/tensor.h"
 
+#include <algorithm>
 #include <string.h>
 
 namespace torvane {
@@ -61,6 +62,11 @@ MNumericArray *newAdopting(mint elementType, mint rank, mint *dimensions) {
   if (count == kCountOverflow || checkedByteCount(kElementWidths[elementType], count) == kByteOverflow)
     return nullptr;
   return newRecord(elementType, rank, dimensions, count);
+}
+
+// Whether the extents still are those of the elements.
+bool tellCount(const MNumericArray *array) {
+  return NumberOfElements_common(array->rank, array->dimensions, kReport) == array->elementCount;
 }
 
 bool isAligned(const void *data, mint elementType) {
@@ -120,9 +126,24 @@ MNumericArray *MNumericArray_newWithData(mint elementType, mint rank, const mint
   return nullptr;
 }
 
+bool haveOneShape(const MNumericArray *first, const MNumericArray *second) {
+  return first->rank == second->rank && first->elementCount == second->elementCount &&
+         std::equal(first->dimensions, first->dimensions + first->rank, second->dimensions);
+}
+
+// The block of extents is adopted, because the other array may have been made over extents that are not
+// looked at one by one, such as {0, 5}.
+MNumericArray *MNumericArray_newLike(mint elementType, const MNumericArray *other) {
+  if (other->rank < 1 || !tellCount(other)) return nullptr;
+  mint *block = copiedExtents(other->rank, other->dimensions);
+  if (block == nullptr) return nullptr;
+  MNumericArray *array = MNumericArray_newWithData(elementType, other->rank, block, nullptr, 0);
+  if (array == nullptr) torvane::free(block);
+  return array;
+}
+
 MNumericArray *MNumericArray_clone(const MNumericArray *array) {
-  MNumericArray *copy =
-      MNumericArray_newWithData(array->elementType, array->rank, array->dimensions, nullptr, 1);
+  MNumericArray *copy = MNumericArray_newLike(array->elementType, array);
   if (copy != nullptr) MNumericArray_copyElements(copy, 0, array, 0, array->elementCount);
   return copy;
 }

@@ -2,6 +2,9 @@
 //
 // Invariant: elementCount is the product of the extents, type and numericBound follow from elementType, and
 // data is non-null exactly when elementCount is above 0. Data and extents are blocks of their own.
+//
+// Extents that were reset may break the first of these: whoever walks two arrays side by side compares their
+// counts too, and no array is made in the shape of one whose extents do not tell its count.
 #pragma once
 
 #include "../runtime/types.h"
@@ -31,7 +34,14 @@ MNumericArray *MNumericArray_newWithData(mint elementType, mint rank, const mint
 // The same without payload, also where there are elements: for views, and for those who fill it in.
 MNumericArray *MNumericArray_newShaped(mint elementType, mint rank, const mint *dimensions);
 
-// A copy, refCount 1; null when memory is short.
+// Whether two arrays have the same extents and as many elements.
+bool haveOneShape(const MNumericArray *first, const MNumericArray *second);
+
+// A new array with the extents of another, its elements unset. Null when memory is short, the element type is
+// none, the rank is 0, or the extents were reset to another number of elements.
+MNumericArray *MNumericArray_newLike(mint elementType, const MNumericArray *other);
+
+// A copy, refCount 1; null as above.
 MNumericArray *MNumericArray_clone(const MNumericArray *array);
 
 // Frees record, extents and data, whatever the refCount. Null is ignored.

@@ -20,8 +20,10 @@ void extract(const MNumericArray *source, MNumericArray *result, mint selectorCo
               result->elementCount, selectorCount, specs, kExtract);
 }
 
+// The count is asked too: extents that were reset say nothing about the payload.
 bool hasShape(const MNumericArray *array, mint elementType, mint rank, const mint *dimensions) {
   return array != nullptr && array->elementType == elementType && array->rank == rank &&
+         array->elementCount == NumberOfElements_common(rank, dimensions, kReport) &&
          std::equal(dimensions, dimensions + rank, array->dimensions);
 }
 

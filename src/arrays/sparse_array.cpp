@@ -54,10 +54,12 @@ SparseArraySkeleton *newSkeleton(mint errorMode) {
   return nullptr;
 }
 
-// Room for two extents at least: what looks at rank 1 as at one row stores both.
+// Room for two extents at least: what looks at rank 1 as at one row stores both. They are 0, so that an array
+// whose extents nobody has stored can be copied.
 TensorProperty *newProperty(mint rank, mint errorMode) {
   TensorProperty *property = newTensorProperty(std::max(rank, 2), errorMode);
   if (property == nullptr) return nullptr;
+  std::fill_n(property->dimensions, std::max(rank, 2), 0);
   property->rank = rank;
   property->type = TORVANE_TYPE_PATTERN;
   return property;
@@ -72,6 +74,10 @@ MSparseArray *newEmpty(mint rank, mint errorMode) {
   if (array->property != nullptr) return array;
   MSparseArray_delete(array);
   return nullptr;
+}
+
+bool hasNegative(mint rank, const mint *dimensions) {
+  return std::any_of(dimensions, dimensions + std::max(rank, 0), [](mint extent) { return extent < 0; });
 }
 
 bool allocateRowPointers(MSparseArray *array, MTensor **slot, mint errorMode) {
@@ -141,6 +147,7 @@ void initializeSparseArrays(mint stage) {
 mreal sparseDefaultTolerance() { return defaultTolerance.load(std::memory_order_relaxed); }
 
 MSparseArray *newSparseArray(mint rank, const mint *dimensions, mint elementCount, mint errorMode) {
+  if (hasNegative(rank, dimensions)) return nullptr;
   MSparseArray *array = newEmpty(rank, errorMode);
   if (array == nullptr) return nullptr;
   std::copy_n(dimensions, std::max(rank, 0), array->property->dimensions);

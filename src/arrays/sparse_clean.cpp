@@ -15,6 +15,9 @@ namespace torvane {
 
 namespace {
 
+// At rank 0 there are no lines, whatever the count says, and so nothing to drop.
+bool hasNoLines(const MSparseArray *array) { return array->elementCount == 0 || sparseRank(array) < 1; }
+
 // The numbers, from 1, of the entries that stay, ascending.
 struct Kept {
   mint *entries, count;
@@ -136,7 +139,7 @@ mint rebuild(const MSparseArray *array, const MTensor *background, MSparseArray 
 
 mint MSparseArray_dropDuplicates(MSparseArray *array, mint withValues, MSparseArray **result) {
   *result = array;
-  if (array->elementCount == 0) return kSuccess;
+  if (hasNoLines(array)) return kSuccess;
   *result = nullptr;
   const ScratchBytes numbers(bytesOf(array->elementCount), kReport);
   mint distinct;
@@ -151,7 +154,7 @@ mint MSparseArray_dropDuplicates(MSparseArray *array, mint withValues, MSparseAr
 }
 
 MSparseArray *MSparseArray_dropBackground(MSparseArray *array) {
-  if (array->elementCount == 0) return array;
+  if (hasNoLines(array)) return array;
   const ScratchBytes entries(bytesOf(array->elementCount), kReport);
   if (!entries) return nullptr;
   const Kept kept = withElement(array->property->type, [&](auto element) {

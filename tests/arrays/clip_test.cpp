@@ -82,6 +82,43 @@ TEST(Clip, RefusesWhatDoesNotMatchAndWritesNothing) {
   EXPECT_EQ(valuesOf<float>(reals.get()), (std::vector<float>{1, 2, 3}));
 }
 
+// Extents that were reset say nothing about a payload: too small a destination, and too small a source.
+TEST(Clip, RefusesADestinationOfOtherExtentsThanElements) {
+  const Array bounds = arrayOf<int32_t>(5, {2, 2}), five = arrayOf<int32_t>(5, {1, 2, 3, 4, 5});
+  const Array small = resetTo(arrayOf<int32_t>(5, {7, 7}), {5});
+  MNumericArray *slot = small.get(), *made = nullptr;
+  EXPECT_EQ(MNumericArray_clip(&slot, five.get(), bounds.get(), bounds.get()), 1303);
+  slot = five.get();
+  EXPECT_EQ(MNumericArray_clip(&slot, small.get(), bounds.get(), bounds.get()), 1303);
+  EXPECT_EQ(MNumericArray_clip(&made, small.get(), bounds.get(), bounds.get()), 403);
+  EXPECT_EQ(made, nullptr);
+  EXPECT_EQ(valuesOf<int32_t>(small.get()), (std::vector<int32_t>{7, 7}));
+  EXPECT_EQ(valuesOf<int32_t>(five.get()), (std::vector<int32_t>{1, 2, 3, 4, 5}));
+}
+
+TEST(Clip, TakesBoundsThatAreTheWrongWayRoundAsTheyAre) {
+  const Array source = arrayOf<double>(10, {50, 5, 200}), bounds = arrayOf<double>(10, {100, 10}),
+              replacements = arrayOf<double>(10, {1, 2});
+  MNumericArray *result = nullptr;
+  ASSERT_EQ(MNumericArray_clip(&result, source.get(), bounds.get(), replacements.get()), 0);
+  const Array owner(result);
+  EXPECT_EQ(valuesOf<double>(result), (std::vector<double>{1, 1, 2}));
+}
+
+TEST(Clip, OfNoElementsIsANewArrayOfTheShape) {
+  const Array bounds = arrayOf<int32_t>(5, {2, 2}), empty = newArray(5, {3, 0}),
+              adopted = adoptedArray(5, {0, 5});
+  for (const Array *source : {&empty, &adopted}) {
+    MNumericArray *result = nullptr;
+    ASSERT_EQ(MNumericArray_clip(&result, source->get(), bounds.get(), bounds.get()), 0);
+    const Array owner(result);
+    EXPECT_NE(result, source->get());
+    EXPECT_EQ(extentsOf(result), extentsOf(source->get()));
+    EXPECT_EQ(result->elementType, 5);
+    EXPECT_EQ(result->elementCount, 0);
+  }
+}
+
 TEST(Clip, EveryFailedRequestGives403) {
   const Array source = newArray(7, {300000}), bounds = arrayOf<int64_t>(7, {0, 1});
   std::memset(source->data, 0, 300000 * 8);

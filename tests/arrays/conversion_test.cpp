@@ -13,6 +13,7 @@
 #include <cfenv>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace torvane::test {
 
@@ -156,6 +157,47 @@ TEST(Conversions, DestinationsThatDoNotMatchGive1305AndStay) {
   EXPECT_EQ(valuesOf<float>(otherType.get()), (std::vector<float>(4, 7)));
 }
 
+// Extents that were reset say nothing about a payload: too small a destination, and too small a source.
+TEST(Conversions, DestinationsOfOtherExtentsThanElementsGive1305AndStay) {
+  for (const mint target : {5, 10}) { // a copy, and a conversion
+    const Array five = newArray(target, {5}), source = arrayOf<int32_t>(5, {1, 2, 3, 4, 5});
+    std::memset(five->data, 0, MNumericArray_byteCount(five.get()));
+    const Array small = resetTo(newArray(target, {2}), {5}), part = resetTo(arrayOf<int32_t>(5, {1, 2}), {5});
+    MNumericArray *slot = small.get();
+    EXPECT_EQ(MNumericArray_convert(&slot, source.get(), target, &kPlain), 1305);
+    slot = five.get();
+    EXPECT_EQ(MNumericArray_convert(&slot, part.get(), target, &kPlain), 1305);
+    EXPECT_EQ(*static_cast<char *>(five->data), 0);
+    MNumericArray *made = nullptr;
+    EXPECT_EQ(MNumericArray_convert(&made, part.get(), target, &kPlain), 403);
+    EXPECT_EQ(made, nullptr);
+  }
+}
+
+TEST(Conversions, OfRankZeroGoIntoRankZeroAndNowhereElse) {
+  const Array source = resetTo(arrayOf<int32_t>(5, {6}), {}), same = resetTo(arrayOf<int32_t>(5, {0}), {}),
+              real = resetTo(arrayOf<double>(10, {0}), {});
+  MNumericArray *slot = same.get(), *other = real.get(), *made = nullptr;
+  EXPECT_EQ(MNumericArray_convert(&slot, source.get(), 5, &kPlain), 0);
+  EXPECT_EQ(MNumericArray_convert(&other, source.get(), 10, &kPlain), 0);
+  EXPECT_EQ(valuesOf<int32_t>(same.get()).front(), 6);
+  EXPECT_EQ(valuesOf<double>(real.get()).front(), 6);
+  EXPECT_EQ(MNumericArray_convert(&made, source.get(), 5, &kPlain), 403);
+}
+
+TEST(Conversions, OfAShapeThatWasAdoptedMakeThatShape) {
+  const Array source = adoptedArray(10, {0, 5});
+  const ConversionMethod *const methods[] = {&kPlain, &kRounding};
+  for (const mint target : {10, 5})
+    for (const ConversionMethod *method : methods) {
+      MNumericArray *made = nullptr;
+      ASSERT_EQ(MNumericArray_convert(&made, source.get(), target, method), 0);
+      const Array owner(made);
+      EXPECT_EQ(extentsOf(made), (std::vector<mint>{0, 5}));
+      EXPECT_EQ(made->elementType, target);
+    }
+}
+
 TEST(Conversions, TagsThatAreNoneAreRefused) {
   const Array source = arrayOf<int32_t>(5, {1}), target = arrayOf<int32_t>(5, {6});
   for (const mint tag : {INT32_MIN, -1, 0, 13, INT32_MAX}) {
@@ -279,6 +321,14 @@ TEST_F(Aborts, TurnTheStatusInto1000WhenTheElementsAreDone) {
   EXPECT_EQ(usedBytesOfThisThread(), used);
 }
 
+TEST_F(Aborts, GoBeforeTheStatusOfAnElementThatFails) {
+  const Array source = arrayOf<double>(10, {1, 2, 2.5, 4}), target = arrayOf<int32_t>(5, {7, 7, 7, 7});
+  MNumericArray *slot = target.get();
+  EXPECT_EQ(MNumericArray_convert(&slot, source.get(), 5, &kExact), 1000);
+  EXPECT_EQ(slot, target.get());
+  EXPECT_EQ(valuesOf<int32_t>(target.get()), (std::vector<int32_t>{1, 2, 7, 7}));
+}
+
 TEST_F(Aborts, AreNotAskedForWhenNothingButACopyIsMade) {
   const Array source = arrayOf<int32_t>(5, {1, 2});
   MNumericArray *slot = nullptr;
@@ -318,6 +368,23 @@ TEST(ConvertByMethod, CheckIsExactAndTheOthersForgiveTheLastBit) {
   EXPECT_EQ(one<int32_t>(10, near, 5, 2), 3);
 }
 
+// An imaginary part of 2^-53 is below the bit that is forgiven. With Check none passes, though its second
+// number forgives a bit too.
+TEST(ConvertByMethod, OneBitForgivesAnImaginaryPartInAllMethodsButCheck) {
+  const mcomplex nearlyOne = {1, std::ldexp(1.0, -53)};
+  for (const mint number : {1, 2}) one<double>(12, nearlyOne, 10, number, 1305);
+  for (mint number = 3; number <= 8; ++number) EXPECT_EQ(one<double>(12, nearlyOne, 10, number), 1) << number;
+  EXPECT_EQ(one<int32_t>(12, nearlyOne, 5, 5), 1);
+  for (mint number = 3; number <= 8; ++number)
+    one<double>(12, mcomplex{1, std::ldexp(1.0, -51)}, 10, number, 1305);
+}
+
+TEST(ConvertByMethod, ScaleClipsARealByItsNumber) {
+  one<float>(10, 1e39, 9, 7, 1305);
+  EXPECT_EQ(one<float>(10, 1e39, 9, 8), std::numeric_limits<float>::max());
+  EXPECT_EQ(one<float>(10, -1e39, 9, 8), std::numeric_limits<float>::lowest());
+}
+
 TEST(ConvertWithTolerance, TestsItsArgumentsInOrder) {
   const Array source = arrayOf<double>(10, {2.5});
   MNumericArray *result = nullptr;
@@ -342,6 +409,40 @@ TEST(ConvertWithTolerance, CountsDecimalDigitsForEveryMethod) {
     result = nullptr;
     EXPECT_EQ(MNumericArray_convertWithTolerance(&result, source.get(), 5, number, 9), 6) << number;
   }
+}
+
+mint statusWithDigits(mcomplex z, mint methodNumber, mreal digits) {
+  const Array source = arrayOf<double>(12, {z.re, z.im});
+  MNumericArray *result = nullptr;
+  const mint status = MNumericArray_convertWithTolerance(&result, source.get(), 10, methodNumber, digits);
+  if (status == 0) {
+    EXPECT_EQ(valuesOf<double>(result), std::vector<double>{z.re});
+    MNumericArray_delete(result);
+  }
+  return status;
+}
+
+TEST(ConvertWithTolerance, ForgivesAnImaginaryPartByDigitsInAllMethodsButCheck) {
+  const mcomplex nearlyOne = {1, 1e-4};
+  for (mint number = 1; number <= 8; ++number) {
+    EXPECT_EQ(statusWithDigits(nearlyOne, number, 0), 6) << number;
+    EXPECT_EQ(statusWithDigits(nearlyOne, number, 12), number < 3 ? 6 : 0) << number;
+  }
+}
+
+// Too far apart for any tolerance below 53 bits, which the two numbers of digits lie about.
+TEST(ConvertWithTolerance, HasMoreThanThreeBitsInADigitByTheBinaryLogarithmOfTen) {
+  EXPECT_EQ(statusWithDigits({1, -0.75}, 3, 15.9546), 0);
+  EXPECT_EQ(statusWithDigits({1, -0.75}, 3, 15.9545), 6);
+}
+
+TEST(ConvertNew, ForgivesTheLastBit) {
+  const Array source = arrayOf<double>(10, {std::nextafter(3.0, 4.0)}),
+              farther = arrayOf<double>(10, {3 + std::ldexp(1.0, -49)});
+  const Array result(MNumericArray_convertNew(source.get(), 5, 0));
+  ASSERT_NE(result, nullptr);
+  EXPECT_EQ(valuesOf<int32_t>(result.get()), std::vector<int32_t>{3});
+  EXPECT_EQ(MNumericArray_convertNew(farther.get(), 5, 0), nullptr);
 }
 
 TEST(ConvertNew, ScalesAndClipsOrCoerces) {

@@ -134,6 +134,14 @@ TEST_P(EqualityOf, EveryOtherTypeIsThatOfTheModel) {
 
 INSTANTIATE_TEST_SUITE_P(EveryTag, EqualityOf, testing::Range(mint{1}, mint{13}));
 
+// Extents that were reset say nothing about a payload.
+TEST(Equality, IsNotThereBetweenOtherNumbersOfElements) {
+  const Array three = arrayOf<int32_t>(5, {1, 2, 3}), two = resetTo(arrayOf<int32_t>(5, {1, 2}), {3});
+  EXPECT_EQ(MNumericArray_equal(0, 0, three.get(), two.get()), 0);
+  EXPECT_EQ(MNumericArray_equal(0, 0, two.get(), three.get()), 0);
+  EXPECT_EQ(MNumericArray_equal(0, 0, two.get(), two.get()), 1);
+}
+
 TEST(Equality, NegativeIntegersEqualNoUnsignedOne) {
   const Array minus = arrayOf<int32_t>(5, {-1}), all = arrayOf<uint32_t>(6, {0xFFFFFFFFu});
   const Array wide = arrayOf<uint64_t>(8, {~uint64_t{0}});

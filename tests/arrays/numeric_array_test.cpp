@@ -125,6 +125,32 @@ TEST(NumericArrays, CloneHasItsOwnBlocksAndTheSameBits) {
   EXPECT_EQ(copy->type, TORVANE_TYPE_REAL);
 }
 
+TEST(NumericArrays, CloneTakesAnyShapeThatThereIs) {
+  for (const std::vector<mint> &extents : std::vector<std::vector<mint>>{{0, 5}, {2, 0, 3}, {0}, {3, 0}}) {
+    const Array array = adoptedArray(10, extents);
+    ASSERT_NE(array, nullptr);
+    const Array copy(MNumericArray_clone(array.get()));
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(extentsOf(copy.get()), extents);
+    EXPECT_NE(copy->dimensions, array->dimensions);
+    EXPECT_EQ(copy->elementCount, 0);
+    EXPECT_EQ(copy->data, nullptr);
+  }
+}
+
+TEST(NumericArrays, CloneRefusesExtentsThatWereResetToAnotherCount) {
+  const uint32_t used = usedBytesOfThisThread();
+  for (const std::vector<mint> &extents : std::vector<std::vector<mint>>{{2}, {5, 3}, {65536, 65536}, {-1}})
+    EXPECT_EQ(MNumericArray_clone(resetTo(arrayOf<int16_t>(3, {1, 2, 3, 4}), extents).get()), nullptr);
+  const Array square(MNumericArray_clone(resetTo(arrayOf<int16_t>(3, {1, 2, 3, 4}), {2, 2}).get()));
+  ASSERT_NE(square, nullptr);
+  EXPECT_EQ(valuesOf<int16_t>(square.get()), (std::vector<int16_t>{1, 2, 3, 4}));
+  EXPECT_EQ(extentsOf(square.get()), (std::vector<mint>{2, 2}));
+  EXPECT_EQ(MNumericArray_clone(resetTo(arrayOf<int16_t>(3, {1, 2}), {}).get()), nullptr) << "rank 0";
+  EXPECT_EQ(usedBytesOfThisThread(), used + blockUsableBytes(square.get()) + blockUsableBytes(square->data) +
+                                         blockUsableBytes(square->dimensions));
+}
+
 TEST(NumericArrays, DeleteTakesNullAndNullIsTheNullArray) {
   MNumericArray_delete(nullptr);
   EXPECT_EQ(mnumericarray_null(), nullptr);

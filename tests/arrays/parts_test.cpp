@@ -138,6 +138,18 @@ TEST(PartOfAnArray, TakesTheResultArrayWhateverItHeld) {
   EXPECT_EQ(valuesOf(result), Values({1, 2, 3}));
 }
 
+TEST(PartOfAnArray, MakesAPayloadForAResultArrayWhoseExtentsWereReset) {
+  const Array source = bytes({2, 100}), result = bytes({3});
+  const mint hundred = 100;
+  ASSERT_EQ(MNumericArray_resetDimensions(result.get(), 1, &hundred), 0);
+  MNumericArray *slot = nullptr;
+  ASSERT_EQ((Selectors{position(1)}.get(result.get(), &slot, source.get(), 1)), 0);
+  EXPECT_EQ(slot, result.get());
+  EXPECT_EQ(slot->elementCount, 100);
+  EXPECT_EQ(valuesOf(slot).back(), 100);
+  EXPECT_GE(blockUsableBytes(slot->data), 100u);
+}
+
 TEST(PartOfAnArray, MayTakeThePlaceOfItsSource) {
   const Array source = bytes({2, 3});
   MNumericArray *slot = nullptr;

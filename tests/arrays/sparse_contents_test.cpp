@@ -428,6 +428,88 @@ TEST_F(SparseBackground, MayTakeThePlaceOfItsArray) {
   EXPECT_EQ(backgroundOf<mreal>(slot), 2);
 }
 
+TEST_F(SparseBackground, ThatEqualsTheOldOneKeepsIntegersAndComplexes) {
+  const mreal ulp = std::ldexp(1.0, -52);
+  const Tensor positions = matrixOf({{1, 1}, {1, 2}}, 2);
+  const Sparse integers = fromPositions(positions, vectorOf<mint>({1, 2}), nothing, scalarTensor<mint>(9));
+  const Sparse complexes =
+      fromPositions(positions, vectorOf<mcomplex>({{1, 0}, {3, 4}}), nothing, scalarTensor<mcomplex>({1, 2}));
+  MSparseArray *slot = MSparseArray_new(1); // a third array, which goes
+  EXPECT_EQ(MSparseArray_setBackground(integers.get(), scalarTensor<mint>(9).get(), &slot), 0);
+  EXPECT_EQ(slot, integers.get());
+  slot = MSparseArray_new(1);
+  const Tensor near = scalarTensor<mcomplex>({1 + 10 * ulp, 2 - 20 * ulp});
+  EXPECT_EQ(MSparseArray_setBackground(complexes.get(), near.get(), &slot), 0);
+  EXPECT_EQ(slot, complexes.get());
+  EXPECT_EQ(backgroundOf<mcomplex>(slot).re, 1);
+  EXPECT_EQ(backgroundOf<mcomplex>(slot).im, 2);
+}
+
+TEST_F(SparseBackground, ThatIsAnotherRebuildsInPlaceOfAThirdArray) {
+  const mreal ulp = std::ldexp(1.0, -52);
+  const Tensor positions = matrixOf({{1, 1}, {1, 2}}, 2);
+  const Sparse integers = fromPositions(positions, vectorOf<mint>({1, 2}), nothing, scalarTensor<mint>(9));
+  const Sparse complexes =
+      fromPositions(positions, vectorOf<mcomplex>({{1, 0}, {3, 4}}), nothing, scalarTensor<mcomplex>({1, 2}));
+  MSparseArray *slot = MSparseArray_new(1);
+  ASSERT_EQ(MSparseArray_setBackground(integers.get(), scalarTensor<mint>(2).get(), &slot), 0);
+  const Sparse first(slot);
+  EXPECT_NE(slot, integers.get());
+  EXPECT_EQ(sparseValuesOf<mint>(slot), Integers({1}));
+  EXPECT_EQ(backgroundOf<mint>(slot), 2);
+  slot = MSparseArray_new(1);
+  const Tensor far = scalarTensor<mcomplex>({1 + 200 * ulp, 2});
+  ASSERT_EQ(MSparseArray_setBackground(complexes.get(), far.get(), &slot), 0);
+  const Sparse second(slot);
+  EXPECT_NE(slot, complexes.get());
+  EXPECT_EQ(backgroundOf<mcomplex>(slot).re, 1 + 200 * ulp);
+  EXPECT_EQ(slot->elementCount, 2);
+}
+
+TEST_F(SparseBackground, OfZeroIsAnotherThanTheSmallestReal) {
+  const mreal tiny = std::numeric_limits<mreal>::denorm_min();
+  const Sparse array = fromPositions(matrixOf({{1, 1}, {1, 3}}, 2), vectorOf<mreal>({1, tiny}),
+                                     vectorOf<mint>({1, 3}), scalarTensor<mreal>(0));
+  MSparseArray *slot = nullptr;
+  ASSERT_EQ(MSparseArray_setBackground(array.get(), scalarTensor<mreal>(tiny).get(), &slot), 0);
+  const Sparse owned(slot);
+  EXPECT_NE(slot, array.get());
+  EXPECT_EQ(backgroundOf<mreal>(slot), tiny);
+  EXPECT_EQ(linesOf(slot), Lines({{1, 1}, {1, 2}}));
+  EXPECT_EQ(sparseValuesOf<mreal>(slot), Reals({1, 0}));
+}
+
+TEST_F(SparseBackground, ThatIsRefusedLeavesAThirdArrayInTheSlot) {
+  const Sparse array = realArray({1, 2}, 0), third(MSparseArray_new(1)),
+               pattern = fromPositions(matrixOf({{1, 1}}, 2), nothing, nothing, nothing);
+  const Sparse wide =
+      fromPositions(matrixOf({{1, 1}}, 2), vectorOf<mint>({1}), vectorOf<mint>({65536, 65536}), nothing);
+  MSparseArray *slot = third.get();
+  EXPECT_EQ(MSparseArray_setBackground(pattern.get(), nullptr, &slot), 1);
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), scalarTensor<mint>(0).get(), &slot), 1);
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), vectorOf<mreal>({0}).get(), &slot), 2);
+  EXPECT_EQ(MSparseArray_setBackground(wide.get(), scalarTensor<mint>(3).get(), &slot), 403);
+  EXPECT_EQ(slot, third.get());
+  EXPECT_EQ(third->property->rank, 1);
+}
+
+// It has an element by its count, and neither rows nor columns.
+TEST_F(SparseBackground, OfAnArrayOfRankZeroLeavesIt) {
+  const Sparse array(MSparseArray_newAllocated(0, nullptr, 1));
+  *static_cast<mreal *>(MSparseArray_allocValues(array.get(), TORVANE_TYPE_REAL)->data) = 0;
+  MSparseArray *slot = nullptr;
+  EXPECT_EQ(MSparseArray_dropDuplicates(array.get(), 1, &slot), 0);
+  EXPECT_EQ(slot, array.get());
+  slot = nullptr;
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), nullptr, &slot), 0);
+  EXPECT_EQ(slot, array.get());
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), scalarTensor<mreal>(0).get(), &slot), 0);
+  EXPECT_EQ(slot, array.get());
+  EXPECT_EQ(MSparseArray_setBackground(array.get(), scalarTensor<mreal>(1).get(), &slot), -1);
+  EXPECT_EQ(slot, array.get());
+  EXPECT_EQ(MSparseArray_dropBackground(array.get()), array.get());
+}
+
 TEST_F(SparseBackground, OfNaNTakesNothing) {
   const Sparse array = realArray({kNaN, 1}, kNaN);
   MSparseArray *slot = nullptr;

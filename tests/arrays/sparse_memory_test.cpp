@@ -72,6 +72,49 @@ TEST(SparseMemory, ThatRunsOutWhileCopyingLeavesAnEmptySlot) {
   });
 }
 
+TEST(SparseMemory, ThatRunsOutWhileCopyingTakesTheOldArrayWithIt) {
+  const Sparse array = largeArray(1);
+  FailingHeap heap;
+  const uint32_t before = usedBytesOfThisThread();
+  MSparseArray *slot =
+      MSparseArray_copy(fromPositions(matrixOf({{2, 1}}, 2), nothing, nothing, nothing).get());
+  ASSERT_GT(usedBytesOfThisThread(), before);
+  heap.failFrom(1);
+  EXPECT_EQ(MSparseArray_copyHandle(array.get(), &slot), -1);
+  EXPECT_TRUE(heap.failed());
+  heap.succeed();
+  EXPECT_EQ(slot, nullptr);
+  EXPECT_EQ(usedBytesOfThisThread(), before);
+}
+
+// Of the same background, where elements are dropped, and of another, where the array is made dense first.
+TEST(SparseMemory, ThatRunsOutForABackgroundLeavesAThirdArrayInTheSlot) {
+  const Sparse array = largeArray(1);
+  const Tensor five = scalarTensor<mreal>(5);
+  FailingHeap heap;
+  const uint32_t before = usedBytesOfThisThread();
+  for (const MTensor *background :
+       {static_cast<const MTensor *>(nullptr), static_cast<const MTensor *>(five.get())}) {
+    int64_t k = 0;
+    for (bool failed = true; failed;) {
+      MSparseArray *const third = MSparseArray_new(1);
+      MSparseArray *slot = third;
+      heap.failRequest(++k);
+      const mint status = MSparseArray_setBackground(array.get(), background, &slot);
+      failed = heap.failed();
+      heap.succeed();
+      if (failed)
+        EXPECT_TRUE(status == -1 || (status == 403 && background != nullptr)) << status;
+      else
+        EXPECT_EQ(status, 0);
+      EXPECT_EQ(slot == third, failed);
+      MSparseArray_delete(slot);
+      EXPECT_EQ(usedBytesOfThisThread(), before);
+    }
+    EXPECT_GE(k, 4);
+  }
+}
+
 // Lines are ordered by digits where there is room for it, else by merging: two requests fail and the call
 // does not.
 TEST(SparseMemory, ThatRunsOutWhileDroppingRepetitionsLeavesNothing) {

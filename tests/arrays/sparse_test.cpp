@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 
 using namespace torvane;
 using namespace torvane::test;
@@ -82,6 +83,14 @@ TEST_F(SparseArray, OfRankZeroHasNoIndexTensors) {
   const Sparse array(MSparseArray_newAllocated(0, nullptr, 0));
   EXPECT_EQ(array->skeleton->rowPointers, nullptr);
   EXPECT_EQ(array->rowPointerData, nullptr);
+}
+
+TEST_F(SparseArray, IsRefusedANegativeExtentWhereverItStands) {
+  const mint extents[] = {2, 3, -1};
+  EXPECT_EQ(newSparseArray(3, extents, 0, kReport), nullptr);
+  EXPECT_EQ(newSparseArray(1, extents + 2, 0, kReport), nullptr);
+  const Sparse array(newSparseArray(2, extents, 0, kReport));
+  EXPECT_NE(array, nullptr);
 }
 
 TEST_F(SparseArray, GivesIndexTensorsToAnySlots) {
@@ -190,8 +199,10 @@ TEST_F(SparseArray, TellsItsPropertiesToWhomeverAsks) {
 }
 
 TEST_F(SparseArray, EndsTheProcessForExtentsThatNothingHolds) {
-  const mint negative[] = {-2, 3}, widest[] = {INT32_MAX, 1};
-  EXPECT_EQ(runInChild([&] { MSparseArray_newAllocated(2, negative, 0); }).status, 1);
+  const mint negatives[][3] = {{-2, 3, 4}, {2, -3, 4}, {-1, 3, 4}, {2, 3, -4}}, widest[] = {INT32_MAX, 1};
+  for (const auto &negative : negatives)
+    EXPECT_EQ(runInChild([&] { MSparseArray_newAllocated(3, negative, 0); }).status, 1);
+  EXPECT_EQ(runInChild([&] { MSparseArray_newAllocated(1, negatives[2], 0); }).status, 1);
   EXPECT_EQ(runInChild([&] { MSparseArray_newAllocated(2, widest, 0); }).status, 1);
 }
 
@@ -354,6 +365,20 @@ TEST_F(SparseCopy, OfAPatternOfAnEmptyAndOfAScalarArray) {
   const Sparse scalar(MSparseArray_new(0));
   const Sparse scalarCopy(MSparseArray_copy(scalar.get()));
   EXPECT_EQ(scalarCopy->property->rank, 0);
+}
+
+TEST_F(SparseCopy, OfAnArrayWhoseExtentsNobodyHasStored) {
+  for (mint rank = 1; rank < 5; ++rank) {
+    void *dirt = allocate(uint32_t(4 * rank), 0, kFatal);
+    std::memset(dirt, 0x7F, size_t(4 * rank));
+    torvane::free(dirt); // the next extents are likely to stand here
+    const Sparse array(MSparseArray_new(rank));
+    EXPECT_EQ(extentsOf(array.get()), Extents(size_t(rank), 0));
+    const Sparse copy(MSparseArray_copy(array.get()));
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(extentsOf(copy.get()), Extents(size_t(rank), 0));
+    EXPECT_TRUE(isValidSparseArray(copy.get()));
+  }
 }
 
 TEST_F(SparseCopy, ByHandleReplacesTheTarget) {

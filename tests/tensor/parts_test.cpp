@@ -377,6 +377,53 @@ TEST(PartSpec, HoldsWhatTheCheckFoundOut) {
   EXPECT_EQ(specs[2].blockLength, 7 * 11);
 }
 
+TEST(PartSpec, OfAWholeDimensionAndAListHasCountAndStride) {
+  const Extents extents = {2, 3, 5};
+  PartSelectors records = Selectors{all(), list({2})}.records();
+  PartSpec *specs = records.get();
+  mint rank;
+  ASSERT_EQ(MTensor_checkPartSpecs(3, extents.data(), 2, specs, &rank, nullptr), 1);
+  EXPECT_EQ(rank, 3);
+  EXPECT_EQ(specs[0].count, 2);
+  EXPECT_EQ(specs[0].stride, 15);
+  EXPECT_EQ(specs[1].count, 1);
+  EXPECT_EQ(specs[1].stride, 5);
+}
+
+TEST(PartSpec, ThatNoCheckPassesCountsMinusOne) {
+  const Tensor reals = tensorOf<mreal>({1}, {1}), matrix = integers({1, 1});
+  MTensor *tensors[] = {reals.get(), matrix.get(), nullptr};
+  const Extents extents = {2};
+  const auto expectInvalid = [&](PartSelectors &&records) {
+    EXPECT_EQ(records.get()[0].count, -1);
+    mint rank = 0;
+    EXPECT_EQ(MTensor_checkPartSpecs(1, extents.data(), 1, records.get(), &rank, nullptr), 0);
+    EXPECT_EQ(rank, 0x7FFFFFFF);
+  };
+  for (MTensor *&tensor : tensors)
+    for (const mint kind : {TORVANE_PART_LIST, TORVANE_PART_SPAN}) {
+      void *const given = &tensor;
+      expectInvalid(PartSelectors(1, &kind, &given));
+    }
+  expectInvalid(Selectors{span({})}.records());
+  expectInvalid(Selectors{span({1, 2, 1, 0})}.records());
+  for (const mint kind : {-1, 4, 5, INT32_MAX}) expectInvalid(Selectors{unknown(kind)}.records());
+}
+
+TEST(PartSpec, OfAWholeDimensionIsNotLookedAt) {
+  const Tensor source = integers({3}), target = integers({3}), other = integers({1});
+  const mint kind = TORVANE_PART_ALL;
+  void *const wild = reinterpret_cast<void *>(uintptr_t{8});
+  MTensor *slot = nullptr;
+  ASSERT_EQ(MTensor_getParts(nullptr, &slot, source.get(), 1, 1, &kind, &wild), 0);
+  const Tensor part(slot);
+  EXPECT_EQ(valuesOf<mint>(part), Values({1, 2, 3}));
+  ASSERT_EQ(MTensor_getParts(target.get(), &slot, source.get(), 1, 1, &kind, &wild), 0);
+  EXPECT_EQ(slot, target.get());
+  ASSERT_EQ(MTensor_setParts(target.get(), other.get(), 1, 1, &kind, &wild), 0);
+  EXPECT_EQ(valuesOf<mint>(target), Values({1, 1, 1}));
+}
+
 // ---- one sub-tensor ----
 
 TEST(SelectedSubTensor, StandsAtAFlatPosition) {
@@ -393,6 +440,29 @@ TEST(SelectedSubTensor, StandsAtAFlatPosition) {
   ASSERT_EQ(MTensor_partSelectOne(&slot, slot, 1, 1), 0);
   const Tensor owned(slot);
   EXPECT_EQ(valuesOf<mint>(owned), Values({7, 8, 9, 10, 11, 12}));
+}
+
+TEST(SelectedSubTensor, IsOfTheTypeOfItsSourceAndMayBeEmpty) {
+  const Tensor complexes = tensorOf<mcomplex>({2, 2}, {{1, 2}, {3, 4}, {5, 6}, {7, 8}});
+  const Tensor rowsWithout = newTensor(TORVANE_TYPE_REAL, {3, 0});
+  MTensor *slot = nullptr;
+  ASSERT_EQ(MTensor_partSelectOne(&slot, complexes.get(), 1, 1), 0);
+  const Tensor row(slot);
+  EXPECT_EQ(slot->type, TORVANE_TYPE_COMPLEX);
+  EXPECT_EQ(extentsOf(slot), Extents({2}));
+  EXPECT_EQ(elements<mcomplex>(row)[0].re, 5);
+  EXPECT_EQ(elements<mcomplex>(row)[1].im, 8);
+  slot = nullptr;
+  ASSERT_EQ(MTensor_partSelectOne(&slot, complexes.get(), 2, 2), 0);
+  const Tensor one(slot);
+  EXPECT_EQ(slot->rank, 0);
+  EXPECT_EQ(elements<mcomplex>(one)[0].im, 6);
+  slot = nullptr;
+  ASSERT_EQ(MTensor_partSelectOne(&slot, rowsWithout.get(), 1, 2), 0);
+  const Tensor empty(slot);
+  EXPECT_EQ(slot->type, TORVANE_TYPE_REAL);
+  EXPECT_EQ(extentsOf(slot), Extents({0}));
+  EXPECT_TRUE(isValidTensor(slot));
 }
 
 TEST(SelectedSubTensor, ReportsMissingMemoryAsFive) {
@@ -425,6 +495,28 @@ TEST(PartMemory, ThatIsShortForTheResultIsAFailure) {
   });
   EXPECT_EQ(failures, 1);
   EXPECT_EQ(heap.blocksOut(), 0);
+}
+
+TEST(PartMemory, ThatIsShortForAReusedResultLeavesItsRecordAndTheSlot) {
+  const Tensor source = newTensor(TORVANE_TYPE_REAL, {2, 300000}), bystander = integers({2});
+  MTensor_initialize(source.get(), 6);
+  const uint32_t before = usedBytesOfThisThread();
+  Tensor result = integers({4});
+  const Selectors row{position(1)};
+  FailingHeap heap;
+  heap.failFrom(1);
+  MTensor *slot = bystander.get();
+  EXPECT_EQ(row.get(result.get(), &slot, source.get(), 1), 1);
+  EXPECT_TRUE(heap.failed());
+  heap.succeed();
+  EXPECT_EQ(slot, bystander.get());
+  ASSERT_EQ(row.get(result.get(), &slot, source.get(), 1), 0);
+  EXPECT_EQ(slot, result.get());
+  EXPECT_EQ(extentsOf(result), Extents({300000}));
+  EXPECT_EQ(elements<mreal>(result)[299999], 6);
+  EXPECT_TRUE(isValidTensor(slot));
+  result.reset();
+  EXPECT_EQ(usedBytesOfThisThread(), before);
 }
 
 TEST(PartMemory, ThatIsShortLeavesASourceThatWasToBeReplacedWhole) {
