@@ -145,7 +145,7 @@ TEST_F(ConcurrentReductions, CheckedDotProductsOfAFewElementsFailAsInOnePiece) {
   const mint most = std::numeric_limits<mint>::max();
   for (const mint threshold : {mint{1}, mint{8}, kNever}) {
     setThresholds(threshold);
-    for (const size_t count : {3, 4, 7, 8, 9, 12, 14, 33}) {
+    for (const size_t count : std::initializer_list<size_t>{3, 4, 7, 8, 9, 12, 14, 33}) {
       std::vector<mint> x(count, 0), y(count, 1);
       x[0] = most, x[1] = 1, x[2] = -1;
       mint dot = 7;
