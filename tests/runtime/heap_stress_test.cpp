@@ -17,10 +17,12 @@ namespace torvane::test {
 
 namespace {
 
-#if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__)
-constexpr int kWalkEvery = 64;
-#else
+#if !defined(NDEBUG)
 constexpr int kWalkEvery = 1;
+#elif defined(__SANITIZE_ADDRESS__)
+constexpr int kWalkEvery = 4;
+#else
+constexpr int kWalkEvery = 64;
 #endif
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(NDEBUG)
 constexpr int kOperations = 1200;
