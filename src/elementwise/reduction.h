@@ -326,15 +326,16 @@ private:
     return 0;
   }
 
-  // Either distance to a bound is negative where a product is out of range.
+  // Either distance to a bound is negative where a product is out of range; the sum may then have wrapped.
   static bool addProducts(ProductSum &sum, const Run<mint> &x, const Run<mint> &y) {
-    int64_t whole = 0, distances = 0;
+    auto whole = static_cast<uint64_t>(sum.value);
+    int64_t distances = 0;
     walkBoth(x, y, [&](mint a, mint b) {
       const int64_t product = int64_t{a} * b;
-      whole += product;
+      whole += static_cast<uint64_t>(product);
       distances |= (kMaximum<mint> - product) | (kMaximum<mint> + product);
     });
-    sum.value += whole;
+    sum.value = static_cast<int64_t>(whole);
     return distances >= 0;
   }
 

@@ -314,9 +314,9 @@ TEST_F(ConcurrentDots, ReportInfinitiesAndNaNsByShapeAndFlag) {
 constexpr mint kRowLength = 40000;
 
 int64_t exactDot(const mint *x, const mint *y, mint count) {
-  int64_t sum = 0;
-  for (mint k = 0; k < count; ++k) sum += int64_t{x[k]} * y[k];
-  return sum;
+  uint64_t sum = 0;
+  for (mint k = 0; k < count; ++k) sum += static_cast<uint64_t>(int64_t{x[k]} * y[k]);
+  return static_cast<int64_t>(sum);
 }
 
 TEST_F(ConcurrentDots, OfIntegersAreExactOrWrap) {

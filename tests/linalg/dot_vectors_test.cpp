@@ -284,9 +284,9 @@ constexpr mint kLong = 100000;
 constexpr mint kLongStrides[] = {1, 2, -1};
 
 int64_t exactDot(const std::vector<mint> &x, const std::vector<mint> &y) {
-  int64_t sum = 0;
-  for (size_t k = 0; k < x.size(); ++k) sum += int64_t{x[k]} * y[k];
-  return sum;
+  uint64_t sum = 0; // modulo 2^64, where products of 30 bits take it
+  for (size_t k = 0; k < x.size(); ++k) sum += static_cast<uint64_t>(int64_t{x[k]} * y[k]);
+  return static_cast<int64_t>(sum);
 }
 
 TEST_F(ConcurrentVectorDots, OfIntegersAreExactOrWrapAtEveryStride) {
