@@ -1,9 +1,8 @@
 // Differences and ratios against the definition, one element at a time; integers against exact ones.
 #include "exact_call.h"
 
-#include "runtime/failure.h"
 #include "support/exact_integer.h"
-#include "support/hook_recorder.h"
+#include "support/polling.h"
 
 #include <cmath>
 #include <limits>
@@ -17,24 +16,6 @@ namespace {
 constexpr mint kReals = 2, kIntegers = 4;
 
 class Neighbours : public NamedFunctions {};
-
-// While one lives, the poll asks, and is told to abort after so many passes.
-class Polling {
-public:
-  explicit Polling(int64_t passes) : before(setAbortPoll(1)) {
-    forgetHookCalls();
-    confirmAbortAfter(passes);
-  }
-  ~Polling() {
-    setAbortPoll(before);
-    confirmAbortAfter(0);
-  }
-  Polling(const Polling &) = delete;
-  Polling &operator=(const Polling &) = delete;
-
-private:
-  mint before;
-};
 
 // ---- model: a map from index to element, transformed level by level ---------------------------------
 

@@ -7,7 +7,7 @@
 #include "runtime/failure.h"
 #include "runtime/memory.h"
 #include "support/failing_heap.h"
-#include "support/hook_recorder.h"
+#include "support/polling.h"
 #include "support/tensor_builders.h"
 
 #include <cfenv>
@@ -297,16 +297,7 @@ INSTANTIATE_TEST_SUITE_P(Levels, ConversionsAt, testing::Range(mint{0}, levelsTo
 // ---- the abort poll ----
 
 class Aborts : public testing::Test {
-protected:
-  Aborts() : before(setAbortPoll(1)) {
-    forgetHookCalls();
-    confirmAbortAfter(0);
-  }
-  ~Aborts() override {
-    setAbortPoll(before);
-    confirmAbortAfter(0);
-  }
-  mint before;
+  const Polling polling{0};
 };
 
 TEST_F(Aborts, TurnTheStatusInto1000WhenTheElementsAreDone) {

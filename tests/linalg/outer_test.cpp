@@ -8,7 +8,7 @@
 #include "runtime/failure.h"
 #include "runtime/memory.h"
 #include "support/failing_heap.h"
-#include "support/hook_recorder.h"
+#include "support/polling.h"
 
 #include <gtest/gtest.h>
 
@@ -303,17 +303,7 @@ TEST(Outer, SumOfOneTensorInItsOwnSlotIsTheTensor) {
 // ---- polls ------------------------------------------------------------------------------------------
 
 class OuterPolls : public testing::Test {
-protected:
-  OuterPolls() {
-    forgetHookCalls();
-    confirmAbortAfter(INT64_MAX);
-    setAbortPoll(1);
-  }
-  ~OuterPolls() override {
-    setAbortPoll(0);
-    confirmAbortAfter(0);
-    forgetHookCalls();
-  }
+  const Polling polling{INT64_MAX};
 };
 
 struct Label {
