@@ -69,7 +69,7 @@ TEST_F(Library, ClusterKeepsNothing) {
   expectNothingKept(clusterEntry, {data + "/iris.csv", "3", path}, 0);
   expectNothingKept(clusterEntry, {file("a,b\n1,2\n1,2\n"), "2"}, 4);
   expectNothingKept(clusterEntry, {file("a,b\n1,2\n1\n"), "2"}, 4);
-  expectNothingKept(clusterEntry, {file("a\n1e200\n-1e200\n"), "2"}, 1);
+  expectNothingKept(clusterEntry, {file("a\n1e200\n-1e200\n"), "2"}, 1001);
 }
 
 TEST_F(Library, BallKeepsNothing) {
@@ -89,9 +89,6 @@ TEST_F(Library, ImageKeepsNothing) {
   expectNothingKept(imageEntry, {rings, path, "deep", "negative"}, 0);
   expectNothingKept(imageEntry, {rings, "no/such/folder/file"}, 4);
   expectNothingKept(imageEntry, {file("P5 2 2 255 ab"), path}, 4);
-  std::vector<std::string> words = {rings, path};
-  for (int i = 0; i < 110; ++i) words.insert(words.end(), {"gain", "1000"});
-  expectNothingKept(imageEntry, words, 1);
 }
 
 } // namespace
