@@ -43,11 +43,20 @@ protected:
   }
 
   // The first run leaves what the thread keeps, such as a generator.
-  void expectNothingKept(LibraryEntry entry, const std::vector<std::string> &words, mint status) {
+  void expectNothingKept(LibraryEntry entry, const std::vector<std::string> &words, mint status,
+                         uint32_t allowed = 0) {
     EXPECT_EQ(runQuietly(entry, words), status);
     const uint32_t before = torvane::usedBytesOfThisThread();
     EXPECT_EQ(runQuietly(entry, words), status);
-    EXPECT_EQ(torvane::usedBytesOfThisThread(), before);
+    EXPECT_EQ(torvane::usedBytesOfThisThread(), before + allowed);
+  }
+
+  // A random block leaves a cell behind when it ends, which is the runtime's custom and not a library's.
+  uint32_t bytesKeptByARandomBlock() {
+    const uint32_t before = torvane::usedBytesOfThisThread();
+    for (const char *name : {"BlockRandomBegin", "BlockRandomEnd"})
+      record->runtime->lookupRuntimeFunction(name)(record, 0, nullptr, nullptr);
+    return torvane::usedBytesOfThisThread() - before;
   }
 
   std::string file(const std::string &text) {
@@ -73,7 +82,7 @@ TEST_F(Library, ClusterKeepsNothing) {
 }
 
 TEST_F(Library, BallKeepsNothing) {
-  expectNothingKept(ballEntry, {"3", "10000"}, 0);
+  expectNothingKept(ballEntry, {"3", "10000"}, 0, bytesKeptByARandomBlock());
   expectNothingKept(ballEntry, {"3", "10"}, 4);
 }
 
