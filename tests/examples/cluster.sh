@@ -1,7 +1,6 @@
 #!/bin/bash
 # cluster.sh PROGRAM SOURCE CASE: runs one case of the library `cluster` in the host; exit status 0 when it holds.
 . "$(dirname "$0")/cases.sh"
-library=$(dirname "$program")/libraries/cluster.so
 
 # agrees FILE COUNT: the report and the file of rows are those that awk computes.
 agrees() {
@@ -9,14 +8,6 @@ agrees() {
   [ ! -s err ] || fail "stderr: $(cat err)"
   awk -v count="$2" -f "$here/cluster.awk" "$1" rows.csv out || { cat out; exit 1; }
 }
-
-# refused_with STATUS MESSAGE ARGUMENTS...: the message, then the host's own about the status.
-refused_with() {
-  local status=$1 message=$2
-  shift 2
-  refused 1 "$message${message:+$'\n'}host: $library: status $status" "$library" "$@"
-}
-bad='4: a value is out of range, or a kernel failed'
 
 case $case in
 the_flowers_fall_into_the_clusters_that_are_published)

@@ -1,7 +1,6 @@
 #!/bin/bash
 # pagerank.sh PROGRAM SOURCE CASE: runs one case of the library `pagerank` in the host; exit status 0 when it holds.
 . "$(dirname "$0")/cases.sh"
-library=$(dirname "$program")/libraries/pagerank.so
 links=$source/examples/data/documents.links
 
 # agrees FILE [DAMPING]: the scores are those that awk computes from the file with a dense matrix.
@@ -10,14 +9,6 @@ agrees() {
   [ ! -s err ] || fail "stderr: $(cat err)"
   awk -v damping="${2:-0.85}" -f "$here/pagerank.awk" "$1" out || fail "$(cat out)"
 }
-
-# refused_with STATUS MESSAGE ARGUMENTS...: the message, then the host's own about the status.
-refused_with() {
-  local status=$1 message=$2
-  shift 2
-  refused 1 "$message${message:+$'\n'}host: $library: status $status" "$library" "$@"
-}
-bad='4: a value is out of range, or a kernel failed'
 
 case $case in
 the_shipped_links_agree_with_a_dense_iteration) agrees "$links" && agrees "$links" 0.5 && agrees "$links" 0 && agrees "$links" 0.99 ;;
