@@ -76,12 +76,15 @@ struct Body {
 
   std::string binaryScalar(const Expression &e) {
     if (e.text == "and" || e.text == "or") return shortCircuit(e);
-    const std::string x = scalar(*e.operands[0]), y = scalar(*e.operands[1]);
+    const std::string x = scalar(*e.operands[0]), y = exponent(e, scalar(*e.operands[1]));
     if (binaryOperator(e.text) == 0) return comparison(e, x, y);
     return applied(e) + "(" + x + ", " + y + ")" + (needsWhole(e) ? ")" : "");
   }
 
   bool needsWhole(const Expression &e) const { return e.text == "^" && isWideInteger(e); }
+  std::string exponent(const Expression &e, const std::string &y) const {
+    return wide && isWholePower(e) ? "narrow(" + y + ")" : y;
+  }
 
   // The function of C for an operator on two numbers.
   std::string applied(const Expression &e) const {
@@ -91,10 +94,13 @@ struct Body {
     if (wide && e.text == "//") return "wholeQuotientOfReals";
     if (needsWhole(e)) return "whole(pow_r";
     std::string name = std::string(operatorOf(e).name) + suffixInC(e.operands[0]->type.element, wide);
-    const bool wholePower = e.text == "^" && e.operands[1]->type.element == kInteger;
-    if (wholePower && e.type.element == kReal) name = wide ? "pow_r" : "pow_ri";
-    if (wholePower && e.type.element == kComplex) name = wide ? "pow_cw" : "pow_ci";
+    if (isWholePower(e)) name += "i";
     return name;
+  }
+
+  // The power of a real or complex by an integer, which stays one in both forms.
+  static bool isWholePower(const Expression &e) {
+    return e.text == "^" && e.operands[1]->type.element == kInteger && e.operands[0]->type.element != kInteger;
   }
 
   std::string comparison(const Expression &e, const std::string &x, const std::string &y) const {
@@ -232,12 +238,18 @@ struct Body {
     return "scalar" + suffix(e) + "(" + scalar(e) + ", " + std::to_string(side) + ")";
   }
 
+  std::string wholeExponent(const Expression &e) {
+    if (e.type.isTensor()) return fill("narrowTensor", tensor(e));
+    return "scalar_i(narrow(" + scalar(e) + "), 1)";
+  }
+
   std::string unaryTensor(const Expression &e, int op, const std::string &type) {
     return fill("unaryTensor", tensor(*e.operands[0]) + ", " + std::to_string(op) + ", " + type);
   }
 
   std::string binaryTensor(const Expression &e) {
-    const std::string x = operand(*e.operands[0], 0), y = operand(*e.operands[1], 1);
+    const std::string x = operand(*e.operands[0], 0);
+    const std::string y = wide && isWholePower(e) ? wholeExponent(*e.operands[1]) : operand(*e.operands[1], 1);
     const bool integers = e.operands[0]->type.element == kInteger && e.operands[1]->type.element == kInteger;
     if (wide && integers && e.text == "%") return fill("wholeModTensor", x + ", " + y);
     if (wide && integers && e.text == "//") return fill("wholeQuotientTensor", x + ", " + y);
@@ -506,22 +518,27 @@ struct Body {
 
   // Everything is computed before anything is printed.
   void print(const Statement &s, bool fails) {
-    std::vector<std::string> texts;
-    for (const auto &e : s.expressions) texts.push_back(printed(*e));
+    std::vector<std::string> calls;
+    for (const auto &e : s.expressions) calls.push_back(e->type.element == kText ? "" : printed(*e));
     if (fails) look();
-    for (size_t i = 0; i < texts.size(); ++i) {
-      if (i > 0) line("printText(\" \");");
-      line(texts[i]);
+    std::string text; // what is known before the next call
+    for (size_t i = 0; i < calls.size(); ++i) {
+      if (i > 0) text += ' ';
+      if (calls[i].empty()) text += s.expressions[i]->text;
+      else {
+        if (!text.empty()) line("printText(" + quotedInC(std::exchange(text, {})) + ");");
+        line(calls[i]);
+      }
     }
-    line("printText(\"\\n\");");
+    line("printText(" + quotedInC(text + "\n") + ");");
   }
 
   std::string printed(const Expression &e) {
-    if (e.type.element == kText) return "printText(" + quotedInC(e.text) + ");";
     const std::string isWhole = isWideInteger(e) ? "true" : "false";
     if (e.type.isTensor()) return "printTensor(" + tensor(e) + ", " + isWhole + ");";
     std::string value = scalar(e);
-    if (!cannotFail(e)) {
+    const bool isKept = e.callee == Callee::User || e.callee == Callee::Named;
+    if (!isKept && !cannotFail(e)) {
       const std::string kept = newValue();
       line("const " + typeInC(e.type.element, wide) + " " + kept + " = " + value + ";");
       value = kept;

@@ -36,14 +36,15 @@ static struct Program {
   size_t length;
 } program;
 
-static inline void at(int line, int column) {
-  program.line = line;
-  program.column = column;
-}
-
 /* Failures. */
 
 static inline bool failed(void) { return RTL_exceptionActive != 0; }
+
+static inline void at(int line, int column) {
+  if (failed()) return; /* where it failed is where it is */
+  program.line = line;
+  program.column = column;
+}
 
 static inline void failWith(mint status, const char *what) {
   if (failed()) return;
@@ -153,7 +154,6 @@ static inline mreal whole(mreal x) { /* an integer power that is no integer */
   return x;
 }
 static inline mreal wholeQuotientOfReals(mreal x, mreal y) { return floor(divide_r(x, y)); }
-static inline mcomplex pow_cw(mcomplex x, mreal y) { return pow_c(x, (mcomplex){y, 0}); }
 static inline mreal wholeRound(mreal x) { return rint(x); }
 static inline mreal wholeFloor(mreal x) { return floor(x); }
 static inline mreal wholeCeiling(mreal x) { return ceil(x); }
@@ -399,7 +399,7 @@ static inline mint attempt(void *closure) {
 }
 
 static inline void note(const char *what) {
-  fprintf(stderr, "%s:%d:%d: note: integers overflow; %s runs again over reals\n", program.file, program.line,
+  fprintf(stderr, "%s:%d:%d: note: integers do not suffice; %s runs again over reals\n", program.file, program.line,
           program.column, what);
 }
 

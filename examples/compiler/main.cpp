@@ -58,9 +58,8 @@ Job jobOf(const Words &words) {
 
 std::string contents(const fs::path &path) {
   std::ifstream file(path, std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), {}};
   if (!file.is_open() || fs::is_directory(path)) throw Refusal{"torvanec: cannot read " + path.string()};
-  return text;
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void write(const fs::path &path, const std::string &text) {

@@ -39,6 +39,7 @@ std::string quotedInC(std::string_view text) {
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
     if (c == '"' || c == '\\' || c == '?') made += {'\\', c};
+    else if (c == '\n') made += "\\n";
     else if (byte >= 32 && byte < 127) made += c;
     else
       for (const char digit : {'\\', static_cast<char>('0' + (byte >> 6)), static_cast<char>('0' + (byte >> 3 & 7)),
