@@ -41,7 +41,9 @@ struct Body {
   int indent = 1, slots = 0, values = 0;
   std::vector<std::string> owned; // slots of the whole body
 
-  void line(const std::string &text) { code += std::string(static_cast<size_t>(indent) * 2, ' ') + text + "\n"; }
+  void line(const std::string &text) {
+    code += std::string(static_cast<size_t>(indent) * 2, ' ') + text + "\n";
+  }
   void look() { line("if (failed())" + returnFrom(function, wide)); }
   void place(Position position) {
     line("at(" + std::to_string(position.line) + ", " + std::to_string(position.column) + ");");
@@ -61,16 +63,25 @@ struct Body {
 
   std::string scalar(const Expression &e) {
     switch (e.kind) {
-    case ExpressionKind::Number: return isWideInteger(e) ? e.text + ".0" : e.text;
-    case ExpressionKind::Imaginary: return "(mcomplex){0, " + e.text + "}";
-    case ExpressionKind::Variable: return nameInC(*e.variable);
+    case ExpressionKind::Number:
+      return isWideInteger(e) ? e.text + ".0" : e.text;
+    case ExpressionKind::Imaginary:
+      return "(mcomplex){0, " + e.text + "}";
+    case ExpressionKind::Variable:
+      return nameInC(*e.variable);
     case ExpressionKind::Unary:
-      return e.text == "not" ? "!" + scalar(*e.operands[0]) : "minus" + suffix(e) + "(" + scalar(*e.operands[0]) + ")";
-    case ExpressionKind::Binary: return binaryScalar(e);
-    case ExpressionKind::Index: return element(e);
-    case ExpressionKind::Call: return callScalar(e);
-    case ExpressionKind::Convert: return convertScalar(e);
-    default: return quotedInC(e.text);
+      return e.text == "not" ? "!" + scalar(*e.operands[0])
+                             : "minus" + suffix(e) + "(" + scalar(*e.operands[0]) + ")";
+    case ExpressionKind::Binary:
+      return binaryScalar(e);
+    case ExpressionKind::Index:
+      return element(e);
+    case ExpressionKind::Call:
+      return callScalar(e);
+    case ExpressionKind::Convert:
+      return convertScalar(e);
+    default:
+      return quotedInC(e.text);
     }
   }
 
@@ -100,7 +111,8 @@ struct Body {
 
   // The power of a real or complex by an integer, which stays one in both forms.
   static bool isWholePower(const Expression &e) {
-    return e.text == "^" && e.operands[1]->type.element == kInteger && e.operands[0]->type.element != kInteger;
+    return e.text == "^" && e.operands[1]->type.element == kInteger &&
+           e.operands[0]->type.element != kInteger;
   }
 
   std::string comparison(const Expression &e, const std::string &x, const std::string &y) const {
@@ -135,7 +147,8 @@ struct Body {
     return wide ? "position(" + value + ")" : value;
   }
 
-  std::vector<std::string> positions(const std::vector<ExpressionPointer> &expressions, size_t from, size_t end) {
+  std::vector<std::string> positions(const std::vector<ExpressionPointer> &expressions, size_t from,
+                                     size_t end) {
     std::vector<std::string> made;
     for (size_t i = from; i < end; ++i) made.push_back(position(*expressions[i]));
     return made;
@@ -165,9 +178,12 @@ struct Body {
       place(e.position);
       return value;
     }
-    case Callee::Elementwise: return elementwiseScalar(e);
-    case Callee::Named: return named(e);
-    default: return builtinScalar(e);
+    case Callee::Elementwise:
+      return elementwiseScalar(e);
+    case Callee::Named:
+      return named(e);
+    default:
+      return builtinScalar(e);
     }
   }
 
@@ -198,18 +214,26 @@ struct Body {
 
   std::string tensor(const Expression &e) {
     switch (e.kind) {
-    case ExpressionKind::Variable: return nameInC(*e.variable);
-    case ExpressionKind::Literal: return literal(e);
-    case ExpressionKind::Unary: return unaryTensor(e, 43, typeNumber(e));
-    case ExpressionKind::Binary: return binaryTensor(e);
-    case ExpressionKind::Index: return part(e);
-    case ExpressionKind::Call: return callTensor(e);
-    default: return convertTensor(e);
+    case ExpressionKind::Variable:
+      return nameInC(*e.variable);
+    case ExpressionKind::Literal:
+      return literal(e);
+    case ExpressionKind::Unary:
+      return unaryTensor(e, 43, typeNumber(e));
+    case ExpressionKind::Binary:
+      return binaryTensor(e);
+    case ExpressionKind::Index:
+      return part(e);
+    case ExpressionKind::Call:
+      return callTensor(e);
+    default:
+      return convertTensor(e);
     }
   }
 
   bool isBorrowed(const Expression &e) const {
-    if (e.kind == ExpressionKind::Convert) return formOf(e) == formOf(*e.operands[0]) && isBorrowed(*e.operands[0]);
+    if (e.kind == ExpressionKind::Convert)
+      return formOf(e) == formOf(*e.operands[0]) && isBorrowed(*e.operands[0]);
     const bool passes = e.kind == ExpressionKind::Call && e.callee == Callee::Builtin &&
                         (e.text == "real" || e.text == "complex");
     return e.kind == ExpressionKind::Variable || (passes && isBorrowed(*e.operands[0]));
@@ -228,8 +252,8 @@ struct Body {
     const size_t rows = static_cast<size_t>(std::max(e.rows, 1)), width = elements.size() / rows;
     std::vector<std::string> shape = {std::to_string(width)};
     if (e.rows > 0) shape.insert(shape.begin(), std::to_string(rows));
-    return fill("setTensor", typeNumber(e) + ", " + place(shape) + ", (const " + typeInC(e.type.element, wide) +
-                                 "[]){" + listed(elements) + "}");
+    return fill("setTensor", typeNumber(e) + ", " + place(shape) + ", (const " +
+                                 typeInC(e.type.element, wide) + "[]){" + listed(elements) + "}");
   }
 
   // A tensor as it is, a number as one of rank 0.
@@ -249,7 +273,8 @@ struct Body {
 
   std::string binaryTensor(const Expression &e) {
     const std::string x = operand(*e.operands[0], 0);
-    const std::string y = wide && isWholePower(e) ? wholeExponent(*e.operands[1]) : operand(*e.operands[1], 1);
+    const std::string y =
+        wide && isWholePower(e) ? wholeExponent(*e.operands[1]) : operand(*e.operands[1], 1);
     const bool integers = e.operands[0]->type.element == kInteger && e.operands[1]->type.element == kInteger;
     if (wide && integers && e.text == "%") return fill("wholeModTensor", x + ", " + y);
     if (wide && integers && e.text == "//") return fill("wholeQuotientTensor", x + ", " + y);
@@ -259,7 +284,8 @@ struct Body {
     return result;
   }
 
-  std::string binaryResult(const std::string &symbol, const std::string &x, const std::string &y, const Expression &e) {
+  std::string binaryResult(const std::string &symbol, const std::string &x, const std::string &y,
+                           const Expression &e) {
     return fill("binaryTensor",
                 x + ", " + y + ", " + std::to_string(binaryOperator(symbol)) + " /* " +
                     std::string(std::ranges::find(kBinaryOperators, symbol, &BinaryOperator::symbol)->name) +
@@ -285,9 +311,12 @@ struct Body {
       place(e.position);
       return slot;
     }
-    case Callee::Elementwise: return elementwiseTensor(e);
-    case Callee::Named: return named(e);
-    default: return builtinTensor(e);
+    case Callee::Elementwise:
+      return elementwiseTensor(e);
+    case Callee::Named:
+      return named(e);
+    default:
+      return builtinTensor(e);
     }
   }
 
@@ -306,7 +335,8 @@ struct Body {
     if (e.text == "real" || e.text == "complex") return tensor(*e.operands[0]);
     const std::string x = scalar(*e.operands[0]);
     if (e.text == "range") return fill("range" + suffix(e), x + ", " + scalar(*e.operands[1]));
-    return fill("fill" + suffix(*e.operands[0]), x + ", " + place(positions(e.operands, 1, e.operands.size())));
+    return fill("fill" + suffix(*e.operands[0]),
+                x + ", " + place(positions(e.operands, 1, e.operands.size())));
   }
 
   // Calls.
@@ -332,17 +362,23 @@ struct Body {
     const bool integer = e.type.element == kInteger;
     const std::string x = narrows && integer ? "narrow(" + scalar(e) + ")" : scalar(e);
     if (letter == 'k') words.push_back("&(mint){0}");
-    if (letter == 'e') words.push_back("&" + fill("setTensor", "TORVANE_TYPE_INTEGER, 1, (const mint[]){1}, (const mint[]){" + x + "}"));
-    else words.push_back("&(" + typeInC(e.type.element, wide && !narrows) + "){" + x + "}");
+    if (letter == 'e')
+      words.push_back(
+          "&" + fill("setTensor", "TORVANE_TYPE_INTEGER, 1, (const mint[]){1}, (const mint[]){" + x + "}"));
+    else
+      words.push_back("&(" + typeInC(e.type.element, wide && !narrows) + "){" + x + "}");
   }
 
   std::vector<std::string> namedArguments(const Expression &e, const Named &form, bool overReals) {
     std::vector<std::string> words;
     size_t next = 0;
     for (const char letter : form.arguments) {
-      if (letter == 'm') words.push_back("&(mint){0}");
-      else if (letter == 'L') words.push_back("&(mint){" + std::to_string(e.operands[0]->type.rank - 1) + "}");
-      else argument(*e.operands[next++], letter, overReals, words);
+      if (letter == 'm')
+        words.push_back("&(mint){0}");
+      else if (letter == 'L')
+        words.push_back("&(mint){" + std::to_string(e.operands[0]->type.rank - 1) + "}");
+      else
+        argument(*e.operands[next++], letter, overReals, words);
     }
     while (next < e.operands.size()) argument(*e.operands[next++], 's', overReals, words);
     if (form.checks) words.push_back("&(mint){CHECKS}");
@@ -350,7 +386,9 @@ struct Body {
   }
 
   // Integers that stay integers in the wide form: counts and positions, as against elements.
-  static bool isCount(const Named &form) { return std::string_view("nNi").find(form.result[0]) != std::string_view::npos; }
+  static bool isCount(const Named &form) {
+    return std::string_view("nNi").find(form.result[0]) != std::string_view::npos;
+  }
 
   std::string named(const Expression &e) {
     const Named &form = *e.named;
@@ -359,8 +397,9 @@ struct Body {
     const bool counts = isWideInteger(e) && isCount(form) && !overReals;
     const bool asked = form.checks && !wide && e.type.element == kInteger;
     const std::string handler(overReals ? form.overReals : form.handler);
-    const std::string call = std::string(asked ? "callNamedIntegers(" : "callNamed(") + quotedInC(handler) + ", " +
-                             std::to_string(words.size()) + ", (void *const[]){" + listed(words) + "}, ";
+    const std::string call = std::string(asked ? "callNamedIntegers(" : "callNamed(") + quotedInC(handler) +
+                             ", " + std::to_string(words.size()) + ", (void *const[]){" + listed(words) +
+                             "}, ";
     if (!e.type.isNumber()) return line(call + "NULL);"), std::string();
     if (e.type.isTensor()) return namedTensor(call, counts);
     const std::string value = newValue();
@@ -389,21 +428,31 @@ struct Body {
                        !std::ranges::all_of(s.expressions, [](const auto &e) { return cannotFail(*e); });
     if (fails && s.kind != StatementKind::While && s.kind != StatementKind::For) place(s.position);
     switch (s.kind) {
-    case StatementKind::Let: return let(s, fails);
-    case StatementKind::Assign: return assign(s, fails);
-    case StatementKind::AssignPart: return assignPart(s);
-    case StatementKind::If: return conditional(s, fails);
-    case StatementKind::While: return whileLoop(s);
-    case StatementKind::For: return forLoop(s);
-    case StatementKind::Return: return returning(s);
-    case StatementKind::Print: return print(s, fails);
-    case StatementKind::Expression: return call(*s.expressions[0]);
+    case StatementKind::Let:
+      return let(s, fails);
+    case StatementKind::Assign:
+      return assign(s, fails);
+    case StatementKind::AssignPart:
+      return assignPart(s);
+    case StatementKind::If:
+      return conditional(s, fails);
+    case StatementKind::While:
+      return whileLoop(s);
+    case StatementKind::For:
+      return forLoop(s);
+    case StatementKind::Return:
+      return returning(s);
+    case StatementKind::Print:
+      return print(s, fails);
+    case StatementKind::Expression:
+      return call(*s.expressions[0]);
     }
   }
 
   void store(const std::string &target, const Expression &value) {
     const std::string from = tensor(value);
-    line(isBorrowed(value) ? "copyTensor(&" + target + ", " + from + ");" : "moveTensor(&" + target + ", &" + from + ");");
+    line(isBorrowed(value) ? "copyTensor(&" + target + ", " + from + ");"
+                           : "moveTensor(&" + target + ", &" + from + ");");
   }
 
   void let(const Statement &s, bool fails) {
@@ -480,7 +529,8 @@ struct Body {
   void forLoop(const Statement &s) {
     const std::string type = typeInC(s.variable->type.element, wide), name = nameInC(*s.variable);
     const std::string number = std::to_string(s.variable->number);
-    const std::string first = "first" + number, step = "step" + number, turn = "turn" + number, turns = "turns" + number;
+    const std::string first = "first" + number, step = "step" + number, turn = "turn" + number,
+                      turns = "turns" + number;
     line("{");
     ++indent;
     place(s.position);
@@ -488,8 +538,8 @@ struct Body {
     for (const auto &bound : s.expressions) bounds.push_back(scalar(*bound));
     if (bounds.size() == 2) bounds.push_back("1");
     line("const " + type + " " + first + " = " + bounds[0] + ", " + step + " = " + bounds[2] + ";");
-    line("const mint " + turns + " = steps" + suffixInC(s.variable->type.element, wide) + "(" + first + ", " + bounds[1] +
-         ", " + step + ");");
+    line("const mint " + turns + " = steps" + suffixInC(s.variable->type.element, wide) + "(" + first + ", " +
+         bounds[1] + ", " + step + ");");
     look();
     line("for (int64_t " + turn + " = 0; " + turn + " <= " + turns + "; " + turn + "++) {");
     const std::string sum = first + " + " + (type == "mint" ? turn : "(mreal)" + turn) + " * " + step;
@@ -524,7 +574,8 @@ struct Body {
     std::string text; // what is known before the next call
     for (size_t i = 0; i < calls.size(); ++i) {
       if (i > 0) text += ' ';
-      if (calls[i].empty()) text += s.expressions[i]->text;
+      if (calls[i].empty())
+        text += s.expressions[i]->text;
       else {
         if (!text.empty()) line("printText(" + quotedInC(std::exchange(text, {})) + ");");
         line(calls[i]);
@@ -550,8 +601,10 @@ struct Body {
     if (e.callee == Callee::User && !e.type.isTensor()) {
       const std::string text = user(e, {});
       line(text + ";");
-    } else if (e.type.isTensor()) tensor(e);
-    else if (const std::string value = scalar(e); !value.empty()) line("(void)" + value + ";");
+    } else if (e.type.isTensor())
+      tensor(e);
+    else if (const std::string value = scalar(e); !value.empty())
+      line("(void)" + value + ";");
     look();
   }
 
@@ -565,7 +618,8 @@ struct Body {
     std::string made;
     for (size_t i = 0; i < owned.size(); i += 8) {
       made += "  OWNED MTensor ";
-      for (size_t k = i; k < std::min(i + 8, owned.size()); ++k) made += (k > i ? ", *" : "*") + owned[k] + " = NULL";
+      for (size_t k = i; k < std::min(i + 8, owned.size()); ++k)
+        made += (k > i ? ", *" : "*") + owned[k] + " = NULL";
       made += ";\n";
     }
     return made;

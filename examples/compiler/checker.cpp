@@ -78,7 +78,8 @@ struct Checker {
   Type number(Expression &e) const {
     if (e.text.find_first_of(".eE") == std::string::npos) {
       const double value = std::strtod(e.text.c_str(), nullptr);
-      if (std::abs(value) > INT32_MAX) complain(e.position, "an integer beyond 2147483647; as a real it has a point");
+      if (std::abs(value) > INT32_MAX)
+        complain(e.position, "an integer beyond 2147483647; as a real it has a point");
       e.text = std::to_string(static_cast<int>(value));
       return {kInteger, 0};
     }
@@ -228,18 +229,30 @@ struct Checker {
 
   static bool takes(char letter, Type type, Type first) {
     switch (letter) {
-    case 't': return type.rank > 0;
-    case 'M': return type.rank > 1;
-    case 'v': return type.rank == 1;
-    case 'b': return type.rank > 0;
-    case 's': return type.rank == first.rank;
-    case 'I': return type.rank > 0 && type.element == kInteger;
-    case 'X': return type.rank > 0 && type.element <= kReal;
-    case 'V': return type.rank == 1 && type.element <= kReal;
-    case 'D': return type.rank == 2 && type.element <= kReal;
-    case 'n': return type.rank == 1 && type.element == kInteger;
-    case 'r': return type.rank == 0 && type.element <= kReal;
-    default: return type.rank == 0 && type.element == kInteger;
+    case 't':
+      return type.rank > 0;
+    case 'M':
+      return type.rank > 1;
+    case 'v':
+      return type.rank == 1;
+    case 'b':
+      return type.rank > 0;
+    case 's':
+      return type.rank == first.rank;
+    case 'I':
+      return type.rank > 0 && type.element == kInteger;
+    case 'X':
+      return type.rank > 0 && type.element <= kReal;
+    case 'V':
+      return type.rank == 1 && type.element <= kReal;
+    case 'D':
+      return type.rank == 2 && type.element <= kReal;
+    case 'n':
+      return type.rank == 1 && type.element == kInteger;
+    case 'r':
+      return type.rank == 0 && type.element <= kReal;
+    default:
+      return type.rank == 0 && type.element == kInteger;
     }
   }
 
@@ -260,7 +273,8 @@ struct Checker {
     for (const Named &form : namedFunctions(e.text))
       if (const std::string fit = letters(form, e); !fit.empty()) return applied(e, form, fit);
     std::string given;
-    for (const ExpressionPointer &operand : e.operands) given += (given.empty() ? "" : ", ") + nameOf(operand->type);
+    for (const ExpressionPointer &operand : e.operands)
+      given += (given.empty() ? "" : ", ") + nameOf(operand->type);
     complain(e.position, quoted(e.text) + " does not take (" + given + ")");
   }
 
@@ -280,17 +294,28 @@ struct Checker {
   static Type resultOf(const Named &form, const Expression &e, Element element) {
     const int rank = e.operands[0]->type.rank;
     switch (form.result[0]) {
-    case 't': return e.operands[0]->type;
-    case 'd': return {element, rank - 1};
-    case 'f': return {element, 1};
-    case 'p': return {element, rank + e.operands[1]->type.rank - 2};
-    case 'x': return {element, 0};
-    case 'n': return {kInteger, 1};
-    case 'N': return {kInteger, 2};
-    case 'R': return {kReal, 1};
-    case 'i': return {kInteger, 0};
-    case 'r': return {kReal, 0};
-    default: return {};
+    case 't':
+      return e.operands[0]->type;
+    case 'd':
+      return {element, rank - 1};
+    case 'f':
+      return {element, 1};
+    case 'p':
+      return {element, rank + e.operands[1]->type.rank - 2};
+    case 'x':
+      return {element, 0};
+    case 'n':
+      return {kInteger, 1};
+    case 'N':
+      return {kInteger, 2};
+    case 'R':
+      return {kReal, 1};
+    case 'i':
+      return {kInteger, 0};
+    case 'r':
+      return {kReal, 0};
+    default:
+      return {};
     }
   }
 
@@ -337,16 +362,26 @@ struct Checker {
 
   Type typeOf(Expression &e) {
     switch (e.kind) {
-    case ExpressionKind::Number: return number(e);
-    case ExpressionKind::Imaginary: return imaginary(e);
-    case ExpressionKind::Text: return {kText, 0};
-    case ExpressionKind::Variable: return variable(e);
-    case ExpressionKind::Literal: return literal(e);
-    case ExpressionKind::Unary: return unary(e);
-    case ExpressionKind::Binary: return binary(e);
-    case ExpressionKind::Index: return index(e);
-    case ExpressionKind::Call: return call(e);
-    case ExpressionKind::Convert: return e.type;
+    case ExpressionKind::Number:
+      return number(e);
+    case ExpressionKind::Imaginary:
+      return imaginary(e);
+    case ExpressionKind::Text:
+      return {kText, 0};
+    case ExpressionKind::Variable:
+      return variable(e);
+    case ExpressionKind::Literal:
+      return literal(e);
+    case ExpressionKind::Unary:
+      return unary(e);
+    case ExpressionKind::Binary:
+      return binary(e);
+    case ExpressionKind::Index:
+      return index(e);
+    case ExpressionKind::Call:
+      return call(e);
+    case ExpressionKind::Convert:
+      return e.type;
     }
     return {};
   }
@@ -362,15 +397,23 @@ struct Checker {
   void statement(Statement &s) {
     for (const ExpressionPointer &each : s.expressions) expression(*each);
     switch (s.kind) {
-    case StatementKind::Let: return let(s);
-    case StatementKind::Assign: return assign(s);
-    case StatementKind::AssignPart: return assignPart(s);
+    case StatementKind::Let:
+      return let(s);
+    case StatementKind::Assign:
+      return assign(s);
+    case StatementKind::AssignPart:
+      return assignPart(s);
     case StatementKind::If:
-    case StatementKind::While: return conditional(s);
-    case StatementKind::For: return loop(s);
-    case StatementKind::Return: return returning(s);
-    case StatementKind::Print: return print(s);
-    case StatementKind::Expression: return call(s);
+    case StatementKind::While:
+      return conditional(s);
+    case StatementKind::For:
+      return loop(s);
+    case StatementKind::Return:
+      return returning(s);
+    case StatementKind::Print:
+      return print(s);
+    case StatementKind::Expression:
+      return call(s);
     }
   }
 
@@ -383,7 +426,8 @@ struct Checker {
 
   Variable &assigned(const Statement &s) const {
     Variable &variable = found(s.name, s.position);
-    if (variable.fixed) complain(s.position, quoted(s.name) + " cannot be assigned: it is a parameter or counts a loop");
+    if (variable.fixed)
+      complain(s.position, quoted(s.name) + " cannot be assigned: it is a parameter or counts a loop");
     return variable;
   }
 
@@ -397,8 +441,8 @@ struct Checker {
     const Type type = s.variable->type;
     const size_t count = s.expressions.size() - 1;
     if (count == 0 || count > static_cast<size_t>(type.rank))
-      complain(s.position, quoted(s.name) + " is " + nameOf(type) + " and does not take " + std::to_string(count) +
-                               " positions");
+      complain(s.position, quoted(s.name) + " is " + nameOf(type) + " and does not take " +
+                               std::to_string(count) + " positions");
     positions(s.expressions, 0, count);
     want(s.expressions.back(), {type.element, type.rank - static_cast<int>(count)});
     s.variable->read = true;
@@ -449,8 +493,9 @@ struct Checker {
   }
 
   void define(Function &defined) {
-    const bool known = elementwiseFunction(defined.name) != nullptr || !namedFunctions(defined.name).empty() ||
-                       isBuiltin(defined.name) || functions.contains(defined.name);
+    const bool known = elementwiseFunction(defined.name) != nullptr ||
+                       !namedFunctions(defined.name).empty() || isBuiltin(defined.name) ||
+                       functions.contains(defined.name);
     if (known) complain(defined.position, "there is a function " + quoted(defined.name) + " already");
     functions[defined.name] = &defined;
   }

@@ -31,7 +31,9 @@ std::string declarations(const Function &function) {
 }
 
 std::string form(const Function &function, bool wide) {
-  const std::string prefix = function.name.empty() ? (wide ? "overReals" : "overIntegers") : wide ? "wide_" : "exact_";
+  const std::string prefix = function.name.empty() ? (wide ? "overReals" : "overIntegers")
+                             : wide                ? "wide_"
+                                                   : "exact_";
   return Signature{function}.head(prefix, wide) + " {\n" + bodyOf(function, wide) + "}\n\n";
 }
 
@@ -40,7 +42,8 @@ std::string frame(const Function &function) {
   std::string made = "struct call_" + function.name + " {\n  void (*run)(void *, void *);\n";
   if (function.result.isScalar()) made += "  " + typeInC(function.result.element, false) + " result;\n";
   if (function.result.isTensor()) made += "  MTensor **result;\n";
-  for (const auto &each : function.parameters) made += "  " + declared(each->type, false) + nameInC(*each) + ";\n";
+  for (const auto &each : function.parameters)
+    made += "  " + declared(each->type, false) + nameInC(*each) + ";\n";
   return made + "};\n\n";
 }
 
@@ -53,13 +56,15 @@ std::string arguments(const Function &function, const std::string &before) {
 
 std::string runner(const Function &function) {
   const std::string call = "struct call_" + function.name;
-  return "COMPILED void run_" + function.name + "(void *argument, void *closure) {\n  " + call + " *call = *(" +
-         call + " **)closure;\n  (void)argument;\n  (void)call;\n  " +
+  return "COMPILED void run_" + function.name + "(void *argument, void *closure) {\n  " + call +
+         " *call = *(" + call + " **)closure;\n  (void)argument;\n  (void)call;\n  " +
          (function.result.isScalar() ? "call->result = " : "") + "exact_" + function.name + "(" +
          arguments(function, "call->") + ");\n}\n\n";
 }
 
-bool isWideTensor(const Variable &variable) { return variable.type.isTensor() && variable.type.element == kInteger; }
+bool isWideTensor(const Variable &variable) {
+  return variable.type.isTensor() && variable.type.element == kInteger;
+}
 
 // The second form runs on the arguments as reals, and its integers must fit after all.
 std::string overReals(const Function &function) {
@@ -71,7 +76,8 @@ std::string overReals(const Function &function) {
       value = "wide_" + name;
       made += "  OWNED MTensor *" + value + " = NULL;\n  convertTensor(&" + value + ", " + name +
               ", TORVANE_TYPE_REAL);\n  if (failed())" + returnFrom(function, false) + "\n";
-    } else if (each->type.element == kInteger) value = "(mreal)" + name;
+    } else if (each->type.element == kInteger)
+      value = "(mreal)" + name;
     values += (values.empty() ? "" : ", ") + value;
   }
   const std::string call = "wide_" + function.name + "(";
@@ -80,7 +86,8 @@ std::string overReals(const Function &function) {
   if (!function.result.isTensor()) return made + "  " + call + values + ");\n";
   const std::string rest = (values.empty() ? "" : ", ") + values + ");\n";
   if (function.result.element != kInteger) return made + "  " + call + "result" + rest;
-  return made + "  OWNED MTensor *wide = NULL;\n  " + call + "&wide" + rest + "  narrowTensor(result, wide);\n";
+  return made + "  OWNED MTensor *wide = NULL;\n  " + call + "&wide" + rest +
+         "  narrowTensor(result, wide);\n";
 }
 
 std::string wrapper(const Function &function) {
@@ -108,6 +115,7 @@ std::string emit(const Program &program, const std::string &file) {
     made += form(*function, false) + form(*function, true);
     if (!function->name.empty() && function->isPure()) made += wrapper(*function);
   }
-  return made + "mint TorvaneLibrary_entry(TorvaneLibraryData *record, int argc, char **argv) {\n  (void)argv;\n" +
+  return made +
+         "mint TorvaneLibrary_entry(TorvaneLibraryData *record, int argc, char **argv) {\n  (void)argv;\n" +
          "  return runProgram(record, argc, " + quotedInC(file) + ", overIntegers, overReals);\n}\n";
 }

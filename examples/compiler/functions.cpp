@@ -6,13 +6,13 @@
 namespace {
 
 constexpr Elementwise kElementwise[] = {
-    {"sin", 1, kReal},     {"cos", 2, kReal},       {"tan", 3, kReal},       {"sinh", 9, kReal},
-    {"cosh", 10, kReal},   {"tanh", 11, kReal},     {"asin", 17, kReal},     {"acos", 18, kReal},
-    {"atan", 19, kReal},   {"asinh", 25, kReal},    {"acosh", 26, kReal},    {"atanh", 27, kReal},
-    {"exp", 32, kReal},    {"log", 34, kReal},      {"abs", 38, kInteger},   {"arg", 39, kComplex},
-    {"conj", 40, kComplex}, {"im", 41, kComplex},   {"re", 42, kComplex},    {"sign", 44, kInteger},
-    {"round", 49, kReal},  {"floor", 50, kReal},    {"ceiling", 51, kReal},  {"square", 56, kInteger},
-    {"sqrt", 57, kReal},   {"cbrt", 58, kReal},     {"recip", 60, kReal},    {"erf", 75, kReal},
+    {"sin", 1, kReal},         {"cos", 2, kReal},      {"tan", 3, kReal},      {"sinh", 9, kReal},
+    {"cosh", 10, kReal},       {"tanh", 11, kReal},    {"asin", 17, kReal},    {"acos", 18, kReal},
+    {"atan", 19, kReal},       {"asinh", 25, kReal},   {"acosh", 26, kReal},   {"atanh", 27, kReal},
+    {"exp", 32, kReal},        {"log", 34, kReal},     {"abs", 38, kInteger},  {"arg", 39, kComplex},
+    {"conj", 40, kComplex},    {"im", 41, kComplex},   {"re", 42, kComplex},   {"sign", 44, kInteger},
+    {"round", 49, kReal},      {"floor", 50, kReal},   {"ceiling", 51, kReal}, {"square", 56, kInteger},
+    {"sqrt", 57, kReal},       {"cbrt", 58, kReal},    {"recip", 60, kReal},   {"erf", 75, kReal},
     {"unitize", 78, kInteger}, {"ramp", 81, kInteger},
 };
 

@@ -77,10 +77,13 @@ struct Lexer {
 
   char escaped(char c) const {
     switch (c) {
-    case 'n': return '\n';
+    case 'n':
+      return '\n';
     case '"':
-    case '\\': return c;
-    default: complain(position, "an unknown escape in a text");
+    case '\\':
+      return c;
+    default:
+      complain(position, "an unknown escape in a text");
     }
   }
 
@@ -110,13 +113,20 @@ struct Lexer {
 
   void word() {
     const char c = next();
-    if (c == '\n') lineEnd();
-    else if (c == ' ' || c == '\t' || c == '\r') blank();
-    else if (c == '#') comment();
-    else if (isLetter(c)) name();
-    else if (isDigit(c)) number();
-    else if (c == '"') text();
-    else symbol();
+    if (c == '\n')
+      lineEnd();
+    else if (c == ' ' || c == '\t' || c == '\r')
+      blank();
+    else if (c == '#')
+      comment();
+    else if (isLetter(c))
+      name();
+    else if (isDigit(c))
+      number();
+    else if (c == '"')
+      text();
+    else
+      symbol();
   }
 };
 

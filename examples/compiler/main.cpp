@@ -1,8 +1,8 @@
 // torvanec PROGRAM.tn [-o LIBRARY.so | --emit-c [FILE.c] | --run [--style 0|1|2]]
 //
-// Compiles a program to C and that, by the system's compiler, to a compiled library: PROGRAM.so in this folder where
-// nothing else is asked for. --run hands it to the host and leaves nothing. The C compiler, its flags and the host
-// are those of the build; TORVANEC_CC, TORVANEC_FLAGS and TORVANEC_HOST name others.
+// Compiles a program to C and that, by the system's compiler, to a compiled library: PROGRAM.so in this
+// folder where nothing else is asked for. --run hands it to the host and leaves nothing. The C compiler, its
+// flags and the host are those of the build; TORVANEC_CC, TORVANEC_FLAGS and TORVANEC_HOST name others.
 //
 // Exit status: 0 done, 1 an error in the program, 2 anything else; with --run the host's.
 #include "checker.h"
@@ -36,20 +36,26 @@ struct Refusal {
   std::string message;
 };
 
-const char kUsage[] = "usage: torvanec PROGRAM.tn [-o LIBRARY.so | --emit-c [FILE.c] | --run [--style 0|1|2]]";
+const char kUsage[] =
+    "usage: torvanec PROGRAM.tn [-o LIBRARY.so | --emit-c [FILE.c] | --run [--style 0|1|2]]";
 
 Job jobOf(const Words &words) {
   Job job;
   for (size_t i = 0; i < words.size(); ++i) {
     const bool more = i + 1 < words.size() && !words[i + 1].starts_with('-');
-    if (words[i] == "-o" && more) job.output = words[++i];
+    if (words[i] == "-o" && more)
+      job.output = words[++i];
     else if (words[i] == "--emit-c") {
       job.emitsC = true;
       if (more && !job.program.empty()) job.output = words[++i];
-    } else if (words[i] == "--run") job.runs = true;
-    else if (words[i] == "--style" && more) job.style = words[++i];
-    else if (words[i].starts_with('-') || !job.program.empty()) throw Refusal{kUsage};
-    else job.program = words[i];
+    } else if (words[i] == "--run")
+      job.runs = true;
+    else if (words[i] == "--style" && more)
+      job.style = words[++i];
+    else if (words[i].starts_with('-') || !job.program.empty())
+      throw Refusal{kUsage};
+    else
+      job.program = words[i];
   }
   if (job.program.empty() || (job.emitsC && job.runs)) throw Refusal{kUsage};
   if (job.output.empty() && !job.emitsC) job.output = job.program.stem().string() + ".so";
@@ -101,7 +107,8 @@ int run(Words words) {
 
 void build(const fs::path &source, const fs::path &library) {
   Words words = split(setting("TORVANEC_CC", TORVANEC_CC));
-  for (const char *word : {"-std=c11", "-O2", "-Wall", "-Wextra", "-Werror", "-fPIC", "-shared", "-fexceptions"})
+  for (const char *word :
+       {"-std=c11", "-O2", "-Wall", "-Wextra", "-Werror", "-fPIC", "-shared", "-fexceptions"})
     words.emplace_back(word);
   for (const std::string &word : split(setting("TORVANEC_FLAGS", TORVANEC_FLAGS))) words.push_back(word);
   for (const char *word : {"-I" TORVANEC_INCLUDE, "-I" TORVANEC_EXAMPLES}) words.emplace_back(word);
@@ -133,7 +140,8 @@ int perform(const Job &job) {
   write(source, text);
   const fs::path library = job.runs ? workshop.path / job.output.filename() : fs::absolute(job.output);
   build(source, library);
-  return job.runs ? run({setting("TORVANEC_HOST", TORVANEC_HOST), "--style", job.style, library.string()}) : 0;
+  return job.runs ? run({setting("TORVANEC_HOST", TORVANEC_HOST), "--style", job.style, library.string()})
+                  : 0;
 }
 
 } // namespace

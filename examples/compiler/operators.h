@@ -11,7 +11,7 @@ struct BinaryOperator {
 };
 
 inline constexpr BinaryOperator kBinaryOperators[] = {
-    {"+", 257, "plus"}, {"-", 258, "subtract"}, {"*", 259, "times"}, {"/", 260, "divide"},
+    {"+", 257, "plus"}, {"-", 258, "subtract"},  {"*", 259, "times"}, {"/", 260, "divide"},
     {"%", 261, "mod"},  {"//", 262, "quotient"}, {"^", 263, "pow"},
 };
 

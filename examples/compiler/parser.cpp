@@ -5,8 +5,8 @@
 
 namespace {
 
-// What is nested more deeply is refused: no program can exhaust the stack of the recursions over the tree, nor
-// reach the 256 open brackets that C compilers take.
+// What is nested more deeply is refused: no program can exhaust the stack of the recursions over the tree,
+// nor reach the 256 open brackets that C compilers take.
 constexpr int kDeepest = 60, kHighest = 100;
 
 constexpr std::array<std::array<std::string_view, 6>, 4> kLevels = {{
@@ -148,11 +148,16 @@ struct Parser {
   ExpressionPointer primary() {
     switch (token().kind) {
     case TokenKind::Integer:
-    case TokenKind::Real: return node(ExpressionKind::Number, take());
-    case TokenKind::Imaginary: return node(ExpressionKind::Imaginary, take());
-    case TokenKind::Text: return node(ExpressionKind::Text, take());
-    case TokenKind::Name: return named();
-    default: break;
+    case TokenKind::Real:
+      return node(ExpressionKind::Number, take());
+    case TokenKind::Imaginary:
+      return node(ExpressionKind::Imaginary, take());
+    case TokenKind::Text:
+      return node(ExpressionKind::Text, take());
+    case TokenKind::Name:
+      return named();
+    default:
+      break;
     }
     if (isNext("[")) return literal();
     if (!isNext("(")) unexpected("an expression");
@@ -252,8 +257,10 @@ struct Parser {
     made->body = block();
     if (!takeIf("else")) return made;
     descend();
-    if (isNext("if")) made->otherwise.push_back(conditional());
-    else made->otherwise = block();
+    if (isNext("if"))
+      made->otherwise.push_back(conditional());
+    else
+      made->otherwise = block();
     --depth;
     return made;
   }
@@ -356,8 +363,10 @@ struct Parser {
     Program made;
     auto self = std::make_unique<Function>();
     for (skipEnds(); token().kind != TokenKind::End; skipEnds())
-      if (isNext("fn")) made.functions.push_back(function());
-      else self->body.push_back(statement());
+      if (isNext("fn"))
+        made.functions.push_back(function());
+      else
+        self->body.push_back(statement());
     made.functions.push_back(std::move(self));
     return made;
   }

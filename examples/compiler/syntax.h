@@ -1,4 +1,5 @@
-// A program as a tree. The parser fills in what was written, the checker types, conversions and what names mean.
+// A program as a tree. The parser fills in what was written, the checker types, conversions and what names
+// mean.
 #ifndef COMPILER_SYNTAX_H
 #define COMPILER_SYNTAX_H
 
@@ -63,9 +64,10 @@ using Block = std::vector<std::unique_ptr<Statement>>;
 struct Statement {
   StatementKind kind;
   Position position;
-  std::string name;                           // of a Let, an Assign, a For
-  Type declared;                              // of a Let that says its type
-  std::vector<ExpressionPointer> expressions; // the value last; before it positions; of a For the bounds and step
+  std::string name; // of a Let, an Assign, a For
+  Type declared;    // of a Let that says its type
+  std::vector<ExpressionPointer>
+      expressions; // the value last; before it positions; of a For the bounds and step
   Block body, otherwise;
   Variable *variable = nullptr;
 };

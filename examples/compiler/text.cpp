@@ -4,10 +4,14 @@ Element inForm(Element element, bool wide) { return wide && element == kInteger 
 
 std::string typeInC(Element element, bool wide) {
   switch (inForm(element, wide)) {
-  case kInteger: return "mint";
-  case kReal: return "mreal";
-  case kComplex: return "mcomplex";
-  default: return "bool";
+  case kInteger:
+    return "mint";
+  case kReal:
+    return "mreal";
+  case kComplex:
+    return "mcomplex";
+  default:
+    return "bool";
   }
 }
 
@@ -17,33 +21,44 @@ std::string declared(Type type, bool wide) {
 
 std::string typeNumberInC(Element element, bool wide) {
   switch (inForm(element, wide)) {
-  case kInteger: return "TORVANE_TYPE_INTEGER";
-  case kReal: return "TORVANE_TYPE_REAL";
-  default: return "TORVANE_TYPE_COMPLEX";
+  case kInteger:
+    return "TORVANE_TYPE_INTEGER";
+  case kReal:
+    return "TORVANE_TYPE_REAL";
+  default:
+    return "TORVANE_TYPE_COMPLEX";
   }
 }
 
 std::string suffixInC(Element element, bool wide) {
   switch (inForm(element, wide)) {
-  case kInteger: return "_i";
-  case kReal: return "_r";
-  default: return "_c";
+  case kInteger:
+    return "_i";
+  case kReal:
+    return "_r";
+  default:
+    return "_c";
   }
 }
 
-std::string nameInC(const Variable &variable) { return variable.name + "_" + std::to_string(variable.number); }
+std::string nameInC(const Variable &variable) {
+  return variable.name + "_" + std::to_string(variable.number);
+}
 
 // Octal escapes end after three digits, whatever follows; a question mark may be part of a trigraph.
 std::string quotedInC(std::string_view text) {
   std::string made = "\"";
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (c == '"' || c == '\\' || c == '?') made += {'\\', c};
-    else if (c == '\n') made += "\\n";
-    else if (byte >= 32 && byte < 127) made += c;
+    if (c == '"' || c == '\\' || c == '?')
+      made += {'\\', c};
+    else if (c == '\n')
+      made += "\\n";
+    else if (byte >= 32 && byte < 127)
+      made += c;
     else
-      for (const char digit : {'\\', static_cast<char>('0' + (byte >> 6)), static_cast<char>('0' + (byte >> 3 & 7)),
-                               static_cast<char>('0' + (byte & 7))})
+      for (const char digit : {'\\', static_cast<char>('0' + (byte >> 6)),
+                               static_cast<char>('0' + (byte >> 3 & 7)), static_cast<char>('0' + (byte & 7))})
         made += digit;
   }
   return made + '"';

@@ -1,4 +1,4 @@
-# Writes broken0.tn ... broken399.tn from the words of the programs given: a program cut off anywhere, with some of
+# Writes broken0.tn ... broken199.tn from the words of the programs given: a program cut off anywhere, with some of
 # its words changed for others, or words at random. The same seed gives the same programs.
 BEGIN { srand(seed) }
 FNR == 1 { texts++ }
@@ -23,7 +23,7 @@ function babble(count,   made) {
   return made
 }
 END {
-  for (i = 0; i < 400; i++) {
+  for (i = 0; i < 200; i++) {
     file = "broken" i ".tn"
     source = text[pick(texts)]
     if (i % 4 == 0) source = substr(source, 1, pick(length(source)))

@@ -221,7 +221,7 @@ no_broken_program_crashes_the_compiler)
     [ $got -eq 0 ] || grep -Eq "^$file:[0-9]+:[0-9]+: error: ." err || fail "message: $(cat err)"
     count=$((count + 1))
   done
-  [ $count -eq 400 ] || fail "$count programs"
+  [ $count -eq 200 ] || fail "$count programs"
   ;;
 *) fail "no case $case" ;;
 esac
