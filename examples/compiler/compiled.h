@@ -22,8 +22,8 @@
 #include <string.h>
 
 #define COMPILED static __attribute__((unused))
-#define OWNED __attribute__((cleanup(releaseTensor))) /* a slot that is empty or holds a tensor of its own   \
-                                                       */
+/* A slot that is empty or holds a tensor of its own. */
+#define OWNED __attribute__((cleanup(releaseTensor)))
 
 enum { STATUS_RETURNED = -1, CHECKS = TORVANE_CHECK_REALS | TORVANE_CHECK_INTEGERS };
 
@@ -101,39 +101,34 @@ static inline bool cannotEnter(void) {
   }
 #define REAL_AND_COMPLEX(name) REAL_UNARY(name, mreal) COMPLEX_UNARY(name)
 
-INTEGER_UNARY(minus)
-INTEGER_UNARY(abs) INTEGER_UNARY(sign) INTEGER_UNARY(square) INTEGER_UNARY(unitize) INTEGER_UNARY(ramp)
-    INTEGER_BINARY(plus) INTEGER_BINARY(subtract) INTEGER_BINARY(times) INTEGER_BINARY(mod) INTEGER_BINARY(
-        quotient) INTEGER_BINARY(pow)
+/* clang-format off */
+INTEGER_UNARY(minus) INTEGER_UNARY(abs) INTEGER_UNARY(sign) INTEGER_UNARY(square) INTEGER_UNARY(unitize)
+INTEGER_UNARY(ramp)
+INTEGER_BINARY(plus) INTEGER_BINARY(subtract) INTEGER_BINARY(times) INTEGER_BINARY(mod) INTEGER_BINARY(quotient)
+INTEGER_BINARY(pow)
 
-        REAL_AND_COMPLEX(sin) REAL_AND_COMPLEX(cos) REAL_AND_COMPLEX(tan) REAL_AND_COMPLEX(sinh)
-            REAL_AND_COMPLEX(cosh) REAL_AND_COMPLEX(tanh) REAL_AND_COMPLEX(asin) REAL_AND_COMPLEX(acos)
-                REAL_AND_COMPLEX(atan) REAL_AND_COMPLEX(asinh) REAL_AND_COMPLEX(acosh) REAL_AND_COMPLEX(atanh)
-                    REAL_AND_COMPLEX(exp) REAL_AND_COMPLEX(log) REAL_AND_COMPLEX(sqrt) REAL_AND_COMPLEX(recip)
-                        REAL_AND_COMPLEX(square) REAL_AND_COMPLEX(minus)
+REAL_AND_COMPLEX(sin) REAL_AND_COMPLEX(cos) REAL_AND_COMPLEX(tan) REAL_AND_COMPLEX(sinh) REAL_AND_COMPLEX(cosh)
+REAL_AND_COMPLEX(tanh) REAL_AND_COMPLEX(asin) REAL_AND_COMPLEX(acos) REAL_AND_COMPLEX(atan)
+REAL_AND_COMPLEX(asinh) REAL_AND_COMPLEX(acosh) REAL_AND_COMPLEX(atanh) REAL_AND_COMPLEX(exp)
+REAL_AND_COMPLEX(log) REAL_AND_COMPLEX(sqrt) REAL_AND_COMPLEX(recip) REAL_AND_COMPLEX(square)
+REAL_AND_COMPLEX(minus)
 
-                            REAL_UNARY(abs, mreal) REAL_UNARY(cbrt, mreal) REAL_UNARY(erf, mreal)
-                                REAL_UNARY(ramp, mreal) REAL_UNARY(sign, mint) REAL_UNARY(unitize, mint)
-                                    REAL_UNARY(round, mint) REAL_UNARY(floor, mint) REAL_UNARY(ceiling, mint)
-                                        REAL_BINARY(plus, mreal) REAL_BINARY(subtract,
-                                                                             mreal) REAL_BINARY(times, mreal)
-                                            REAL_BINARY(divide, mreal) REAL_BINARY(mod, mreal)
-                                                REAL_BINARY(pow, mreal) REAL_BINARY(quotient, mint)
+REAL_UNARY(abs, mreal) REAL_UNARY(cbrt, mreal) REAL_UNARY(erf, mreal) REAL_UNARY(ramp, mreal)
+REAL_UNARY(sign, mint) REAL_UNARY(unitize, mint) REAL_UNARY(round, mint) REAL_UNARY(floor, mint)
+REAL_UNARY(ceiling, mint)
+REAL_BINARY(plus, mreal) REAL_BINARY(subtract, mreal) REAL_BINARY(times, mreal) REAL_BINARY(divide, mreal)
+REAL_BINARY(mod, mreal) REAL_BINARY(pow, mreal) REAL_BINARY(quotient, mint)
 
-                                                    COMPLEX_UNARY(conj) COMPLEX_UNARY(sign)
-                                                        COMPLEX_TO(abs, mreal) COMPLEX_TO(arg, mreal)
-                                                            COMPLEX_TO(re, mreal) COMPLEX_TO(im, mreal)
-                                                                COMPLEX_TO(unitize, mint) COMPLEX_BINARY(plus)
-                                                                    COMPLEX_BINARY(subtract)
-                                                                        COMPLEX_BINARY(times)
-                                                                            COMPLEX_BINARY(divide)
-                                                                                COMPLEX_BINARY(mod)
-                                                                                    COMPLEX_BINARY(pow)
-
-    /* Powers whose exponent is an integer keep the type of their base. */
-    static inline mreal pow_ri(mreal x, mint y) {
+COMPLEX_UNARY(conj) COMPLEX_UNARY(sign)
+COMPLEX_TO(abs, mreal) COMPLEX_TO(arg, mreal) COMPLEX_TO(re, mreal) COMPLEX_TO(im, mreal)
+COMPLEX_TO(unitize, mint)
+COMPLEX_BINARY(plus) COMPLEX_BINARY(subtract) COMPLEX_BINARY(times) COMPLEX_BINARY(divide) COMPLEX_BINARY(mod)
+COMPLEX_BINARY(pow)
+/* Powers whose exponent is an integer keep the type of their base. */
+static inline mreal pow_ri(mreal x, mint y) {
   return failed() ? 0 : checked_binary_pow_Real64_Integer32(x, y);
 }
+/* clang-format on */
 static inline mcomplex pow_ci(mcomplex x, mint y) {
   mcomplex z = {0, 0};
   if (!failed()) checked_binary_pow_ComplexReal64_Integer32(&z.re, &z.im, x.re, x.im, y);
