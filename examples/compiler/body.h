@@ -1,8 +1,4 @@
-// The statements of one form of a function as C.
-//
-// A number becomes an expression of C; a tensor, a call and whatever must run in order become statements
-// before it. Operations do nothing once a code is pending, so one look at it suffices at the end of each
-// statement.
+// The statements of one form of a function as C, with its slots at their head.
 #ifndef COMPILER_BODY_H
 #define COMPILER_BODY_H
 
