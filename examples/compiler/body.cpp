@@ -190,8 +190,9 @@ struct Body {
   }
 
   std::string printed(const Expression &e) {
-    const std::string isWhole = (out.wide && e.type.element == kInteger) ? "true" : "false";
-    if (e.type.isTensor()) return "printTensor(" + tensor(out, e) + ", " + isWhole + ");";
+    const bool isWhole = out.wide && e.type.element == kInteger;
+    if (e.type.isTensor())
+      return "printTensor(" + tensor(out, e) + ", " + (isWhole ? "true" : "false") + ");";
     std::string value = scalar(out, e);
     const bool isKept = e.callee == Callee::User || e.callee == Callee::Named;
     if (!isKept && !cannotFail(e)) {
@@ -199,9 +200,8 @@ struct Body {
       out.line("const " + typeInC(e.type.element, out.wide) + " " + kept + " = " + value + ";");
       value = kept;
     }
-    return ((out.wide && e.type.element == kInteger) ? "print_whole"
-                                                     : "print" + suffixInC(e.type.element, out.wide)) +
-           "(" + value + ");";
+    const std::string name = isWhole ? "print_whole" : "print" + suffixInC(e.type.element, out.wide);
+    return name + "(" + value + ");";
   }
 
   void call(const Expression &e) {

@@ -16,30 +16,31 @@ struct Signature {
       made += (made.empty() ? "" : ", ") + declared(each->type, wide) + nameInC(*each);
     return made.empty() ? "void" : made;
   }
-  std::string head(const std::string &prefix, bool wide) const {
+  std::string head(const std::string &name, bool wide) const {
     const Type result = function.result;
-    return "COMPILED " + (result.isScalar() ? typeInC(result.element, wide) : "void") + " " + prefix +
-           function.name + "(" + parameters(wide) + ")";
+    return "COMPILED " + (result.isScalar() ? typeInC(result.element, wide) : "void") + " " + name + "(" +
+           parameters(wide) + ")";
   }
 };
 
 std::string declarations(const Function &function) {
   const Signature signature{function};
-  std::string made = signature.head("exact_", false) + ";\n" + signature.head("wide_", true) + ";\n";
-  if (function.isPure()) made += signature.head("fn_", false) + ";\n";
+  const std::string &name = function.name;
+  std::string made =
+      signature.head(name + "_exact", false) + ";\n" + signature.head(name + "_wide", true) + ";\n";
+  if (function.isPure()) made += signature.head(name + "_either", false) + ";\n";
   return made;
 }
 
 std::string form(const Function &function, bool wide) {
-  const std::string prefix = function.name.empty() ? (wide ? "overReals" : "overIntegers")
-                             : wide                ? "wide_"
-                                                   : "exact_";
-  return Signature{function}.head(prefix, wide) + " {\n" + bodyOf(function, wide) + "}\n\n";
+  std::string name = function.name + (wide ? "_wide" : "_exact");
+  if (function.name.empty()) name = wide ? "overReals" : "overIntegers";
+  return Signature{function}.head(name, wide) + " {\n" + bodyOf(function, wide) + "}\n\n";
 }
 
 // The frame of a call under a handler: what the handler runs comes first.
 std::string frame(const Function &function) {
-  std::string made = "struct call_" + function.name + " {\n  void (*run)(void *, void *);\n";
+  std::string made = "struct " + function.name + "_call {\n  void (*run)(void *, void *);\n";
   if (function.result.isScalar()) made += "  " + typeInC(function.result.element, false) + " result;\n";
   if (function.result.isTensor()) made += "  MTensor **result;\n";
   for (const auto &each : function.parameters)
@@ -55,10 +56,10 @@ std::string arguments(const Function &function, const std::string &before) {
 }
 
 std::string runner(const Function &function) {
-  const std::string call = "struct call_" + function.name;
-  return "COMPILED void run_" + function.name + "(void *argument, void *closure) {\n  " + call +
+  const std::string call = "struct " + function.name + "_call";
+  return "COMPILED void " + function.name + "_run(void *argument, void *closure) {\n  " + call +
          " *call = *(" + call + " **)closure;\n  (void)argument;\n  (void)call;\n  " +
-         (function.result.isScalar() ? "call->result = " : "") + "exact_" + function.name + "(" +
+         (function.result.isScalar() ? "call->result = " : "") + function.name + "_exact(" +
          arguments(function, "call->") + ");\n}\n\n";
 }
 
@@ -80,7 +81,7 @@ std::string overReals(const Function &function) {
       value = "(mreal)" + name;
     values += (values.empty() ? "" : ", ") + value;
   }
-  const std::string call = "wide_" + function.name + "(";
+  const std::string call = function.name + "_wide(";
   if (function.result == Type{kInteger, 0}) return made + "  return narrow(" + call + values + "));\n";
   if (function.result.isScalar()) return made + "  return " + call + values + ");\n";
   if (!function.result.isTensor()) return made + "  " + call + values + ");\n";
@@ -93,11 +94,11 @@ std::string overReals(const Function &function) {
 std::string wrapper(const Function &function) {
   const Type result = function.result;
   const std::string values = arguments(function, "");
-  std::string initial = "run_" + function.name;
+  std::string initial = function.name + "_run";
   if (result.isScalar()) initial += result.element == kComplex ? ", {0, 0}" : ", 0";
   if (!values.empty()) initial += ", " + values;
-  return frame(function) + runner(function) + Signature{function}.head("fn_", false) +
-         " {\n  static bool noted;\n  struct call_" + function.name + " call = {" + initial +
+  return frame(function) + runner(function) + Signature{function}.head(function.name + "_either", false) +
+         " {\n  static bool noted;\n  struct " + function.name + "_call call = {" + initial +
          "}, *closure = &call;\n  if (cannotEnter())" + returnFrom(function, false) +
          "\n  const mint code = attempt(&closure);\n  if (code == 0) return" +
          (result.isScalar() ? " call.result" : "") + ";\n  if (!fallsBack(code, " + quotedInC(function.name) +

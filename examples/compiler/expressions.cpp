@@ -313,8 +313,8 @@ struct Values {
     if (!result.empty()) arguments.push_back(result);
     for (const auto &each : e.operands)
       arguments.push_back(each->type.isTensor() ? tensor(*each) : scalar(*each));
-    const std::string prefix = wide ? "wide_" : e.function->isPure() ? "fn_" : "exact_";
-    return prefix + e.function->name + "(" + listed(arguments) + ")";
+    const std::string form = wide ? "_wide(" : e.function->isPure() ? "_either(" : "_exact(";
+    return e.function->name + form + listed(arguments) + ")";
   }
 
   // The words of one argument of a function by name: addresses of what the caller holds.

@@ -29,7 +29,7 @@ using Words = std::vector<std::string>;
 struct Job {
   fs::path program, output;
   bool emitsC = false, runs = false;
-  std::string style = "1";
+  std::string style = {}; // where it is asked for
 };
 
 struct Refusal {
@@ -57,7 +57,8 @@ Job jobOf(const Words &words) {
     else
       job.program = words[i];
   }
-  if (job.program.empty() || (job.emitsC && job.runs)) throw Refusal{kUsage};
+  const bool clashes = (job.runs && (job.emitsC || !job.output.empty())) || (!job.runs && !job.style.empty());
+  if (job.program.empty() || clashes) throw Refusal{kUsage};
   if (job.output.empty() && !job.emitsC) job.output = job.program.stem().string() + ".so";
   return job;
 }

@@ -62,6 +62,7 @@ END
   cmp -s err want || fail "notes: $(diff err want)"
   ;;
 integers) runs integers ;;
+large_sums) runs large_sums ;;
 life) runs life ;;
 mandelbrot) runs mandelbrot ;;
 moving_average) runs moving_average ;;
@@ -202,6 +203,9 @@ what_cannot_be_done_is_refused)
   refused 2 "$usage"
   refused 2 "$usage" a.tn b.tn
   refused 2 "$usage" a.tn -o
+  refused 2 "$usage" a.tn --run -o a.so
+  refused 2 "$usage" a.tn --run --emit-c
+  refused 2 "$usage" a.tn --style 0
   refused 2 'torvanec: cannot read a.tn' a.tn
   refused 2 'torvanec: cannot read .' .
   echo 'print(1)' >t.tn

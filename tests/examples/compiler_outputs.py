@@ -152,6 +152,21 @@ def integers_program():
     yield "stopped at 2"
 
 
+def large_sums_program():
+    v = [2 * 10**9, 10**9]
+
+    def whole(n):
+        return str(n) if abs(n) <= 2**53 else "%.16g" % n
+
+    yield f"half {sum(v) // 2}"
+    yield from table([[2 * n // 4 for n in r] for r in ([2 * 10**9, 2], [4, 6])])
+    yield f"total {sum(v)} running {v[0]} {sum(v)} dot {whole(sum(n * n for n in v))}"
+    squares = " ".join(whole(n * n) for n in v)
+    yield f"sum {row([2 * n for n in v])} products 0 {v[1] // 3} squares {squares}"
+    yield f"rest {row([-n % 7 for n in v])} largest {max(v)} rounded {15 * 10**9} 2 {-10**12}"
+    yield f"second {whole(v[0] * v[1])} places 2 1 range 3 6 9"
+
+
 def sets_program():
     throws = [3, 1, 4, 1, 5, 9, 2, 6, 5, 3, 5, 8, 9, 7, 9, 3]
     first = dict.fromkeys(throws)
