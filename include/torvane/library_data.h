@@ -29,8 +29,8 @@ typedef struct TorvaneRuntimeTable {
   mint (*seedRandom)(const uint32_t *seed, mint method); /* 4: Runtime_SeedRandom */
   MTensor *(*newTensor)(void);                           /* 5: MTensor_new */
   mint (*resize)(MTensor *, mint type, mint rank, mint *dimensions); /* 6: negative extents become 0 there */
-  mint (*copy)(MTensor **target, const MTensor *source);             /* 7: into an existing tensor */
-  mint (*copyNew)(MTensor **target, const MTensor *source);          /* 8: into one that it creates */
+  mint (*copy)(MTensor **target, const MTensor *source);             /* 7: into an existing tensor; 5 */
+  mint (*copyNew)(MTensor **target, const MTensor *source);          /* 8: into one that it creates; 5 */
   mint (*getParts)(MTensor **result, const MTensor *source, mint selectorCount, const mint *kinds,
                    void *const *specs); /* 9: selectors as in parts.h */
   mint (*resolvePosition)(const MTensor *, const mint *positions, mint *offset); /* 10: flat, from 0 */
@@ -113,9 +113,9 @@ typedef struct TorvanePixelArray {
   void *data;
 } TorvanePixelArray;
 
-/* Word 38. The first getters give -1 for a null array, pointers null. Positions are of rank many 1-based
- * indices, channels 1-based. Getting and setting: -1 for a null array, 1 for another kind, 3 for a position
- * or channel outside. */
+/* Word 38. The first getters give -1 for a null array, and sizes also for another rank; pointers are null.
+ * Channels count from 1. Getting and setting: -1 for a null array, 1 for another kind, 3 for a position or
+ * channel outside. */
 typedef struct TorvanePixelTable {
   TorvaneHostService services1to3[3]; /* 6 */
   void (*service4)(void);
@@ -177,7 +177,7 @@ struct TorvaneLibraryData {
   mint (*newTensor)(mint type, mint rank, const mint *dimensions, MTensor **result);
   void (*deleteTensor)(MTensor *); /* 3 */
   mint (*cloneTensor)(const MTensor *source,
-                      MTensor **target); /* 4: into the tensor of the slot, or a new one */
+                      MTensor **target); /* 4: into the tensor of the slot, or a new one; 5 */
   TorvaneHostService service5, service6;
   void (*service7)(void);
   mint (*setInteger)(MTensor *, const mint *positions, mint value); /* 8 to 10: 1 for another type, 3 */
@@ -196,7 +196,7 @@ struct TorvaneLibraryData {
   mreal *(*realData)(const MTensor *);
   mcomplex *(*complexData)(const MTensor *);
   void (*message)(const char *text); /* 23: ignored */
-  mint (*abortQ)(void);              /* 24: 1 once an abort is wanted */
+  mint (*abortQ)(void); /* 24: 1 once the poll of long loops, which nothing switches on, says so */
   TorvaneHostService service25, service26;
   TorvaneHostService service27;       /* 6 */
   void *runtimeState;                 /* 28: the record's own, private */
@@ -213,9 +213,9 @@ struct TorvaneLibraryData {
   const TorvaneNumericTable *numeric;       /* 49: of MNumericArray */
 };
 
-/* A new record of `version` 0 to 5; above 5 its function words are null. The first call, and each after a
- * free, starts the library anew: heaps, live tensors and the current generator survive. Running out of memory
- * ends the process. */
+/* A new record of `version` 0 to 5; below 0 is as 0, above 5 its function words are null. The first call, and
+ * each after a free, starts the library anew: heaps, live tensors and the current generator survive. Running
+ * out of memory ends the process. */
 TORVANE_API TorvaneLibraryData *TorvaneLibraryData_new(mint version);
 
 /* Frees the record with its bags and open random blocks; the tables stay. Null is ignored. */

@@ -21,21 +21,11 @@ mint resize(MTensor *tensor, mint type, mint rank, mint *dimensions) {
   return recordStatus(MTensor_allocateMemoryCommon(tensor, type, rank, dimensions, kReport));
 }
 
-// As MTensor_makeCopy, but for memory: what is short is a status here.
-mint copy(MTensor **target, const MTensor *source) {
-  if (*target == nullptr) *target = MTensor_new();
-  return recordStatus(MTensor_copyUniqueCommon(*target, source, kReport));
-}
+mint copy(MTensor **target, const MTensor *source) { return cloneTensor(source, target); }
 
 mint copyNew(MTensor **target, const MTensor *source) {
   *target = nullptr;
-  MTensor *made = nullptr;
-  const mint status = copy(&made, source);
-  if (status == kSuccess)
-    *target = made;
-  else
-    MTensor_delete(made);
-  return status;
+  return cloneTensor(source, target);
 }
 
 mint getParts(MTensor **result, const MTensor *source, mint selectorCount, const mint *kinds,

@@ -32,7 +32,9 @@ constexpr mint recordStatus(mint status) { return status == kSizeFailed ? mint{k
 // ones count from the end; there is one for each dimension, and none is read at rank 0.
 ptrdiff_t resolvePositions(mint rank, const mint *dimensions, const mint *positions);
 
-// Words of the record that are words of the runtime table too.
+// Words of the record that are words of the runtime table too. A copy may be refused for want of memory, and
+// a tensor that was made for it goes then.
+mint cloneTensor(const MTensor *source, MTensor **target);
 mint resolvePosition(const MTensor *tensor, const mint *positions, mint *offset);
 mint getSubTensor(const MTensor *source, const mint *positions, mint count, MTensor **result);
 mint setSubTensor(MTensor *target, const MTensor *source, const mint *positions, mint count);

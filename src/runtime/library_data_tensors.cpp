@@ -25,17 +25,6 @@ mint newTensor(mint type, mint rank, const mint *dimensions, MTensor **result) {
   return recordStatus(MTensor_allocateCommon(result, type, rank, dimensions, kReport));
 }
 
-mint cloneTensor(const MTensor *source, MTensor **target) {
-  if (*target != nullptr) return recordStatus(MTensor_copyUniqueCommon(*target, source, kReport));
-  MTensor *made = MTensor_new();
-  const mint status = recordStatus(MTensor_copyUniqueCommon(made, source, kReport));
-  if (status == kSuccess)
-    *target = made;
-  else
-    MTensor_delete(made);
-  return status;
-}
-
 // The place of an element of a tensor of this type, or why there is none.
 template <class Element>
 mint findElement(const MTensor *tensor, mint type, const mint *positions, Element **place) {
@@ -109,6 +98,17 @@ mint resolvePosition(const MTensor *tensor, const mint *positions, mint *offset)
   if (found < 0) return kWrongDimensions;
   *offset = static_cast<mint>(found);
   return kSuccess;
+}
+
+mint cloneTensor(const MTensor *source, MTensor **target) {
+  if (*target != nullptr) return recordStatus(MTensor_copyUniqueCommon(*target, source, kReport));
+  MTensor *made = MTensor_new();
+  const mint status = recordStatus(MTensor_copyUniqueCommon(made, source, kReport));
+  if (status == kSuccess)
+    *target = made;
+  else
+    MTensor_delete(made);
+  return status;
 }
 
 mint getSubTensor(const MTensor *source, const mint *positions, mint count, MTensor **result) {

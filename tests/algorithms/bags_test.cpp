@@ -1,7 +1,7 @@
 // Bags against vectors that grow: the functions by name over all types, the borders of blocks, every refusal,
 // the table of numbers, and memory that runs out.
 #include "algorithms/bags.h"
-#include "algorithms/registry.h"
+#include "algorithms/named_call.h"
 #include "runtime/library_data.h"
 #include "runtime/memory.h"
 #include "support/child_process.h"
@@ -36,18 +36,17 @@ template <class Element> bool same(const std::vector<Element> &a, const std::vec
   return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof a[0]) == 0);
 }
 
-// Calls by name through a record.
-class Bags : public testing::Test {
+// Calls by name through a record that has bags alone.
+class Bags : public NamedFunctions {
 protected:
-  Bags() : record(TorvaneLibraryData_new(5)), used(usedBytesOfThisThread()) {}
+  Bags() { record.runtimeState = &state; }
   ~Bags() override {
-    record->runtime->resetState(record);
+    BagTable_delete(state.bagTable);
     EXPECT_EQ(usedBytesOfThisThread(), used);
-    TorvaneLibraryData_free(record);
   }
 
   mint call(const char *name, std::vector<void *> arguments, void *result = nullptr) {
-    return lookupRuntimeFunction(name)(record, mint(arguments.size()), arguments.data(), result);
+    return lookupRuntimeFunction(name)(&record, mint(arguments.size()), arguments.data(), result);
   }
   mint newBag(mint type) {
     mint number = -1;
@@ -75,7 +74,7 @@ protected:
     MTensor *handle = vector.get();
     return call("BagPart", {&bag, &kind, &handle}, slot);
   }
-  const Bag *bag(mint number) { return BagTable_get(runtimeState(record)->bagTable, number); }
+  const Bag *bag(mint number) { return BagTable_get(state.bagTable, number); }
 
   template <class Element> std::vector<Element> elementsOf(mint number) {
     MTensor *slot = nullptr;
@@ -96,8 +95,9 @@ protected:
     return number;
   }
 
-  TorvaneLibraryData *const record;
-  const uint32_t used;
+  RuntimeState state = {};
+  TorvaneLibraryData record = {};
+  const uint32_t used = usedBytesOfThisThread();
 };
 
 // ---- against a vector ----

@@ -102,7 +102,7 @@ the_codes_are_those_of_the_documents)
       else for (n = range[1]; n <= (2 in range ? range[2] : range[1]); n++) print part, n
     }' "$source/docs/errors.md" | sort >documents
   "$program" --codes | awk -F: '{ print $1 }' | sort >codes
-  [ "$(wc -l <codes)" -eq 34 ] || fail "$(cat codes)"
+  [ "$(wc -l <codes)" -ge 30 ] || fail "$(cat codes)"
   cmp documents codes || fail "$(diff documents codes)"
   ;;
 a_missing_library_is_named)

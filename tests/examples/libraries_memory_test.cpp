@@ -43,11 +43,20 @@ protected:
   }
 
   // The first run leaves what the thread keeps, such as a generator.
-  void expectNothingKept(LibraryEntry entry, const std::vector<std::string> &words, mint status) {
+  void expectNothingKept(LibraryEntry entry, const std::vector<std::string> &words, mint status,
+                         uint32_t allowed = 0) {
     EXPECT_EQ(runQuietly(entry, words), status);
     const uint32_t before = torvane::usedBytesOfThisThread();
     EXPECT_EQ(runQuietly(entry, words), status);
-    EXPECT_EQ(torvane::usedBytesOfThisThread(), before);
+    EXPECT_EQ(torvane::usedBytesOfThisThread(), before + allowed);
+  }
+
+  // A random block leaves a cell behind when it ends, which is the runtime's custom and not a library's.
+  uint32_t bytesKeptByARandomBlock() {
+    const uint32_t before = torvane::usedBytesOfThisThread();
+    for (const char *name : {"BlockRandomBegin", "BlockRandomEnd"})
+      record->runtime->lookupRuntimeFunction(name)(record, 0, nullptr, nullptr);
+    return torvane::usedBytesOfThisThread() - before;
   }
 
   std::string file(const std::string &text) {
@@ -69,11 +78,11 @@ TEST_F(Library, ClusterKeepsNothing) {
   expectNothingKept(clusterEntry, {data + "/iris.csv", "3", path}, 0);
   expectNothingKept(clusterEntry, {file("a,b\n1,2\n1,2\n"), "2"}, 4);
   expectNothingKept(clusterEntry, {file("a,b\n1,2\n1\n"), "2"}, 4);
-  expectNothingKept(clusterEntry, {file("a\n1e200\n-1e200\n"), "2"}, 1);
+  expectNothingKept(clusterEntry, {file("a\n1e200\n-1e200\n"), "2"}, 1001);
 }
 
 TEST_F(Library, BallKeepsNothing) {
-  expectNothingKept(ballEntry, {"3", "10000"}, 0);
+  expectNothingKept(ballEntry, {"3", "10000"}, 0, bytesKeptByARandomBlock());
   expectNothingKept(ballEntry, {"3", "10"}, 4);
 }
 
@@ -89,9 +98,6 @@ TEST_F(Library, ImageKeepsNothing) {
   expectNothingKept(imageEntry, {rings, path, "deep", "negative"}, 0);
   expectNothingKept(imageEntry, {rings, "no/such/folder/file"}, 4);
   expectNothingKept(imageEntry, {file("P5 2 2 255 ab"), path}, 4);
-  std::vector<std::string> words = {rings, path};
-  for (int i = 0; i < 110; ++i) words.insert(words.end(), {"gain", "1000"});
-  expectNothingKept(imageEntry, words, 1);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 # pagerank.awk -v damping=D LINKS REPORT: holds a report of `pagerank` against power iteration with the whole matrix of
 # chances, the random starts included: so many steps that damping^steps is below a billionth.
-function close(a, b) { return a - b < 2e-9 && b - a < 2e-9 }
+function near(a, b) { return a - b < 2e-9 && b - a < 2e-9 }
 function number(name) { if (!(name in numbers)) { numbers[name] = ++n; } return numbers[name] }
 function iterate(   step, i, j, steps) {
   for (i = 1; i <= n; i++) for (j = 1; j <= n; j++)
@@ -18,7 +18,7 @@ FNR == 2 { next }
 {
   k = numbers[$2]
   if (!k || seen[k]++) { print "page " $2; bad = 1 }
-  if (!close($3, score[k])) { print $2 ": " $3 ", not " score[k]; bad = 1 }
+  if (!near($3, score[k])) { print $2 ": " $3 ", not " score[k]; bad = 1 }
   if ($4 != into[k] + 0 || $5 != out[k] + 0) { print $2 ": links " $4 " " $5; bad = 1 }
   if ($1 != FNR - 2) { print "rank " $1; bad = 1 }
   if (FNR > 3 && $3 > last) { print "order at " $2; bad = 1 }

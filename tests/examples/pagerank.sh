@@ -1,7 +1,6 @@
 #!/bin/bash
 # pagerank.sh PROGRAM SOURCE CASE: runs one case of the library `pagerank` in the host; exit status 0 when it holds.
 . "$(dirname "$0")/cases.sh"
-library=$(dirname "$program")/libraries/pagerank.so
 links=$source/examples/data/documents.links
 
 # agrees FILE [DAMPING]: the scores are those that awk computes from the file with a dense matrix.
@@ -10,14 +9,6 @@ agrees() {
   [ ! -s err ] || fail "stderr: $(cat err)"
   awk -v damping="${2:-0.85}" -f "$here/pagerank.awk" "$1" out || fail "$(cat out)"
 }
-
-# refused_with STATUS MESSAGE ARGUMENTS...: the message, then the host's own about the status.
-refused_with() {
-  local status=$1 message=$2
-  shift 2
-  refused 1 "$message${message:+$'\n'}host: $library: status $status" "$library" "$@"
-}
-bad='4: a value is out of range, or a kernel failed'
 
 case $case in
 the_shipped_links_agree_with_a_dense_iteration) agrees "$links" && agrees "$links" 0.5 && agrees "$links" 0 && agrees "$links" 0.99 ;;
@@ -35,7 +26,7 @@ a_star_has_its_closed_form)
 a_link_that_stands_twice_counts_twice) table 'a b\na b\na c\nc a\n' && agrees t.csv ;;
 pages_that_link_to_themselves_and_nowhere_are_pages) table 'a a\na b\nc a\n' && agrees t.csv ;;
 a_random_graph_agrees_with_a_dense_iteration)
-  awk 'BEGIN { srand(5); for (i = 0; i < 1500; i++) print "p" int(150 * rand() * rand()), "p" int(150 * rand()) }' >t.csv
+  awk 'BEGIN { srand(5); for (i = 0; i < 500; i++) print "p" int(70 * rand() * rand()), "p" int(70 * rand()) }' >t.csv
   agrees t.csv
   ;;
 comments_blanks_and_carriage_returns_do_not_matter)

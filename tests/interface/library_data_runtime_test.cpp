@@ -1,5 +1,5 @@
 // The runtime table of the record, through the record alone: parts, operators, generators, functions by name.
-#include "runtime/library_record.h"
+#include "interface/library_record.h"
 #include "support/failing_heap.h"
 #include <torvane/operators.h>
 #include <torvane/parts.h>
@@ -200,7 +200,7 @@ TEST_F(RecordRuntime, SeededGeneratorIsASnapshotToActivate) {
   EXPECT_EQ(runtime->seededGenerator("no such method", nullptr, &seed, 1), nullptr);
 }
 
-TEST_F(RecordRuntime, SharedScalarsAreTheThreadsOwn) {
+TEST_F(RecordRuntime, SharedScalarsAreTheLibrarys) {
   const mreal value = 2.5;
   MTensor *shared = runtime->sharedRankZero(&value, TORVANE_TYPE_REAL, 1);
   EXPECT_EQ(shared, *LoadSharedRankZeroMTensor(nullptr, TORVANE_TYPE_REAL, 1));

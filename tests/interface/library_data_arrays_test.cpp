@@ -1,5 +1,5 @@
 // The tables of sparse, pixel and numeric arrays, through the record alone.
-#include "runtime/library_record.h"
+#include "interface/library_record.h"
 #include "support/failing_heap.h"
 
 #include <cstring>

@@ -1,5 +1,5 @@
 // The record's own words, through the record alone: tensors made, read and written by element and by part.
-#include "runtime/library_record.h"
+#include "interface/library_record.h"
 #include "support/failing_heap.h"
 #include "support/polling.h"
 #include <torvane/failure.h>
