@@ -141,8 +141,11 @@ int perform(const Job &job) {
   write(source, text);
   const fs::path library = job.runs ? workshop.path / job.output.filename() : fs::absolute(job.output);
   build(source, library);
-  return job.runs ? run({setting("TORVANEC_HOST", TORVANEC_HOST), "--style", job.style, library.string()})
-                  : 0;
+  if (!job.runs) return 0;
+  Words words = {setting("TORVANEC_HOST", TORVANEC_HOST)};
+  if (!job.style.empty()) words.insert(words.end(), {"--style", job.style});
+  words.push_back(library.string());
+  return run(words);
 }
 
 } // namespace
