@@ -82,7 +82,8 @@ template <class Number, int kLength> struct ShortBlocks {
 private:
   using Count = std::conditional_t<sizeof(Number) == 8, int64_t, mint>;
   Number last() const { return pattern[kLength - 1]; }
-  static bool matchesAt(const Number *block, Number one, Number other) {
+  static bool matchesAt(const Number *block, Number one, [[maybe_unused]] Number other) {
+    if constexpr (kLength == 1) return block[0] == one;
     return (block[0] == one) & (block[kLength - 1] == other);
   }
 };

@@ -85,16 +85,8 @@ mint uniteInto(ResultTensor &result, MTensor *const *tensors, mint count) {
   return status;
 }
 
-mint walkBy(mint mode, const MTensor *kept, mint count, const MTensor *other) {
-  return withRows(kept, [=]<class Element>(Element *rows) {
-    const KeptRows<Element> walked = {rows, count, rowLengthOf(kept)};
-    const auto *others = static_cast<const Element *>(other->data);
-    return mode == kIntersection ? walk<kIntersection>(walked, others, rowCountOf(other))
-                                 : walk<kComplement>(walked, others, rowCountOf(other));
-  });
-}
-
-// The rows of one tensor in order, in space that the next may have again.
+// The rows of one tensor in order, in space that the next may have again. Of single numbers each is there
+// once: a walk would pass its repetitions by one at a time.
 class SortedRows {
 public:
   SortedRows() = default;
@@ -106,19 +98,32 @@ public:
   // sorted: a sort that finds them in order would end the process for want of it.
   mint sort(MTensor *tensor) {
     rows = tensor;
+    distinct = rowCountOf(tensor);
     if (tensor->elementCount < 2) return kSuccess;
-    const mint status =
-        MTensor_allocateCommon(&space, tensor->type, tensor->rank, tensor->dimensions, kReport);
+    mint status = MTensor_allocateCommon(&space, tensor->type, tensor->rank, tensor->dimensions, kReport);
+    if (status == kSuccess) status = Runtime_MTensor_Sort(&space, tensor);
     if (status != kSuccess) return status;
     rows = space;
-    return Runtime_MTensor_Sort(&space, tensor);
+    if (walksSingles(tensor->type, rowLengthOf(tensor))) distinct = keepDistinctOf(space);
+    return kSuccess;
   }
-  const MTensor *get() const { return rows; }
+  const void *data() const { return rows->data; }
+  mint count() const { return distinct; }
 
 private:
   MTensor *space = nullptr;
   const MTensor *rows = nullptr;
+  mint distinct = 0;
 };
+
+mint walkBy(mint mode, const MTensor *kept, mint count, const SortedRows &other) {
+  return withRows(kept, [&]<class Element>(Element *rows) {
+    const KeptRows<Element> walked = {rows, count, rowLengthOf(kept)};
+    const auto *others = static_cast<const Element *>(other.data());
+    return mode == kIntersection ? walk<kIntersection>(walked, others, other.count())
+                                 : walk<kComplement>(walked, others, other.count());
+  });
+}
 
 mint walkOthers(MTensor *result, MTensor *const *others, mint count, mint mode) {
   SortedRows sorted;
@@ -126,7 +131,7 @@ mint walkOthers(MTensor *result, MTensor *const *others, mint count, mint mode) 
   for (mint i = 0; i < count && rows > 0; ++i) {
     const mint status = sorted.sort(others[i]);
     if (status != kSuccess) return status;
-    rows = walkBy(mode, result, rows, sorted.get());
+    rows = walkBy(mode, result, rows, sorted);
   }
   cutTo(result, rows);
   return result->elementCount == 0 && result->rank != 1 ? kNothingLeft : kSuccess;

@@ -118,6 +118,9 @@ mint walkRows(KeptRows<Element> kept, const Element *other, mint otherCount) {
   return kMode == kIntersection ? kept.write : kept.keepRest();
 }
 
+// Complex numbers go as rows do: repetitions count there, because the order of the walk is not the sort's.
+inline bool walksSingles(mint type, mint length) { return length == 1 && type != TORVANE_TYPE_COMPLEX; }
+
 // How many rows are kept.
 template <mint kMode, class Element>
 mint walk(const KeptRows<Element> &kept, const Element *other, mint otherCount) {

@@ -425,7 +425,7 @@ template <class Element> NamedCall callOnMany(mint mode, Values values, mint len
 TEST_F(Sets, WithoutMemoryFailAndLeaveEverythingOrFindAnotherWay) {
   const Tensor warm = newTensor(TORVANE_TYPE_REAL, {2}), warmToo = newTensor(TORVANE_TYPE_REAL, {3, 2});
   const std::pair<mint, bool> ways[] = {{kUnion, false}, {kComplement, true}, {kIntersection, false}};
-  for (const auto [mode, isInPlace] : ways) {
+  for (const auto &[mode, isInPlace] : ways) {
     EXPECT_GE(expectSurvivesFailures(callOnMany<mint>(mode, Values::wide, 1), isInPlace), 1);
     EXPECT_GE(expectSurvivesFailures(callOnMany<mint>(mode, Values::ascending, 1), isInPlace), 1);
     EXPECT_GE(expectSurvivesFailures(callOnMany<mreal>(mode, Values::few, 1), isInPlace), 1);
