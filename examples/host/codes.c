@@ -33,6 +33,7 @@ static const Code statuses[] = {
     {4, "", "a value is out of range, or a kernel failed"},
     {5, "", "no memory for a result"},
     {6, "", "a service that the library does not provide, or a conversion that failed"},
+    {7, "", "nothing is left of a set of rows"},
     {11, "", "the generator lacks a function"},
     {12, "", "a wrong number of arguments, or an unknown function"},
     {14, "", "the plain random function"},
