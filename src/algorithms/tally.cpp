@@ -67,6 +67,10 @@ public:
 
   void count(const mint *x, mint length) {
     std::fill_n(counts.get(), tables * size, 0);
+    if (size == 1) {
+      counts[0] = length; // one value, whose turns would wait for one another
+      return;
+    }
     tables == 1 ? countOneByOne(x, length) : countInLanes(x, length);
   }
   mint distinct() { return size - static_cast<mint>(std::count(counts.get(), counts.get() + size, 0)); }
