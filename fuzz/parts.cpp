@@ -20,7 +20,7 @@ Selector takeSelector(Input &input, mint extent) {
   };
   switch (below(input, 16)) {
   case 0:
-    return unknown(takeInteger(input));
+    return unknown(oneIn(input, 2) ? -1 : 4 + below(input, 9));
   case 1:
   case 2:
     return all();
