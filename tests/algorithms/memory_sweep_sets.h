@@ -82,7 +82,7 @@ inline const std::vector<ArgumentSet> &argumentSets() {
       TORVANE_SET(OuterTimes, refused, .tensor(reals({600})).tensor(reals({600})).integer(1).integer(1).integer(0)),
       TORVANE_SET(OuterPlus, none, .tensor(reals({4, 2})).tensor(reals({3, 2})).integer(1).integer(1).integer(0)),
       TORVANE_SET(OuterPlus, refused, .tensor(reals({1, kMany})).tensor(reals({2, kMany})).integer(1).integer(1).integer(0)),
-      TORVANE_SET(Insert, none, .tensor(reals({4})).tensor(reals({})).vector({2})),
+      TORVANE_SET(Insert, none, .tensor(reals({4})).tensor(reals({})).tensor(tensorOf<mint>({1, 1}, {2}))),
       TORVANE_SET(Insert, refused, .tensor(reals({kMany})).tensor(reals({})).tensor(tensorOf<mint>({1, 1}, {2}))),
       TORVANE_SET(Delete, none, .tensor(reals({4})).tensor(tensorOf<mint>({1, 1}, {2}))),
       TORVANE_SET(Delete, refused, .tensor(reals({kMany})).tensor(tensorOf<mint>({1, 1}, {2}))),

@@ -82,6 +82,13 @@ public:
     if (row.is("Join")) call.tensorAt(0)->dimensions[0] = original.tensorAt(0)->dimensions[0];
   }
 
+  // Draws of complexes leave their scratch allocated.
+  uint32_t keptBytes() const {
+    const auto ofDraw = [](mint count) { return allocatedBytesFor(uint32_t(count) * sizeof(mreal)); };
+    if (row.is("RandomComplex")) return ofDraw(1);
+    return row.is("RandomComplexes") ? ofDraw(expected.slot->elementCount) : 0;
+  }
+
 private:
   const NamedRow &row;
   const Yields yields;
@@ -110,7 +117,8 @@ SweptOperation operationOf(const ArgumentSet &set, SweptFunction &function) {
           [&set](mint status) { return rowOf(set.name).mayReturn(status); },
           [&function] { return function.refused(); },
           [&function] { return function.isRight(); },
-          [&function] { function.release(); }};
+          [&function] { function.release(); },
+          function.keptBytes()};
 }
 
 SweepOutcome sweep(const ArgumentSet &set, SweepKind kind) {
@@ -147,7 +155,9 @@ TEST_F(MemorySweep, FailuresOfSmallBlocksAreStatusesOfTheRowOrEndTheProcess) {
     if (!rowOf(set.name).hasLanded() || set.large != Large::none) continue;
     const SweepOutcome outcome = sweep(set, SweepKind::cold);
     EXPECT_EQ(outcome.faults, "") << set.name;
-    if (set.yields == Yields::tensor) EXPECT_GT(outcome.requests, 0) << set.name;
+    // The seed before a draw has left blocks of the sizes that small draws ask for.
+    if (set.yields == Yields::tensor && rowOf(set.name).kind == kPure)
+      EXPECT_GT(outcome.requests, 0) << set.name;
   }
 }
 

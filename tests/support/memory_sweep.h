@@ -21,6 +21,7 @@ struct SweptOperation {
   std::function<std::string()> refused; // after another status than 0: what is wrong with slot and operands
   std::function<bool()> isRight;        // after 0: whether the result is what it is with memory
   std::function<void()> release;        // of the result; after every run
+  uint32_t keptBytes = 0;               // that a success leaves allocated, by its definition
 };
 
 struct SweepOutcome {
