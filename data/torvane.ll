@@ -3432,6 +3432,8 @@ declare void @InitRuntimeLibrary(i32)
 declare void @InitializeRuntimeLibrary()
 declare void @TorvaneRTL_initialize()
 declare void @InitializeTorvaneRTL(ptr, ptr, ptr)
+declare ptr @TorvaneLibraryData_new(i32)
+declare void @TorvaneLibraryData_free(ptr)
 @RTL_exceptionStyle = external global i32
 @RTL_exceptionActive = external global i32
 declare void @throwTorvaneException(i32)

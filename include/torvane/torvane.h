@@ -20,6 +20,7 @@
 #include "random.h"
 #include "distributions.h"
 #include "registry.h"
+#include "library_data.h"
 #include "sorting.h"
 #include "sparse_arrays.h"
 #include "transposition.h"

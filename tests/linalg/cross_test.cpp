@@ -13,7 +13,7 @@ namespace {
 
 class Cross : public NamedFunctions {
 protected:
-  Cross() { record.words[27] = &state; }
+  Cross() { record.runtimeState = &state; }
 
   TorvaneLibraryData *withFlags(intptr_t flags) {
     state.arithmeticFlags = flags;
@@ -122,7 +122,7 @@ TEST_F(Cross, ChecksAsTheCallersArithmeticDoes) {
 TEST_F(Cross, ChecksNothingWithoutARecordOrItsState) {
   MTensor *slot = nullptr;
   EXPECT_EQ(cross<mint>({0, 65536, 0}, {0, 0, 65536}).run(&slot), 0);
-  record.words[27] = nullptr;
+  record.runtimeState = nullptr;
   EXPECT_EQ(cross<mint>({0, 65536, 0}, {0, 0, 65536}).run(&slot, &record), 0);
   MTensor_delete(slot);
 }

@@ -37,7 +37,7 @@ TEST_F(EveryDraw, WithoutAGeneratorTensorsByNameAreRefused) {
 TEST_F(EveryDraw, FirstInABlockLeavesTheSequenceToTheOutside) {
   RuntimeState state = {};
   TorvaneLibraryData context = {};
-  context.words[27] = &state;
+  context.runtimeState = &state;
   for (const mint method : {1, 3}) {
     const uint32_t seed = 20261121;
     ASSERT_EQ(Runtime_SeedRandom(&seed, method), 0);

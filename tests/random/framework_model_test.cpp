@@ -41,7 +41,7 @@ mint codeOf(const std::string &method) { return method == "ExtendedCA" ? 1 : 3; 
 // A thread's real generators beside the model's, with a library context of its own.
 class Pair {
 public:
-  explicit Pair(unsigned seed) : choose(seed) { context.words[27] = &state; }
+  explicit Pair(unsigned seed) : choose(seed) { context.runtimeState = &state; }
 
   void run(int steps) {
     for (int i = 0; i < steps && !testing::Test::HasFailure(); ++i) {

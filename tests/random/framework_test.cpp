@@ -29,7 +29,7 @@ mint refCountOf(const RandomGenerator *generator) { return generator->info->refC
 
 // A library context with what the handlers of blocks need of it.
 struct Context {
-  Context() { record.words[27] = &state; }
+  Context() { record.runtimeState = &state; }
   mint call(const char *name, std::vector<void *> arguments = {}) {
     return lookupRuntimeFunction(name)(&record, mint(arguments.size()), arguments.data(), nullptr);
   }

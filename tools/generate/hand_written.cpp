@@ -5,6 +5,7 @@
 #include <torvane/elementwise.h>
 #include <torvane/failure.h>
 #include <torvane/integers.h>
+#include <torvane/library_data.h>
 #include <torvane/linalg.h>
 #include <torvane/lists.h>
 #include <torvane/memory.h>
@@ -54,6 +55,7 @@ SPELLING(MTensor, "MTensor")
 SPELLING(MNumericArray, "MNumericArray")
 SPELLING(MSparseArray, "MSparseArray")
 SPELLING(TensorProperty, "TensorProperty")
+SPELLING(TorvaneLibraryData, "TorvaneLibraryData")
 SPELLING(CompilerError, "CompilerError")
 SPELLING(TorvaneUnaryRoutine, "TorvaneUnaryRoutine")
 SPELLING(TorvaneBinaryRoutine, "TorvaneBinaryRoutine")
