@@ -4,6 +4,7 @@
 #include "limited_heap.h"
 #include "named_arguments.h"
 
+#include "algorithms/bags.h"
 #include "runtime/library_data.h"
 #include "runtime/memory.h"
 
@@ -191,11 +192,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count) {
   Context context;
   const uint32_t before = usedBytesOfThisThread();
   context.state.arithmeticFlags = below(input, 8);
-  for (int calls = 0; calls < 6 && !input.isEmpty(); ++calls) {
+  for (int calls = 0; calls < 10 && !input.isEmpty(); ++calls) {
     const NamedRow *row = &kNamedRows[input.take<uint8_t>() % std::size(kNamedRows)];
     if (row->hasLanded() && !row->is("BlockRandomEnd")) callOnce(row, input, context);
   }
   endBlocks(context);
+  BagTable_delete(context.state.bagTable);
   require(context.keepsScratch || usedBytesOfThisThread() == before);
   return 0;
 }
