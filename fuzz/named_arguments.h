@@ -99,6 +99,7 @@ private:
     case 's':
       return addSelector();
     case 'i':
+      if (parameter.word == "bag") return addInteger(below(input, 3));
       return addInteger(parameter.word == "flags" ? below(input, 8) : takeInteger(input));
     default:
       return drawn.arguments.push_back({parameter.kind, 0, takeReal(input), takeComplex(input), 0});

@@ -191,7 +191,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t count) {
   Context context;
   const uint32_t before = usedBytesOfThisThread();
   context.state.arithmeticFlags = below(input, 8);
-  for (int calls = 0; calls < 6 && !input.isEmpty(); ++calls) {
+  for (int calls = 0; calls < 10 && !input.isEmpty(); ++calls) {
     const NamedRow *row = &kNamedRows[input.take<uint8_t>() % std::size(kNamedRows)];
     if (row->hasLanded() && !row->is("BlockRandomEnd")) callOnce(row, input, context);
   }
