@@ -2,6 +2,7 @@
 // arguments and an empty slot as they were, and the same call with memory gives what it should.
 #include "memory_sweep_sets.h"
 
+#include "algorithms/bags.h"
 #include "runtime/library_data.h"
 #include "support/memory_sweep.h"
 #include "support/named_rows.h"
@@ -49,12 +50,14 @@ public:
   ~SweptFunction() {
     result = expected;
     release();
+    BagTable_delete(state.bagTable);
   }
   SweptFunction(const SweptFunction &) = delete;
   SweptFunction &operator=(const SweptFunction &) = delete;
 
   // The same stream for every run.
   void prepare() {
+    renewBags();
     const uint32_t seed = 5;
     if (row.kind != kPure) Runtime_SeedRandom(&seed, 3);
   }
@@ -79,6 +82,7 @@ public:
     if (yields == Yields::tensor) MTensor_delete(result.slot);
     result = {};
     endBlocks();
+    renewBags();
     if (row.is("Join")) call.tensorAt(0)->dimensions[0] = original.tensorAt(0)->dimensions[0];
   }
 
@@ -100,6 +104,15 @@ private:
 
   bool isUntouched(size_t i) const {
     return isValidTensor(call.tensorAt(i)) && isSame(call.tensorAt(i), original.tensorAt(i));
+  }
+  // None, or bag 0, of reals, for the functions that use one; what is read from it is there.
+  void renewBags() {
+    BagTable_delete(std::exchange(state.bagTable, nullptr));
+    if (!row.isOneOf({"StuffBag", "StuffBagScalar", "BagPart"})) return;
+    state.bagTable = BagTable_new();
+    Bag *bag = BagTable_get(state.bagTable, BagTable_add(state.bagTable, TORVANE_TYPE_REAL));
+    const Tensor elements = reals({kMany});
+    if (row.is("BagPart")) Bag_append(bag, kMany, elements->data);
   }
   // The cell of a block stays when the block ends, so that it is counted here.
   void endBlocks() {
