@@ -96,7 +96,7 @@ void drawInto(mint count, mint *status, std::vector<Element> &drawn, Draw draw) 
   }
 }
 
-mint takeCount(Input &input) { return oneIn(input, 16) ? -takeInteger(input) % 3000 : below(input, 50); }
+mint takeCount(Input &input) { return oneIn(input, 16) ? takeInteger(input) % 3000 : below(input, 50); }
 
 void drawIntegers(Input &input) {
   const mint a = takeInteger(input), b = takeInteger(input), count = takeCount(input);
