@@ -70,12 +70,14 @@ template <class Number, int kLength> struct ShortBlocks {
 
   static constexpr mint kStep = 256;
   bool matches(mint k) const { return matchesAt(data + ptrdiff_t{k} * kLength, pattern[0], last()); }
-  // The count is as wide as the numbers, so that their comparison is what is added up.
+  // The count is as wide as the numbers, so that their comparison is what is added up. GCC sees that where
+  // the count is stepped under a condition, and not where the condition is added.
   mint count(mint first, mint blocks) const {
     const Number *block = data + ptrdiff_t{first} * kLength;
     const Number one = pattern[0], other = last();
     Count found = 0;
-    for (mint k = 0; k < blocks; ++k) found += matchesAt(block + ptrdiff_t{k} * kLength, one, other);
+    for (mint k = 0; k < blocks; ++k)
+      if (matchesAt(block + ptrdiff_t{k} * kLength, one, other)) ++found;
     return static_cast<mint>(found);
   }
 
