@@ -140,21 +140,21 @@ Operands operandsOf(mint count) {
 mint getPart(MTensor **slot, const Operands &on) {
   MTensor *list = on.indices.get();
   const mint kind = TORVANE_PART_LIST;
-  void *const spec = &list;
-  return MTensor_getParts(nullptr, slot, on.x.get(), 2, 1, &kind, &spec);
+  void *const given = &list;
+  return MTensor_getParts(nullptr, slot, on.x.get(), 2, 1, &kind, &given);
 }
 
 Done setPart(const Operands &on) {
   const mint kind = TORVANE_PART_ALL;
-  void *const spec = nullptr;
-  return {MTensor_setParts(on.x.get(), on.x.get(), 2, 1, &kind, &spec), "", ""};
+  void *const given = nullptr;
+  return {MTensor_setParts(on.x.get(), on.x.get(), 2, 1, &kind, &given), "", ""};
 }
 
 mint getArrayPart(MNumericArray **slot, const Operands &on) {
   MTensor *list = on.indices.get();
   const mint kind = TORVANE_PART_LIST;
-  void *const spec = &list;
-  return MNumericArray_getParts(nullptr, slot, on.array.get(), 1, 1, &kind, &spec);
+  void *const given = &list;
+  return MNumericArray_getParts(nullptr, slot, on.array.get(), 1, 1, &kind, &given);
 }
 
 // A new array, or the array itself, which stays.
