@@ -4,7 +4,9 @@
 include(CMakePackageConfigHelpers)
 set(torvane_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TorvaneRTL)
 
-install(TARGETS TorvaneRTL_Minimal EXPORT TorvaneRTLTargets)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
+install(TARGETS TorvaneRTL_Minimal EXPORT TorvaneRTLTargets
+        LIBRARY COMPONENT runtime NAMELINK_COMPONENT development)
 install(DIRECTORY include/torvane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} PATTERN detail EXCLUDE)
 # The bodies behind scalars_inline.hpp. In the source tree include/torvane/detail leads to them by links.
 set(torvane_detail_dir ${CMAKE_INSTALL_INCLUDEDIR}/torvane/detail)

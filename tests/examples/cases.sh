@@ -34,3 +34,14 @@ refused() {
 
 # table TEXT: writes t.csv.
 table() { printf "$1" >t.csv; }
+
+# The script of a compiled library runs it in the host: "$program" "$library" WORD...
+library=$(dirname "$program")/libraries/$(basename "$0" .sh).so
+bad='4: a value is out of range, or a kernel failed'
+
+# refused_with STATUS MESSAGE WORDS...: the library's message, if there is one, then the host's own about the status.
+refused_with() {
+  local status=$1 message=$2
+  shift 2
+  refused 1 "$message${message:+$'\n'}host: $library: status $status" "$library" "$@"
+}

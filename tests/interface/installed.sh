@@ -1,13 +1,22 @@
 #!/bin/bash
 # installed.sh WAY BUILD SOURCE COMPILER FLAGS: installs the build to a scratch prefix, moves the prefix, and
-# there builds and runs the README's program as a user would, by pkg_config or by find_package.
+# there builds and runs the README's program as a user would, by pkg_config or by find_package; with
+# debian_packages the same, by both, from where the packages put it.
 set -eu
 way=$1 build=$2 source=$3 compiler=$4 flags=${5-}
 flags=${flags//;/ }
 . "$source/tests/interface/readme.sh"
 work=$(mktemp -d) && trap 'rm -rf "$work"' EXIT
 
-cmake --install "$build" --prefix "$work/scratch" >"$work/log" || { cat "$work/log"; exit 1; }
+install_build() { cmake --install "$build" --prefix "$work/scratch"; }
+unpack_packages() {
+  cd "$build" && cpack -B "$work/packages" || return
+  for package in "$work"/packages/*.deb; do dpkg-deb -x "$package" "$work/root" || return; done
+  mv "$work/root/usr" "$work/scratch"
+}
+install=install_build
+[ "$way" != debian_packages ] || install=unpack_packages
+($install) >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
 mv "$work/scratch" "$work/moved"
 ! grep -rIl "$work/scratch" "$work/moved" || { echo "installed text names the prefix"; exit 1; }
 diff -r -x detail "$source/include/torvane" "$work/moved/include/torvane"
@@ -39,5 +48,9 @@ END
   build/program >got
 }
 
-by_"$way"
-diff wanted got
+ways=$way
+[ "$way" != debian_packages ] || ways="pkg_config find_package"
+for way in $ways; do
+  by_"$way"
+  diff wanted got
+done

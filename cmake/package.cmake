@@ -1,0 +1,32 @@
+# Debian packages, by `cpack` in the build folder: libtorvane-rtl0 with the shared library and libtorvane-rtl-dev
+# with headers, generated data and what pkg-config and CMake read.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME torvane-rtl)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT "the engineers of TorvaneRTL_Minimal")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL runtime development)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+if(TORVANE_ILP32)
+  set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE i386)
+endif()
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libtorvane-rtl${PROJECT_VERSION_MAJOR})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "run-time library of a numeric compiler")
+# What the library is linked to, asked of the system where its tool for that is installed.
+find_program(TORVANE_SHLIBDEPS dpkg-shlibdeps)
+if(TORVANE_SHLIBDEPS)
+  set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+endif()
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtorvane-rtl-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "headers of the run-time library of a numeric compiler")
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+include(CPack)
