@@ -1,5 +1,7 @@
-// Sparse arrays from positions beside Eigen's setFromTriplets, and back to dense tensors, in this process:
-// rounds alternate, and the least of each counts. Prints nanoseconds a position and our ratio to the peer.
+// Sparse arrays from positions beside Eigen's setFromTriplets, and to dense tensors, from them and copied
+// beside Eigen's same, in this process: rounds alternate, and the least of each counts. Prints nanoseconds a
+// position, or an element of the dense tensor, and our ratio to the peer. Filling the dense tensor stands
+// beside as the least that an expansion costs.
 //
 // Eigen also sorts the columns within rows and adds up repetitions; ours keeps the order of positions.
 //
@@ -87,6 +89,57 @@ void compare(const Case &c, int rounds, mint count) {
   std::printf("%-36s %8.2f %8.2f %7.2f\n", c.name, ours / count, peers / count, ours / peers);
 }
 
+// A matrix with an element in so many of a thousand places.
+MTensor *newDense(mint rows, mint columns, uint32_t ofThousand) {
+  std::mt19937 random(9);
+  const mint extents[] = {rows, columns};
+  MTensor *dense = CreatePackedArray(TORVANE_TYPE_REAL, 2, extents);
+  auto *elements = static_cast<mreal *>(dense->data);
+  for (mint i = 0; i < dense->elementCount; ++i) elements[i] = random() % 1000 < ofThousand ? 1.0 + i : 0;
+  return dense;
+}
+
+using Dense = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
+using Runs = std::vector<std::function<void()>>;
+
+void compareRuns(const char *what, mint ofThousand, mint count, int rounds, const Runs &runs) {
+  std::vector<double> least(runs.size(), 1e300);
+  const int repeats = std::max(1, 1000000 / count);
+  for (int round = 0; round < rounds; ++round)
+    for (size_t k = 0; k < runs.size(); ++k)
+      least[k] = std::min(least[k], nanoseconds([&] {
+                                      for (int i = 0; i < repeats; ++i) runs[k]();
+                                    }) / repeats);
+  std::printf("%-24s %5.1f %% %4s", what, ofThousand / 10.0, "");
+  for (const double time : least) std::printf(" %8.3f", time / count);
+  if (runs.size() > 1) std::printf(" %7.2f", least[0] / least[1]);
+  std::printf("\n");
+}
+
+void compareDense(int rounds, mint rows, mint columns, mint ofThousand) {
+  MTensor *dense = newDense(rows, columns, uint32_t(ofThousand)), *expanded = nullptr;
+  MTensor *one = LoadNewRankZeroMTensor(nullptr, TORVANE_TYPE_REAL);
+  MTensor_initialize(one, 1);
+  const Eigen::Map<const Dense> view(static_cast<mreal *>(dense->data), rows, columns);
+  MSparseArray *array = nullptr, *copy = nullptr, *changed = nullptr;
+  if (torvane::MSparseArray_fromTensor(dense, nullptr, &array) != 0) std::abort();
+  Matrix matrix = view.sparseView(), other;
+  Dense filled(rows, columns);
+  const auto fill = [&] { std::fill_n(filled.data(), filled.size(), double(rounds)); };
+  const mint count = dense->elementCount;
+  compareRuns("to a tensor", ofThousand, count, rounds,
+              {[&] { torvane::MSparseArray_toTensor(array, &expanded); }, [&] { filled = matrix; }, fill});
+  compareRuns("from a tensor", ofThousand, count, rounds,
+              {[&] { torvane::MSparseArray_fromTensor(dense, nullptr, &array); },
+               [&] { matrix = view.sparseView(); }, fill});
+  compareRuns("copy", ofThousand, count, rounds,
+              {[&] { torvane::MSparseArray_copyHandle(array, &copy); }, [&] { other = Matrix(matrix); }});
+  compareRuns("another background", ofThousand, count, rounds,
+              {[&] { torvane::MSparseArray_setBackground(array, one, &changed); }});
+  for (MTensor *tensor : {dense, expanded, one}) MTensor_delete(tensor);
+  for (MSparseArray *each : {array, copy, changed}) MSparseArray_delete(each);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -100,4 +153,7 @@ int main(int argc, char **argv) {
                         Case{"1000000 x 100, random", 1000000, 100, false, true},
                         Case{"100000 x 100000, by rows", 100000, 100000, true, true}})
     compare(c, rounds, count);
+  std::printf("\nns an element of the tensor %22s %8s %8s %7s\n", "ours", "Eigen", "fill", "ratio");
+  for (const mint ofThousand : {1, 10, 100, 500})
+    for (const mint rows : {100, 2000}) compareDense(rounds, rows, rows, ofThousand);
 }

@@ -23,24 +23,19 @@ template <class From, class To> mint castAll(To *to, const From *from, mint coun
   return convertAll([](From x) { return static_cast<RealPartOf<To>>(x); }, to, from, count);
 }
 
-// Integers between minus and plus 2^digits are exact in a real, and some beyond.
-template <class From, class To> Bounds<From> boundsOfTarget(const Conversion &conversion) {
-  if constexpr (isInteger<To>)
-    return boundsOf<To, From>(conversion.isSymmetric);
-  else
-    return {static_cast<From>(isSigned<From> ? -(int64_t{1} << kDigits<To>) : 0),
-            static_cast<From>(int64_t{1} << kDigits<To>)};
-}
-
+// Symmetric bounds, which nobody asks for without clipping, are not for lanes.
 template <class From, class To>
 mint fitAll(const Conversion &conversion, To *to, const From *from, mint count) {
   using Part = RealPartOf<To>;
+  using Rule = IntegerRule<From, To>;
   if constexpr (kAlwaysFits<From, Part>) return castAll(to, from, count);
-  const auto bounds = boundsOfTarget<From, Part>(conversion);
-  if constexpr (isInteger<To>)
+  if constexpr (isInteger<To>) {
+    const auto bounds = boundsOf<To, From>(conversion.isSymmetric);
     if (conversion.clips)
       return convertAll([=](From x) { return static_cast<To>(clamped(bounds, x)); }, to, from, count);
-  return convertBlocks<IntegerRule<From, To>>(conversion, BoundedLanes<From, Part>{bounds}, to, from, count);
+    if (conversion.isSymmetric) return convertOneByOne<Rule>(conversion, to, from, count);
+  }
+  return convertGroups<Rule>(conversion, BoundedLanes<From, Part>(), to, from, count);
 }
 
 template <class From, class To> mint scaleAll(To *to, const From *from, mint count) {

@@ -27,12 +27,12 @@ mint roundAll(const Conversion &conversion, To *to, const From *from, mint count
       const auto bounds = realBoundsOf<LaneReal<From, To>, To>(conversion.isSymmetric);
       const ClippingLanes<agrees, From, To> lanes = {bounds};
       if constexpr (agrees)
-        return convertBlocks<Rule>(conversion, lanes, to, from, count);
+        return convertGroups<Rule>(conversion, lanes, to, from, count);
       else
         return convertAll(lanes, to, from, count);
     }
     if (!conversion.clips && !conversion.isSymmetric && roundsToNearest())
-      return convertBlocks<Rule>(conversion, RoundingLanes<agrees, From, To>(), to, from, count);
+      return convertGroups<Rule>(conversion, RoundingLanes<agrees, From, To>(), to, from, count);
   }
   return convertOneByOne<Rule>(conversion, to, from, count);
 }
@@ -42,7 +42,7 @@ mint changeWidth(const Conversion &conversion, To *to, const From *from, mint co
   using Part = RealPartOf<To>;
   using Rule = RealRule<method, From, To>;
   if constexpr (sizeof(Part) < sizeof(From))
-    return convertBlocks<Rule>(conversion, NarrowingLanes<method>(), to, from, count);
+    return convertGroups<Rule>(conversion, NarrowingLanes<method>(), to, from, count);
   else
     return convertAll([](From x) { return static_cast<Part>(method == kRound ? nearestInteger(x) : x); }, to,
                       from, count);

@@ -58,7 +58,7 @@ inline constexpr bool kAlwaysFits = (isReal<To> || isSigned<To> ||
 
 // The values of From that an integer target holds.
 template <class From> struct Bounds { From low, high; };
-template <class To, class From> Bounds<From> boundsOf(bool isSymmetric) {
+template <class To, class From> constexpr Bounds<From> boundsOf(bool isSymmetric) {
   Bounds<From> bounds = {kLeast<From>, kMost<From>};
   if constexpr (kDigits<To> < kDigits<From>) bounds.high = static_cast<From>(kMost<To>);
   if constexpr (isSigned<From> && !isSigned<To>)

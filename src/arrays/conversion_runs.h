@@ -1,10 +1,13 @@
 // Loops of conversions over arrays.
 //
-// A rule that may fail goes through blocks. Lanes compute a block into a buffer without a branch and gather
-// what makes them suspect that an element fails, or is not for them; a block beyond suspicion is copied to
-// its place, and any other is converted one by one. So nothing behind a failing element is written, and the
-// common case is vector code. Lanes may suspect too much, never too little, and agree with the rule bit for
-// bit.
+// A loop runs by groups of a fixed length, which a compiler turns into vectors without a rest. The last group
+// ends where the array ends, and converts elements of the one before once more, to the same.
+//
+// A rule that may fail has lanes: they convert without a branch and gather what makes them suspect that an
+// element fails, or is not for them. A group is run for the suspicion alone, and then, from the nearest
+// cache, for its values; one that is suspected is converted one by one. So nothing behind a failing element
+// is written, and the common case is vector code. Lanes may suspect too much, never too little, and agree
+// with the rule bit for bit.
 #pragma once
 
 #include "conversion_rules.h"
@@ -13,27 +16,61 @@
 
 namespace torvane {
 
-inline constexpr size_t kBlockBytes = 8192;
+// The length of a group of elements of some width, known to whoever is given one in place of a count: long
+// enough for the suspicion of all its lanes to be gathered, short enough for the processor to look ahead into
+// the next one.
+template <mint width> struct Group {
+  static constexpr mint length = 1024 / width;
+  constexpr operator mint() const { return length; }
+};
 template <class From, class To>
-inline constexpr mint kBlockOf = kBlockBytes / (sizeof(From) > sizeof(To) ? sizeof(From) : sizeof(To));
+using GroupOf = Group<(sizeof(From) < sizeof(To) ? sizeof(To) : sizeof(From))>;
 
 // Where the accesses of a long loop are to cross no cache line: the wider elements' first line border. A
 // short loop does not gain what the beginning costs.
+inline constexpr mint kLongBytes = 16384;
 template <class From, class To> mint elementsUntilLine(const From *from, const To *to, mint count) {
-  if (count < 2 * kBlockOf<From, To>) return 0;
+  constexpr mint width = sizeof(From) < sizeof(To) ? sizeof(To) : sizeof(From);
+  if (count < kLongBytes / width) return 0;
   const auto address =
       sizeof(From) < sizeof(To) ? reinterpret_cast<uintptr_t>(to) : reinterpret_cast<uintptr_t>(from);
-  constexpr mint width = sizeof(From) < sizeof(To) ? sizeof(To) : sizeof(From);
   return static_cast<mint>(-address % 64) / width;
 }
 
-// For lanes that cannot fail: what stands before the border, and the rest.
+// convert(start, length) yields a status. The first group covers what stands before the line border.
+template <class Group, class Convert>
+[[gnu::always_inline]] inline mint forGroups(mint untilLine, mint count, Convert convert) {
+  constexpr mint kLength = Group::length;
+  if (count < kLength) return convert(0, count);
+  const mint last = count - kLength;
+  mint step = untilLine > 0 ? untilLine : kLength;
+  for (mint start = 0;; step = kLength) {
+    const mint status = convert(start, Group());
+    if (status != kSuccess || start == last) return status;
+    start = last - start > step ? start + step : last;
+  }
+}
+
+// Lanes are copied, so that in each of these the compiler drops what the other one is for.
+template <class Lanes, class From, class Length>
+[[gnu::always_inline]] inline bool suspect(Lanes lanes, const From *from, Length length) {
+  for (mint i = 0; i < length; ++i) static_cast<void>(lanes(from[i]));
+  return lanes.isSuspicious();
+}
+template <class Lanes, class From, class To, class Length>
+[[gnu::always_inline]] inline void runLanes(Lanes lanes, To *__restrict to, const From *__restrict from,
+                                            Length length) {
+  for (mint i = 0; i < length; ++i) store(to[i], lanes(from[i]));
+}
+
+// For lanes that cannot fail.
 template <class Lanes, class From, class To>
-mint convertAll(Lanes lanes, To *__restrict to, const From *__restrict from, mint count) {
-  mint i = 0;
-  for (mint end = elementsUntilLine(from, to, count); i < count; end = count)
-    for (; i < end; ++i) store(to[i], lanes(from[i]));
-  return kSuccess;
+mint convertAll(Lanes lanes, To *to, const From *from, mint count) {
+  return forGroups<GroupOf<From, To>>(elementsUntilLine(from, to, count), count,
+                                      [=](mint start, auto length) {
+                                        runLanes(lanes, to + start, from + start, length);
+                                        return mint{kSuccess};
+                                      });
 }
 
 template <class Rule, class From, class To>
@@ -47,46 +84,40 @@ template <class Rule, class From, class To>
   return kSuccess;
 }
 
-template <class Lanes, class From, class To>
-[[gnu::always_inline]] inline bool computeBlock(Lanes lanes, To *__restrict block,
-                                                const From *__restrict from, mint count) {
-  for (mint i = 0; i < count; ++i) store(block[i], lanes(from[i]));
-  return !lanes.isSuspicious();
-}
-
-// The length of a block is kept from the compiler's sight: where GCC knows its bound, it copies by a string
-// instruction, which doubles the time of all.
 template <class Rule, class Lanes, class From, class To>
-mint convertBlocks(const Conversion &conversion, Lanes lanes, To *to, const From *from, mint count) {
-  constexpr size_t length = kBlockOf<From, To>;
-  alignas(64) To block[length];
-  const auto total = static_cast<size_t>(count);
-  size_t done = 0;
-  for (auto end = static_cast<size_t>(elementsUntilLine(from, to, count)); done < total; end += length) {
-    const size_t n = (end < total ? end : total) - done;
-    if (computeBlock(lanes, block, from + done, static_cast<mint>(n))) {
-      __builtin_memcpy(to + done, block, n * sizeof(To));
-    } else {
-      const mint status = convertOneByOne<Rule>(conversion, to + done, from + done, static_cast<mint>(n));
-      if (status != kSuccess) return status;
-    }
-    done += n;
-  }
-  return kSuccess;
+mint convertGroups(const Conversion &conversion, Lanes lanes, To *to, const From *from, mint count) {
+  return forGroups<GroupOf<From, To>>(
+      elementsUntilLine(from, to, count), count, [&](mint start, auto length) -> mint {
+        if (suspect(lanes, from + start, length))
+          return convertOneByOne<Rule>(conversion, to + start, from + start, length);
+        runLanes(lanes, to + start, from + start, length);
+        return kSuccess;
+      });
 }
 
 // ---- lanes of integers ----
 
-// A block is in bounds if its least element and its greatest are.
+// Integers from -2^digits to below 2^digits are exact in a real, and some beyond.
+template <class From, class To> constexpr Bounds<From> safeBounds() {
+  if constexpr (isInteger<To>)
+    return boundsOf<To, From>(false);
+  else
+    return {static_cast<From>(isSigned<From> ? -(int64_t{1} << kDigits<To>) : 0),
+            static_cast<From>((int64_t{1} << kDigits<To>)-1)};
+}
+
+// The bounds are apart by a power of two less one, so that what lies beyond them has a bit beyond it.
 template <class From, class To> struct BoundedLanes {
-  Bounds<From> bounds;
-  From least = 0, most = 0; // 0 is within all bounds
+  static constexpr auto kLow = static_cast<Word<From>>(safeBounds<From, To>().low);
+  static constexpr auto kRange =
+      static_cast<Word<From>>(static_cast<Word<From>>(safeBounds<From, To>().high) - kLow);
+  static_assert((kRange & (kRange + 1)) == 0);
+  Word<From> strays = 0;
   To operator()(From x) {
-    least = x < least ? x : least;
-    most = x > most ? x : most;
+    strays |= static_cast<Word<From>>(static_cast<Word<From>>(x) - kLow);
     return static_cast<To>(x);
   }
-  bool isSuspicious() const { return least < bounds.low || most > bounds.high; }
+  bool isSuspicious() const { return (strays & ~kRange) != 0; }
 };
 
 // ---- lanes of reals ----

@@ -104,8 +104,6 @@ void copySteps(char *to, ptrdiff_t toStep, const char *from, ptrdiff_t fromStep,
 
 } // namespace
 
-bool isElementType(mint tag) { return tag >= 1 && tag <= kElementTypeCount; }
-
 MNumericArray *MNumericArray_newShaped(mint elementType, mint rank, const mint *dimensions) {
   if (rank < 1 || !hasExtents(rank, dimensions)) return nullptr;
   mint *block = copiedExtents(rank, dimensions);
@@ -124,11 +122,6 @@ MNumericArray *MNumericArray_newWithData(mint elementType, mint rank, const mint
   if (!isCopied) array->dimensions = nullptr; // the caller's again
   MNumericArray_delete(array);
   return nullptr;
-}
-
-bool haveOneShape(const MNumericArray *first, const MNumericArray *second) {
-  return first->rank == second->rank && first->elementCount == second->elementCount &&
-         std::equal(first->dimensions, first->dimensions + first->rank, second->dimensions);
 }
 
 // The block of extents is adopted, because the other array may have been made over extents that are not

@@ -7,6 +7,7 @@
 // counts too, and no array is made in the shape of one whose extents do not tell its count.
 #pragma once
 
+#include "../runtime/element_types.h"
 #include "../runtime/types.h"
 #include <torvane/numeric_arrays.h>
 
@@ -22,7 +23,7 @@ enum ArrayStatus : mint {
   kNoPass = 1305, // a value does not pass, or the destination does not match
 };
 
-bool isElementType(mint tag);
+inline bool isElementType(mint tag) { return tag >= 1 && tag <= kElementTypeCount; }
 
 // A new array, or null for the reasons that Runtime_CreateNumericArray states. The extents are copied and
 // checked one by one; without `copyDimensions` the block itself becomes the array's, and only their product
@@ -34,8 +35,14 @@ MNumericArray *MNumericArray_newWithData(mint elementType, mint rank, const mint
 // The same without payload, also where there are elements: for views, and for those who fill it in.
 MNumericArray *MNumericArray_newShaped(mint elementType, mint rank, const mint *dimensions);
 
-// Whether two arrays have the same extents and as many elements.
-bool haveOneShape(const MNumericArray *first, const MNumericArray *second);
+// Whether two arrays have the same extents and as many elements. A library's comparison of two ranges would
+// be a call for the few bytes of the extents.
+inline bool haveOneShape(const MNumericArray *first, const MNumericArray *second) {
+  if (first->rank != second->rank || first->elementCount != second->elementCount) return false;
+  for (mint i = 0; i < first->rank; ++i)
+    if (first->dimensions[i] != second->dimensions[i]) return false;
+  return true;
+}
 
 // A new array with the extents of another, its elements unset. Null when memory is short, the element type is
 // none, the rank is 0, or the extents were reset to another number of elements.

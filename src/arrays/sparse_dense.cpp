@@ -8,6 +8,8 @@
 #include "../tensor/scratch.h"
 #include "../tensor/tensor.h"
 
+#include <string.h>
+
 namespace torvane {
 
 namespace {
@@ -16,10 +18,21 @@ template <class Element> const Element *elementsOf(const MTensor *tensor) {
   return static_cast<const Element *>(tensor->data);
 }
 
+// run(isBackground). 0, the usual background, takes nothing but zeros, and a loop that knows it calls
+// nothing.
+template <class Element, class Run> auto withBackground(Element background, Run run) {
+  constexpr Element kZero = {};
+  if (memcmp(&background, &kZero, sizeof kZero) == 0)
+    return run([](Element x) { return equalsBackground(x, Element{}); });
+  return run([background](Element x) { return equalsBackground(x, background); });
+}
+
 template <class Element> mint countElements(const MTensor *tensor, Element background) {
   const Element *elements = elementsOf<Element>(tensor);
-  return static_cast<mint>(std::count_if(elements, elements + tensor->elementCount,
-                                         [&](Element x) { return !equalsBackground(x, background); }));
+  return withBackground(background, [&](auto isBackground) {
+    return tensor->elementCount -
+           static_cast<mint>(std::count_if(elements, elements + tensor->elementCount, isBackground));
+  });
 }
 
 // Row-major index within a row, from 0, as 1-based coordinates.
@@ -35,17 +48,24 @@ const mint *extentsInRow(const MSparseArray *array) {
   return array->property->dimensions + (sparseRank(array) == 1 ? 0 : 1);
 }
 
-template <class Element>
-void fillFrom(MSparseArray *array, const MTensor *tensor, Element background, Element *values) {
+// Every element is stored, and the next one over it unless it counts: which of them count is not to be
+// foreseen. Nothing is stored behind the last that does.
+template <class Element, class IsBackground>
+void fillFrom(MSparseArray *array, const MTensor *tensor, IsBackground isBackground) {
   const mint rows = sparseRowCount(array), length = rows == 0 ? 0 : tensor->elementCount / rows;
   const mint rank = coordinatesOfALine(sparseRank(array)), *extents = extentsInRow(array);
+  const mint count = array->elementCount;
+  auto *values = static_cast<Element *>(array->skeleton->values->data);
   const Element *element = elementsOf<Element>(tensor);
   mint found = 0;
-  for (mint row = 1; row <= rows; ++row) {
-    for (mint i = 0; i < length; ++i, ++element) {
-      if (equalsBackground(*element, background)) continue;
-      toCoordinates(i, extents, rank, array->columnIndexData + ptrdiff_t{found} * rank);
-      values[found++] = *element;
+  for (mint row = 1; row <= rows; ++row, element += length) {
+    for (mint i = 0; i < length && found < count; ++i) {
+      mint *line = array->columnIndexData + ptrdiff_t{found} * rank;
+      values[found] = element[i];
+      *line = i + 1;
+      const bool counts = !isBackground(element[i]);
+      if (rank > 1 && counts) toCoordinates(i, extents, rank, line);
+      found += counts;
     }
     array->rowPointerData[row] = found;
   }
@@ -67,7 +87,7 @@ template <class Element> MSparseArray *build(const MTensor *tensor, const MTenso
     MSparseArray_delete(array);
     return nullptr;
   }
-  fillFrom(array, tensor, value, static_cast<Element *>(array->skeleton->values->data));
+  withBackground(value, [&](auto isBackground) { fillFrom<Element>(array, tensor, isBackground); });
   return array;
 }
 
@@ -98,9 +118,18 @@ template <class Element> void writeElements(const MSparseArray *array, MTensor *
               [=](mint entry) { return offsetInRow(lines + ptrdiff_t{entry} * rank, extents, rank); });
 }
 
+// The system's own routine, which is for bytes, has the widest stores.
+template <class Element> void fill(MTensor *tensor, Element value) {
+  constexpr Element kZero = {};
+  const auto count = static_cast<size_t>(tensor->elementCount);
+  if (memcmp(&value, &kZero, sizeof kZero) == 0 && count > 0)
+    memset(tensor->data, 0, count * sizeof(Element));
+  else
+    std::fill_n(static_cast<Element *>(tensor->data), count, value);
+}
+
 template <class Element> void expand(const MSparseArray *array, MTensor *tensor) {
-  std::fill_n(static_cast<Element *>(tensor->data), tensor->elementCount,
-              scalarOf<Element>(array->skeleton->background));
+  fill(tensor, scalarOf<Element>(array->skeleton->background));
   if (sparseRank(array) > 0 && array->elementCount > 0) writeElements<Element>(array, tensor);
 }
 

@@ -17,18 +17,24 @@ namespace {
 bool isFinite(mreal x) { return x - x == 0; }
 bool isFinite(mcomplex x) { return isFinite(x.re) && isFinite(x.im); }
 
+// 0, or 1 and the result as it was.
 template <class T> mint storeTested(T *result, T dot, mint flags) {
-  if ((flags & TORVANE_CHECK_REALS) != 0 && !isFinite(dot)) return kNotFinite;
+  if ((flags & TORVANE_CHECK_REALS) != 0 && !isFinite(dot)) return 1;
   *result = dot;
-  return kSuccess;
+  return 0;
+}
+
+// Apart from the short dense sums: what lives across a call or a walk needs a frame, which they do without.
+[[gnu::noinline]] mint dotByBlas(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n,
+                                 mint flags) {
+  return storeTested(result, blasDot(n, x, incx, y, incy), flags);
+}
+[[gnu::noinline]] mint dotStrided(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n,
+                                  mint flags) {
+  return storeTested(result, sumOfProducts(x, incx, y, incy, n, kAsItIs), flags);
 }
 
 } // namespace
-
-mint dotReals(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags) {
-  if (n > kLongestInline) return storeTested(result, blasDot(n, x, incx, y, incy), flags);
-  return storeTested(result, sumOfProducts(x, incx, y, incy, n, kAsItIs), flags);
-}
 
 mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
                   bool conjugated, mint flags) {
@@ -36,28 +42,25 @@ mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex
   return storeTested(result, plainComplexDot(x, incx, y, incy, n, conjugated), flags);
 }
 
-mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags) {
-  const mint strides[] = {1, incx, incy};
-  mint dot = 0;
-  if (machfunc_ii_dot(&dot, startOf(x, incx, n), startOf(y, incy, n), n, strides, flags) != 0)
-    return kNotFinite;
-  *result = dot;
-  return kSuccess;
-}
-
 } // namespace torvane
 
 using namespace torvane;
 
 mint VectorDot_R64(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags) {
-  return dotReals(result, x, incx, y, incy, n, flags) != kSuccess;
+  if (n > kLongestInline) return dotByBlas(result, x, incx, y, incy, n, flags);
+  if (incx != 1 || incy != 1) return dotStrided(result, x, incx, y, incy, n, flags);
+  return storeTested(result, sumOfDenseProducts(x, y, n, kAsItIs), flags);
 }
 
 mint VectorDot_I(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags) {
-  return dotIntegers(result, x, incx, y, incy, n, flags) != kSuccess;
+  const mint strides[] = {1, incx, incy};
+  mint dot = 0;
+  if (machfunc_ii_dot(&dot, startOf(x, incx, n), startOf(y, incy, n), n, strides, flags) != 0) return 1;
+  *result = dot;
+  return 0;
 }
 
 mint VectorDot_CR64(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
                     mint flags) {
-  return dotComplexes(result, x, incx, y, incy, n, false, flags) != kSuccess;
+  return dotComplexes(result, x, incx, y, incy, n, false, flags);
 }

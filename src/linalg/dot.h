@@ -11,10 +11,7 @@ inline constexpr mint kLargestInline = 16;           // extents of a matrix by a
 inline constexpr mint kLongestSmallExtent = 1024;    // of a product of matrices,
 inline constexpr int64_t kLargestSmallVolume = 8000; // and the product of its three extents
 
-// Strides may be negative, and then walk from the far end, (1 - n) * stride elements from the pointer. 0, or
-// kNotFinite with the result as it was.
-mint dotReals(mreal *result, const mreal *x, mint incx, const mreal *y, mint incy, mint n, mint flags);
-mint dotIntegers(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags);
+// As VectorDot_CR64, and with `conjugated` of the conjugate of x.
 mint dotComplexes(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,
                   bool conjugated, mint flags);
 

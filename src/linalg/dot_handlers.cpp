@@ -2,6 +2,8 @@
 #include "../algorithms/handler.h"
 #include "dot.h"
 
+#include <torvane/linalg.h>
+
 namespace torvane {
 
 namespace {
@@ -12,12 +14,13 @@ mint dotVectors(void *result, const MTensor *x, const MTensor *y, mint flags) {
   const mint n = x->elementCount;
   switch (x->type) {
   case TORVANE_TYPE_INTEGER:
-    return dotIntegers(static_cast<mint *>(result), elementsOf<mint>(x), 1, elementsOf<mint>(y), 1, n, flags);
+    return VectorDot_I(static_cast<mint *>(result), elementsOf<mint>(x), 1, elementsOf<mint>(y), 1, n, flags);
   case TORVANE_TYPE_REAL:
-    return dotReals(static_cast<mreal *>(result), elementsOf<mreal>(x), 1, elementsOf<mreal>(y), 1, n, flags);
+    return VectorDot_R64(static_cast<mreal *>(result), elementsOf<mreal>(x), 1, elementsOf<mreal>(y), 1, n,
+                         flags);
   default:
-    return dotComplexes(static_cast<mcomplex *>(result), elementsOf<mcomplex>(x), 1, elementsOf<mcomplex>(y),
-                        1, n, false, flags);
+    return VectorDot_CR64(static_cast<mcomplex *>(result), elementsOf<mcomplex>(x), 1,
+                          elementsOf<mcomplex>(y), 1, n, flags);
   }
 }
 
@@ -38,8 +41,7 @@ mint handleDotVV(TorvaneLibraryData *, mint, void *const *arguments, void *resul
   if (x->elementCount != y->elementCount) return kWrongDimensions;
   if (x->type != y->type || x->type < TORVANE_TYPE_INTEGER || x->type > TORVANE_TYPE_COMPLEX)
     return kWrongType;
-  const mint status = dotVectors(result, x, y, integerArgument(arguments, 2));
-  return status == kSuccess ? kSuccess : kValueFailed;
+  return dotVectors(result, x, y, integerArgument(arguments, 2)) == 0 ? kSuccess : kValueFailed;
 }
 
 } // namespace torvane

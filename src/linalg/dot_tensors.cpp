@@ -51,13 +51,18 @@ mint rowsOf(const MTensor *a, mint k) { return a->rank == 2 ? a->dimensions[0] :
 mint columnsOf(const MTensor *b, mint k) { return b->rank == 2 ? b->dimensions[1] : b->elementCount / k; }
 
 template <class T>
+Product<T> productOf(const MTensor *result, const MTensor *a, const MTensor *b, mint m, mint k, mint n) {
+  return {static_cast<T *>(result->data),
+          static_cast<const T *>(a->data),
+          static_cast<const T *>(b->data),
+          m,
+          k,
+          n};
+}
+
+template <class T>
 bool multiplyAs(const MTensor *result, const MTensor *a, const MTensor *b, mint k, mint flags) {
-  const Product<T> of = {static_cast<T *>(result->data),
-                         static_cast<const T *>(a->data),
-                         static_cast<const T *>(b->data),
-                         rowsOf(a, k),
-                         k,
-                         columnsOf(b, k)};
+  const auto of = productOf<T>(result, a, b, rowsOf(a, k), k, columnsOf(b, k));
   if constexpr (sizeof(T) == sizeof(mint)) {
     return integerProduct(of.result, of.a, of.b, of.m, of.k, of.n, flags);
   } else {
@@ -94,25 +99,42 @@ struct Extents {
   }
 };
 
-mint multiplyApart(MTensor **slot, MTensor *a, MTensor *b, Extents &extents, mint flags) {
+mint multiplyApart(MTensor **slot, MTensor *a, MTensor *b, mint rank, const mint *extents, mint flags) {
   ResultTensor result(slot, {a, b});
-  mint status = result.allocate(a->type, extents.rank, extents.lengths.get(), kFatal);
+  mint status = result.allocate(a->type, rank, extents, kFatal);
   if (status == kSuccess) status = multiply(result.get(), a, b, flags);
   return status == kSuccess ? result.commit() : status;
 }
 
 bool isNumeric(mint type) { return type >= TORVANE_TYPE_INTEGER && type <= TORVANE_TYPE_COMPLEX; }
 
-} // namespace
-
-// A slot with a tensor that is no operand needs nothing of what ResultTensor does, and compiled loops have
-// one.
-mint generalDot(MTensor **slot, MTensor *a, MTensor *b, mint flags) {
+[[gnu::noinline]] mint multiplyTensors(MTensor **slot, MTensor *a, MTensor *b, mint flags) {
   if (a->type != b->type || !isNumeric(a->type)) return kWrongType;
   Extents extents(a, b);
-  if (*slot == nullptr || *slot == a || *slot == b) return multiplyApart(slot, a, b, extents, flags);
-  const mint status = MTensor_allocateCommon(slot, a->type, extents.rank, extents.lengths.get(), kFatal);
+  const mint rank = extents.rank, *lengths = extents.lengths.get();
+  if (*slot == nullptr || *slot == a || *slot == b) return multiplyApart(slot, a, b, rank, lengths, flags);
+  const mint status = MTensor_allocateCommon(slot, a->type, rank, lengths, kFatal);
   return status == kSuccess ? multiply(*slot, a, b, flags) : status;
+}
+
+bool isRealMatrix(const MTensor *tensor) { return tensor->type == TORVANE_TYPE_REAL && tensor->rank == 2; }
+
+// Whether the product of two matrices of reals may be stored without more ado.
+bool isSettled(const MTensor *result, const MTensor *a, const MTensor *b) {
+  return result != nullptr && result != a && result != b && isRealMatrix(result) && result->data != nullptr &&
+         result->dimensions[0] == a->dimensions[0] && result->dimensions[1] == b->dimensions[1];
+}
+
+} // namespace
+
+// A compiled loop multiplies matrices into the result of the turn before: all else would take it as long as
+// the product of a few rows.
+mint generalDot(MTensor **slot, MTensor *a, MTensor *b, mint flags) {
+  if (isRealMatrix(a) && isRealMatrix(b) && isSettled(*slot, a, b)) {
+    const auto of = productOf<mreal>(*slot, a, b, a->dimensions[0], b->dimensions[0], b->dimensions[1]);
+    if (of.k > 0) return multiplyMatrices(of, true) ? kSuccess : kNotFinite;
+  }
+  return multiplyTensors(slot, a, b, flags);
 }
 
 } // namespace torvane

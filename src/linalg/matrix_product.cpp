@@ -133,10 +133,10 @@ bool areFinite(const mcomplex *x, mint count) {
 }
 
 bool sequentialProduct(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
-  return loops().reals(result, a, b, m, k, n) || areFinite(result, m * n);
+  return loops().reals(result, a, b, m, k, n);
 }
 bool sequentialProduct(mcomplex *result, const mcomplex *a, const mcomplex *b, mint m, mint k, mint n) {
-  return loops().complexes(result, a, b, m, k, n) || areFinite(result, m * n);
+  return loops().complexes(result, a, b, m, k, n);
 }
 
 bool integerProduct(mint *result, const mint *a, const mint *b, mint m, mint k, mint n, mint flags) {

@@ -9,6 +9,10 @@
 #include "../scalar/magnitude.h"
 #include "matrix_product_loops.h"
 
+#ifdef __AVX512F__
+#include <immintrin.h>
+#endif
+
 namespace torvane {
 
 using torvane_loops::kExactColumns;
@@ -23,12 +27,28 @@ template <class T, int length> struct VectorOf {
 template <class T> struct VectorOf<T, 1> { using Type = T; };
 template <class T, int length> using Lanes = typename VectorOf<T, length>::Type;
 
-template <class V, class T> inline V load(const T *from) {
-  V v;
-  __builtin_memcpy(&v, from, sizeof v); // any alignment
-  return v;
-}
-template <class V, class T> inline void store(T *to, V v) { __builtin_memcpy(to, &v, sizeof v); }
+// Vectors of a row at any alignment: whole ones, or one that is longer than the row.
+template <class V> struct Whole {
+  template <class T> V load(const T *from) const {
+    V v;
+    __builtin_memcpy(&v, from, sizeof v);
+    return v;
+  }
+  template <class T> void store(T *to, V v) const { __builtin_memcpy(to, &v, sizeof v); }
+};
+#ifdef __AVX512F__
+template <class V> struct Leading;
+template <> struct Leading<Lanes<mreal, 8>> {
+  __mmask8 lanes;
+  __m512d load(const mreal *from) const { return _mm512_maskz_loadu_pd(lanes, from); }
+  void store(mreal *to, __m512d v) const { _mm512_mask_storeu_pd(to, lanes, v); }
+};
+template <> struct Leading<Lanes<mreal, 4>> {
+  __mmask8 lanes;
+  __m256d load(const mreal *from) const { return _mm256_maskz_loadu_pd(lanes, from); }
+  void store(mreal *to, __m256d v) const { _mm256_mask_storeu_pd(to, lanes, v); }
+};
+#endif
 
 // Vectors side by side, of the longest length; of a shorter one a row has fewer.
 #if defined __AVX512F__
@@ -41,16 +61,18 @@ constexpr int kMostVectors = 2;
 
 // Rows of a tile of reals: as many as the registers hold beside the operands, since the ends of a tile cost
 // as much as several steps of its sums.
+constexpr int kMostRows = 14;
 constexpr int mostRows(int vectors) {
   constexpr int kRegisters = kMostVectors == 4 ? 32 : 16;
   const int rows = (kRegisters - 2) / vectors - 1;
-  return rows > 8 ? 8 : rows;
+  return rows > kMostRows ? kMostRows : rows;
 }
 
 // Words and their products, by vectors of one length, of which `most` stand side by side.
-template <class T, int length, int most> struct Plain {
+template <class T, int length, int most, template <class> class RowVector = Whole> struct Plain {
   using Word = T;
   using Vector = Lanes<T, length>;
+  using Row = RowVector<Vector>;
   static constexpr int kLength = length, kWords = 1, kMost = most;
   static constexpr int rowsBeside(int vectors) { return isSame<T, mreal> ? mostRows(vectors) : 4; }
   struct Factor {
@@ -65,6 +87,7 @@ template <class T, int length, int most> struct Plain {
 template <int length, int most> struct Pairs {
   using Word = mreal;
   using Vector = Lanes<mreal, 2 * length>;
+  using Row = Whole<Vector>;
   static constexpr int kLength = length, kWords = 2, kMost = most;
   static constexpr int rowsBeside(int) { return 4; }
   struct Factor {
@@ -97,55 +120,95 @@ template <class Kind> struct Matrices {
   Word *result;
   const Word *a, *b;
   ptrdiff_t k, n; // in words of a row
+  typename Kind::Row row = {};
 };
 
-// The sum of all elements, lane by lane. While it is finite, so is every element; where it is not, they may
-// all be finite and large.
-template <class Kind> struct Total {
-  typename Kind::Vector lanes = {};
+// Whether the sum of the lanes is finite: then every lane is, and every element of a sum of such vectors.
+// Where it is not, they may all be finite and large.
+template <class T, class Vector> bool isSumFinite(Vector lanes) {
+  constexpr int kCount = sizeof lanes / sizeof(T);
+  T words[kCount];
+  __builtin_memcpy(words, &lanes, sizeof words);
+  for (int half = kCount / 2; half > 0; half /= 2)
+    for (int i = 0; i < half; ++i) words[i] += words[half + i];
+  return words[0] - words[0] == 0;
+}
 
-  bool isFinite() const {
-    typename Kind::Word words[sizeof lanes / sizeof(typename Kind::Word)], differences = 0;
-    __builtin_memcpy(words, &lanes, sizeof words);
-    for (const typename Kind::Word word : words) differences += word - word;
-    return differences == 0;
+// body(0) ... body(count - 1), each with a constant: what it indexes then stands in registers from the start,
+// where a loop would begin in memory and unroll too late.
+template <int value> struct Constant {
+  constexpr operator int() const { return value; }
+};
+template <int count, int first = 0, class Body>
+__attribute__((always_inline)) inline void unrolled(const Body &body) {
+  if constexpr (first < count) {
+    body(Constant<first>());
+    unrolled<count, first + 1>(body);
   }
-};
+}
 
-// The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words.
+// The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words. Yields their
+// sum, lane by lane.
 template <class Kind, int rows, int vectors>
-inline void runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets, Total<Kind> &total) {
+typename Kind::Vector runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets) {
   using Vector = typename Kind::Vector;
-  Vector sums[rows][vectors] = {}, all[vectors] = {};
-  const typename Kind::Word *a = at.a + row * at.k, *columns[vectors];
-  for (int v = 0; v < vectors; ++v) columns[v] = at.b + offsets[v];
-  for (ptrdiff_t p = 0; p < at.k; p += Kind::kWords) {
-    Vector of[vectors];
-    for (int v = 0; v < vectors; ++v) {
-      of[v] = load<Vector>(columns[v]);
-      columns[v] += at.n;
-    }
-    for (int r = 0; r < rows; ++r) {
-      const typename Kind::Factor factor(a + r * at.k + p);
-      for (int v = 0; v < vectors; ++v) sums[r][v] += factor.times(of[v]);
-    }
-  }
-  for (int r = 0; r < rows; ++r)
-    for (int v = 0; v < vectors; ++v) {
-      store(at.result + (row + r) * at.n + offsets[v], sums[r][v]);
+  const ptrdiff_t k = at.k, n = at.n;
+  const typename Kind::Word *a = at.a + row * k, *columns[vectors];
+  typename Kind::Word *to[vectors];
+  Vector sums[rows][vectors], of[vectors], all[vectors];
+  unrolled<vectors>([&](auto v) {
+    columns[v] = at.b + offsets[v];
+    to[v] = at.result + row * n + offsets[v];
+    all[v] = Vector{};
+    unrolled<rows>([&](auto r) { sums[r][v] = Vector{}; });
+  });
+  ptrdiff_t p = 0;
+  do {
+    unrolled<vectors>([&](auto v) {
+      of[v] = at.row.load(columns[v]);
+      columns[v] += n;
+    });
+    unrolled<rows>([&](auto r) {
+      const typename Kind::Factor factor(a + r * k + p);
+      unrolled<vectors>([&](auto v) { sums[r][v] += factor.times(of[v]); });
+    });
+  } while ((p += Kind::kWords) < k);
+  unrolled<rows>([&](auto r) {
+    unrolled<vectors>([&](auto v) {
+      at.row.store(to[v], sums[r][v]);
+      to[v] += n;
       all[v] += sums[r][v];
-    }
-  for (int v = 0; v < vectors; ++v) total.lanes += all[v];
+    });
+  });
+  for (int v = 1; v < vectors; ++v) all[0] += all[v];
+  return all[0];
 }
 
-// The smallest products look for the fewest rows.
-template <class Kind, int rows, int vectors>
-inline void runTileOf(ptrdiff_t count, const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets,
-                      Total<Kind> &total) {
-  if constexpr (rows < Kind::rowsBeside(vectors))
-    if (count > rows) return runTileOf<Kind, rows + 1, vectors>(count, at, row, offsets, total);
-  runTile<Kind, rows, vectors>(at, row, offsets, total);
+// Tiles by vectors and rows, up to as many as the registers hold.
+template <class Kind>
+using Tile = typename Kind::Vector (*)(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets);
+template <class Kind> struct TilesOf {
+  ptrdiff_t mostRows;
+  Tile<Kind> byRows[kMostRows];
+};
+
+template <class Kind, int rows, int vectors> constexpr Tile<Kind> tileOf() {
+  if constexpr (vectors <= Kind::kMost && rows <= Kind::rowsBeside(vectors))
+    return runTile<Kind, rows, vectors>;
+  else
+    return nullptr;
 }
+template <class Kind, int vectors>
+constexpr TilesOf<Kind> kTilesOf = {
+    Kind::rowsBeside(vectors),
+    {tileOf<Kind, 1, vectors>(), tileOf<Kind, 2, vectors>(), tileOf<Kind, 3, vectors>(),
+     tileOf<Kind, 4, vectors>(), tileOf<Kind, 5, vectors>(), tileOf<Kind, 6, vectors>(),
+     tileOf<Kind, 7, vectors>(), tileOf<Kind, 8, vectors>(), tileOf<Kind, 9, vectors>(),
+     tileOf<Kind, 10, vectors>(), tileOf<Kind, 11, vectors>(), tileOf<Kind, 12, vectors>(),
+     tileOf<Kind, 13, vectors>(), tileOf<Kind, 14, vectors>()}};
+template <class Kind>
+constexpr TilesOf<Kind> kTiles[] = {kTilesOf<Kind, 1>, kTilesOf<Kind, 2>, kTilesOf<Kind, 3>,
+                                    kTilesOf<Kind, 4>};
 
 // Of so many rows or vectors that are left: what fits, or about a half, because a rest of one would wait for
 // its own sums.
@@ -154,29 +217,25 @@ inline ptrdiff_t next(ptrdiff_t left, ptrdiff_t most) {
   return left < 2 * most ? left / 2 : most;
 }
 
-template <class Kind, int vectors>
-void runColumns(const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets, Total<Kind> &total) {
-  constexpr int kMostRows = Kind::rowsBeside(vectors);
+// All rows of some columns. The sum of the elements, lane by lane.
+template <class Kind>
+inline typename Kind::Vector runColumns(const Matrices<Kind> &at, ptrdiff_t m, ptrdiff_t vectors,
+                                        const ptrdiff_t *offsets) {
+  const TilesOf<Kind> &tiles = kTiles<Kind>[vectors - 1];
+  typename Kind::Vector sum = {};
   for (ptrdiff_t row = 0; row < m;) {
-    const ptrdiff_t rows = next(m - row, kMostRows);
-    runTileOf<Kind, 1, vectors>(rows, at, row, offsets, total);
+    const ptrdiff_t rows = next(m - row, tiles.mostRows);
+    sum += tiles.byRows[rows - 1](at, row, offsets);
     row += rows;
   }
-}
-
-template <class Kind, int vectors>
-inline void runColumnsOf(ptrdiff_t count, const Matrices<Kind> &at, ptrdiff_t m, const ptrdiff_t *offsets,
-                         Total<Kind> &total) {
-  if constexpr (vectors < Kind::kMost)
-    if (count > vectors) return runColumnsOf<Kind, vectors + 1>(count, at, m, offsets, total);
-  runColumns<Kind, vectors>(at, m, offsets, total);
+  return sum;
 }
 
 // All columns, by groups of vectors. Whether the sum of the elements is finite.
 template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
   constexpr ptrdiff_t kStep = ptrdiff_t{Kind::kLength} * Kind::kWords;
   ptrdiff_t offsets[Kind::kMost];
-  Total<Kind> total;
+  typename Kind::Vector sum = {};
   const ptrdiff_t all = (at.n + kStep - 1) / kStep;
   for (ptrdiff_t done = 0; done < all;) {
     const ptrdiff_t vectors = next(all - done, Kind::kMost);
@@ -184,26 +243,36 @@ template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
       const ptrdiff_t offset = (done + v) * kStep;
       offsets[v] = offset + kStep <= at.n ? offset : at.n - kStep;
     }
-    runColumnsOf<Kind, 1>(vectors, at, m, offsets, total);
+    sum += runColumns(at, m, vectors, offsets);
     done += vectors;
   }
-  return total.isFinite();
+  return isSumFinite<typename Kind::Word>(sum);
+}
+
+// Rows that one vector is longer than.
+template <class Kind> bool runNarrow(const Matrices<Kind> &at, ptrdiff_t m) {
+  constexpr ptrdiff_t kOffset = 0;
+  return isSumFinite<typename Kind::Word>(runColumns(at, m, 1, &kOffset));
 }
 
 // A length below the longest serves rows of fewer than two vectors of the next longer one.
 template <class T, int length>
 constexpr int kMostOf = kPackedBytes == length *static_cast<int>(sizeof(T)) ? kMostVectors : 2;
 
-bool multiplyReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
-  if constexpr (kPackedLength<mreal> >= 8)
-    if (n >= 8) return run<Plain<mreal, 8, kMostVectors>>({result, a, b, k, n}, m);
-  if constexpr (kPackedLength<mreal> >= 4)
-    if (n >= 4) return run<Plain<mreal, 4, kMostOf<mreal, 4>>>({result, a, b, k, n}, m);
+bool runReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
+#ifdef __AVX512F__
+  const auto lanes = static_cast<__mmask8>((1 << n) - 1);
+  if (n >= 8) return run<Plain<mreal, 8, kMostVectors>>({result, a, b, k, n}, m);
+  if (n > 4) return runNarrow<Plain<mreal, 8, 1, Leading>>({result, a, b, k, n, {lanes}}, m);
+  if (n > 2) return runNarrow<Plain<mreal, 4, 1, Leading>>({result, a, b, k, n, {lanes}}, m);
+#elif defined __AVX2__
+  if (n >= 4) return run<Plain<mreal, 4, kMostVectors>>({result, a, b, k, n}, m);
+#endif
   if (n >= 2) return run<Plain<mreal, 2, kMostOf<mreal, 2>>>({result, a, b, k, n}, m);
   return run<Plain<mreal, 1, 1>>({result, a, b, k, n}, m);
 }
 
-bool multiplyComplexes(mcomplex *to, const mcomplex *x, const mcomplex *y, mint m, mint k, mint n) {
+bool runComplexes(mcomplex *to, const mcomplex *x, const mcomplex *y, mint m, mint k, mint n) {
   auto *result = reinterpret_cast<mreal *>(to);
   const auto *a = reinterpret_cast<const mreal *>(x), *b = reinterpret_cast<const mreal *>(y);
   const ptrdiff_t width = ptrdiff_t{2} * n, depth = ptrdiff_t{2} * k;
@@ -294,16 +363,23 @@ mint multiplyExactRows(mint *result, const mint *a, const mint *b, mint k, mint 
   return kExactRows * n;
 }
 
-// The first and the last vector lie where the data do, those between begin at a line of the cache: one
-// element looked at twice counts for nothing, and a vector across two lines costs two.
-bool areAllFinite(const mreal *x, mint count) {
+template <class X> struct Sum {
+  X value;
+  void take(X x) { value += x; }
+  void merge(Sum other) { take(other.value); }
+};
+
+// Whether the fold of all elements is finite. The first and the last vector lie where the data do, those
+// between begin at a line of the cache: one element looked at twice counts for nothing, and a vector across
+// two lines costs two.
+template <template <class> class Fold> bool isFoldFinite(const mreal *x, mint count) {
   constexpr mint kOne = kPackedLength<mreal>, kFour = 4 * kOne;
-  Finiteness<mreal> rest = {0};
   if (count < kOne) {
-    for (mint k = 0; k < count; ++k) rest.take(x[k]);
-    return rest.value == 0;
+    Fold<mreal> all = {0};
+    for (mint k = 0; k < count; ++k) all.take(x[k]);
+    return isSumFinite<mreal>(all.value);
   }
-  Finiteness<Packed<mreal>> a = {{}}, b = a, c = a, d = a;
+  Fold<Packed<mreal>> a = {{}}, b = a, c = a, d = a;
   a.take(loadPacked(x));
   b.take(loadPacked(x + count - kOne));
   mint k = static_cast<mint>(reinterpret_cast<uintptr_t>(x) / sizeof(mreal) % kOne);
@@ -318,8 +394,20 @@ bool areAllFinite(const mreal *x, mint count) {
   a.merge(b);
   c.merge(d);
   a.merge(c);
-  for (mint lane = 0; lane < kOne; ++lane) rest.merge({a.value[lane]});
-  return rest.value == 0;
+  return isSumFinite<mreal>(a.value);
+}
+
+// A sum takes half the operations, and where it is not finite the elements may be all the same.
+bool areAllFinite(const mreal *x, mint count) {
+  return isFoldFinite<Sum>(x, count) || isFoldFinite<Finiteness>(x, count);
+}
+
+// What the sums suspect is looked at: large finite elements may have an infinite sum.
+bool multiplyReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
+  return runReals(result, a, b, m, k, n) || areAllFinite(result, m * n);
+}
+bool multiplyComplexes(mcomplex *result, const mcomplex *a, const mcomplex *b, mint m, mint k, mint n) {
+  return runComplexes(result, a, b, m, k, n) || areAllFinite(reinterpret_cast<mreal *>(result), 2 * m * n);
 }
 
 } // namespace

@@ -11,8 +11,7 @@ namespace torvane_loops {
 inline constexpr mint kExactRows = 4, kExactColumns = 512;
 
 struct ProductLoops {
-  // Each element one sum from 0 in the order of the inner index. False where an element may be infinite or a
-  // NaN.
+  // Each element one sum from 0 in the order of the inner index. False where an element is infinite or a NaN.
   bool (*reals)(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n);
   bool (*complexes)(mcomplex *result, const mcomplex *a, const mcomplex *b, mint m, mint k, mint n);
   // Wraps.

@@ -37,10 +37,13 @@ inline __attribute__((always_inline)) T sumInOrder(mint count, Product product) 
 
 // `map` takes each element of x first.
 template <class T, class Map>
+inline __attribute__((always_inline)) T sumOfDenseProducts(const T *x, const T *y, mint count, Map map) {
+  return sumInOrder<T>(count, [=](ptrdiff_t k) { return times(map(x[k]), y[k]); });
+}
+template <class T, class Map>
 inline __attribute__((always_inline)) T sumOfProducts(const T *x, mint strideX, const T *y, mint strideY,
                                                       mint count, Map map) {
-  if (strideX == 1 && strideY == 1)
-    return sumInOrder<T>(count, [=](ptrdiff_t k) { return times(map(x[k]), y[k]); });
+  if (strideX == 1 && strideY == 1) return sumOfDenseProducts(x, y, count, map);
   const T *a = startOf(x, strideX, count), *b = startOf(y, strideY, count);
   return sumInOrder<T>(count, [=](ptrdiff_t k) { return times(map(a[k * strideX]), b[k * strideY]); });
 }

@@ -16,7 +16,17 @@ bool fail(PartReporter *reporter, const char *tag, intptr_t first = 0, intptr_t 
   return false;
 }
 
+// Most lists count from the start of the dimension: they are told by a loop without a branch, and stay as
+// they are.
+bool arePlainPositions(mint extent, const mint *positions, intptr_t count) {
+  uint32_t strays = 0;
+  for (intptr_t i = 0; i < count; ++i)
+    strays |= static_cast<uint32_t>(positions[i] < 1) | static_cast<uint32_t>(positions[i] > extent);
+  return strays == 0;
+}
+
 bool checkPositions(mint extent, const PartSpec &selector, PartReporter *reporter) {
+  if (arePlainPositions(extent, selector.positions, selector.count)) return true;
   for (mint *p = selector.positions; p < selector.positions + selector.count; ++p) {
     const int64_t position = *p < 0 ? int64_t{*p} + extent + 1 : *p;
     if (position < 1 || position > extent) return fail(reporter, kPartPosition, *p);

@@ -29,16 +29,27 @@ ptrdiff_t offsetOf(const PartAxis &axis, size_t i) {
   return index * axis.selected;
 }
 
+template <PartDirection kDirection> void moveBlock(char *selected, char *packed, size_t bytes) {
+  if constexpr (kDirection == kExtract)
+    memcpy(packed, selected, bytes);
+  else
+    memcpy(selected, packed, bytes);
+}
+
+// Of a list of neighbours into a run the strides are constants: no multiplication stands before a load.
 template <size_t kBlock, PartDirection kDirection>
 void moveListed(char *selected, char *packed, size_t block, const PartAxis &list) {
   const size_t bytes = kBlock == 0 ? block : kBlock;
-  for (size_t i = 0; i < list.count; ++i, packed += list.packed) {
-    char *element = selected + (ptrdiff_t{list.positions[i]} - 1) * list.selected;
-    if constexpr (kDirection == kExtract)
-      memcpy(packed, element, bytes);
-    else
-      memcpy(element, packed, bytes);
+  constexpr auto kStride = static_cast<ptrdiff_t>(kBlock);
+  const mint *const end = list.positions + list.count;
+  if (kBlock > 0 && list.selected == kStride && list.packed == kStride) {
+    char *const first = selected - kStride;
+    for (const mint *position = list.positions; position < end; ++position, packed += kStride)
+      moveBlock<kDirection>(first + *position * kStride, packed, bytes);
+    return;
   }
+  for (const mint *position = list.positions; position < end; ++position, packed += list.packed)
+    moveBlock<kDirection>(selected + (ptrdiff_t{*position} - 1) * list.selected, packed, bytes);
 }
 
 template <PartDirection kDirection> MoveListed moveListedFor(size_t block) {

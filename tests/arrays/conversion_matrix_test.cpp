@@ -180,7 +180,8 @@ TEST_P(SmallSources, ConvertEveryElementAsTheModelDoes) {
 
 INSTANTIATE_TEST_SUITE_P(Integers, SmallSources, testing::Range(mint{1}, mint{5}));
 
-// What passes by itself, and one element that fails, at every place where a block may begin or end.
+// What passes by itself, and one element that fails, at every place where a group may begin or end, and in
+// the groups that overlap: the last one, and the first one of arrays that are long enough to look for a line.
 TEST(Positions, FailureIsFoundWhereItIsInLongArrays) {
   struct Pair {
     mint from, to;
@@ -199,8 +200,9 @@ TEST(Positions, FailureIsFoundWhereItIsInLongArrays) {
                         {5, 9, {kCheck, false, false, 0}, 16777216, 16777217},
                         {7, 10, {kCheck, false, false, 0}, -4096, 9007199254740993.0}};
   for (const Pair &pair : pairs)
-    for (const mint count : {1, 63, 1023, 1024, 1025, 2047, 2048, 2049, 4100})
-      for (const mint at : {-1, 0, 1, 62, 63, 64, 1022, 1023, 1024, 1031, 2047, 2048, 4099}) {
+    for (const mint count : {1, 63, 127, 128, 129, 255, 256, 257, 300, 1000, 1025, 2048, 4100, 17000})
+      for (const mint at : {-1,  0,   1,   7,   8,   63,  64,  127, 128, 171,  172,  173,
+                            254, 255, 256, 299, 743, 744, 871, 872, 999, 1024, 4099, 16999}) {
         if (at >= count) continue;
         const mint width = mint(kElementWidths[pair.from]);
         Bytes elements(size_t(count * width));
