@@ -140,19 +140,10 @@ bool drawsManyComplexes(const NamedArguments &call) {
   return NumberOfElements_common(extents->elementCount, static_cast<mint *>(extents->data), kQuiet) > 4096;
 }
 
-// Where a shift is 0 nothing gets shorter, and there are as many passes as the order says.
-bool makesManyPasses(const NamedArguments &call) {
-  if (!call.row->is("Differences") || call.count() < 4) return false;
-  const MTensor *orders = call.tensors[call.arguments[1].tensor].get();
-  const auto *first = static_cast<const mint *>(orders->data);
-  return orders->type == TORVANE_TYPE_INTEGER &&
-         std::any_of(first, first + orders->elementCount, [](mint order) { return order > 1000; });
-}
-
 void callOnce(const NamedRow *row, Input &input, Context &context) {
   const NamedArguments call = ArgumentDraw(input).draw(row);
   if (std::strcmp(row->result, "element or T") == 0 && call.tensors.empty()) return;
-  if (drawsManyComplexes(call) || makesManyPasses(call)) return;
+  if (drawsManyComplexes(call)) return;
   const bool isTensor = isTensorResult(call);
   const mint method = oneIn(input, 16) ? 1 : 3;
   const Tensor other = takeTensor(input);

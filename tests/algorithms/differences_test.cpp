@@ -220,6 +220,20 @@ TEST_F(Neighbours, OrderZeroLeavesALevelAloneAndShiftZeroGivesZeros) {
   expectExactly(differences(tensorOf<mint>({}, {7}), {}, 4), tensorOf<mint>({}, {7}));
 }
 
+// Whatever the order: shift 0 leaves all rows, and from some pass on nothing changes.
+TEST_F(Neighbours, PassesThatChangeNothingAreNotRun) {
+  const auto ofReals = [](mreal x, mreal y, mint) { return less(x, y); };
+  const Tensor vector = tensorOf<mreal>({4}, {1, -0.0, HUGE_VAL, NAN}),
+               table = tensorOf<mint>({2, 2}, {1, 2, 3, 5});
+  for (const mint order : {INT32_MAX, INT32_MAX - 1, 5, 4, 3}) {
+    expectExactly(differences(vector, {order}, {0}, 0),
+                  tensorOfGrid(model(gridOf<mreal>(vector), {3}, {0}, ofReals)));
+    expectExactly(differences(table, {order, 1}, {0, 1}, 4), tensorOf<mint>({2, 1}, {0, 0}));
+    expectExactly(differences(table, {1, order}, {1, 0}, 4), tensorOf<mint>({1, 2}, {0, 0}));
+    expectExactly(differences(table, {order, order}, {0, 0}, 0), tensorOf<mint>({2, 2}, {0, 0, 0, 0}));
+  }
+}
+
 TEST_F(Neighbours, TooHighAnOrderLeavesNothing) {
   const Tensor vector = tensorOf<mreal>({3}, {1, 2, 8}), table = tensorOf<mint>({2, 2}, {1, 2, 3, 4});
   expectExactly(differences(vector, {5}, 0), newTensor(TORVANE_TYPE_REAL, {0}));
