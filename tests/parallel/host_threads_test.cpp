@@ -88,7 +88,7 @@ void useBlocks(uint32_t seed, Results *results) {
   Numbers numbers{seed};
   std::vector<std::pair<unsigned char *, uint32_t>> blocks;
   for (int i = 0; i < 150; ++i) {
-    const uint32_t limit = i % 50 == 49 ? 1500000 : i % 10 == 9 ? 100000 : 1000;
+    const uint32_t limit = i % 70 == 69 ? 1200000 : i % 20 == 19 ? 100000 : 1000;
     const uint32_t size = 1 + numbers.next() % limit;
     auto *block = static_cast<unsigned char *>(Malloc_fun(size));
     std::memset(block, int(seed + size) & 255, size);
@@ -188,7 +188,7 @@ void convertArrays(uint32_t seed, Results *results) {
 }
 
 MSparseArray *sparseOf(uint32_t seed) {
-  Tensor matrix = realsOf({40, 50}, seed);
+  Tensor matrix = realsOf({12, 20}, seed);
   for (mint i = 0; i < matrix->elementCount; ++i)
     if (i % 7 != mint(seed % 7)) elements<mreal>(matrix)[i] = 0;
   MSparseArray *sparse = nullptr;
