@@ -33,8 +33,10 @@ namespace {
 
 #if defined(__SANITIZE_THREAD__)
 constexpr uint32_t kRounds = 2;
+#elif defined(__SANITIZE_ADDRESS__)
+constexpr uint32_t kRounds = 4;
 #else
-constexpr uint32_t kRounds = 6;
+constexpr uint32_t kRounds = 16;
 #endif
 constexpr uint32_t kThreads = 8;
 
@@ -64,9 +66,10 @@ void takeResult(mint status, MTensor *slot, Results *results) {
   MTensor_delete(slot);
 }
 
-void takeCall(NamedCall call, Results *results) {
+void takeCall(NamedCall call, Results *results, mint expected = 0) {
   MTensor *slot = nullptr;
   const mint status = call.run(&slot);
+  EXPECT_EQ(status, expected) << call.name;
   takeResult(status, slot, results);
 }
 
@@ -116,9 +119,9 @@ void drawBy(const char *method, uint32_t seed, Results *results) {
   mint integers[200];
   mreal reals[200];
   mcomplex complexes[kComplexes];
-  results->value(UniformRandomMIntegers(integers, 200, -5, 1000003));
-  results->value(UniformRandomMReals(reals, 200, -1, 1));
-  results->value(UniformRandomMComplexes(complexes, kComplexes, 0, 0, 2, 3));
+  EXPECT_EQ(UniformRandomMIntegers(integers, 200, -5, 1000003), 0);
+  EXPECT_EQ(UniformRandomMReals(reals, 200, -1, 1), 0);
+  EXPECT_EQ(UniformRandomMComplexes(complexes, kComplexes, 0, 0, 2, 3), 0);
   results->add(integers, sizeof integers);
   results->add(reals, sizeof reals);
   results->add(complexes, sizeof complexes);
@@ -226,7 +229,46 @@ void callByName(uint32_t seed, Results *results) {
   takeCall(NamedCall("IntegerDigits").integer(mint(123456789 + seed)).integer(7), results);
   takeCall(NamedCall("OuterPlus").vector({1, mint(seed)}).vector({3, 4}).integer(1).integer(1).integer(0),
            results);
-  takeCall(NamedCall("Flatten").integer(mint(seed)), results); // a wrong number of arguments
+  takeCall(NamedCall("Flatten").integer(mint(seed)), results, 12); // an argument too few
+}
+
+Tensor fewIntegers(uint32_t seed, mint count) {
+  Tensor tensor = newTensor(TORVANE_TYPE_INTEGER, {count});
+  Numbers numbers{seed};
+  for (mint i = 0; i < count; ++i) elements<mint>(tensor)[i] = mint(numbers.next() % 97);
+  return tensor;
+}
+
+void searchAndCount(uint32_t seed, Results *results) {
+  takeCall(NamedCall("Tally").tensor(fewIntegers(seed, 700)), results);
+  takeCall(NamedCall("Union").tensor(fewIntegers(seed, 300)).tensor(fewIntegers(seed + 1, 50)), results);
+  takeCall(NamedCall("Intersection").tensor(realsOf({300}, seed)).tensor(realsOf({200}, seed)), results);
+  const Tensor rows = fewIntegers(seed, 300), pattern = fewIntegers(seed, 1);
+  const Tensor value = tensorOf<mint>({}, {elements<mint>(pattern)[0]});
+  takeCall(NamedCall("Position").tensor(cloneOf(rows.get())).tensor(cloneOf(value.get())), results);
+  mint count = -1;
+  EXPECT_EQ(NamedCall("Count").tensor(cloneOf(rows.get())).tensor(cloneOf(value.get())).run(&count), 0);
+  results->value(count);
+}
+
+// One a host: a record is freed only when no other thread is in the library.
+TorvaneLibraryData *records[kThreads];
+
+void fillBags(uint32_t seed, Results *results) {
+  TorvaneLibraryData *record = records[seed];
+  const auto call = [&](const char *name, std::vector<void *> arguments, void *result) {
+    return lookupRuntimeFunction(name)(record, mint(arguments.size()), arguments.data(), result);
+  };
+  mint type = TORVANE_TYPE_REAL, bag = -1, all = TORVANE_PART_ALL;
+  EXPECT_EQ(call("Bag", {&type}, &bag), 0);
+  const Tensor reals = realsOf({1500}, seed);
+  MTensor *handle = reals.get(), *slot = nullptr;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(call("StuffBag", {&bag, &handle}, nullptr), 0);
+  EXPECT_EQ(call("StuffBagScalar", {&bag, elements<mreal>(reals)}, nullptr), 0);
+  EXPECT_EQ(call("BagPart", {&bag, &all}, &slot), 0);
+  results->value(bag);
+  takeResult(0, slot, results);
+  record->runtime->resetState(record);
 }
 
 void compareAndPrint(uint32_t seed, Results *results) {
@@ -285,9 +327,10 @@ void mapVector(uint32_t seed, Results *results) {
 }
 
 using Activity = void (*)(uint32_t seed, Results *results);
-constexpr Activity kActivities[] = {useBlocks,       drawAutomaton,   drawTwister,   drawStreams, sortRows,
-                                    transpose,       computeElements, convertArrays, buildSparse, callByName,
-                                    compareAndPrint, shareScalars,    keepStrings,   mapVector};
+constexpr Activity kActivities[] = {useBlocks,       drawAutomaton, drawTwister,     drawStreams,
+                                    sortRows,        transpose,     computeElements, convertArrays,
+                                    buildSparse,     callByName,    searchAndCount,  fillBags,
+                                    compareAndPrint, shareScalars,  keepStrings,     mapVector};
 constexpr uint32_t kActivityCount = sizeof kActivities / sizeof kActivities[0];
 
 Results resultsOf(uint32_t activity, uint32_t seed) {
@@ -415,6 +458,7 @@ protected:
   ConcurrentHosts() {
     InitializeRuntimeLibrary();
     workers.emplace();
+    for (TorvaneLibraryData *&record : records) record = TorvaneLibraryData_new(5);
     onThread([this] {
       for (uint32_t seed = 0; seed < kThreads; ++seed)
         for (uint32_t activity = 0; activity < kActivityCount; ++activity)
@@ -423,7 +467,9 @@ protected:
     makeRecordsOfThreads(2 * kThreads);
     before = liveBytes();
   }
-  ~ConcurrentHosts() override { setExceptionStyle(1); }
+  ~ConcurrentHosts() override {
+    for (TorvaneLibraryData *record : records) TorvaneLibraryData_free(record);
+  }
 
   // In an order of its own, and the latter part on a thread that comes and goes meanwhile.
   void work(uint32_t host, uint32_t round) {
