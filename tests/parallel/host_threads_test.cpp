@@ -18,13 +18,20 @@
 #include "support/on_thread.h"
 #include <torvane/torvane.h>
 
+#include <algorithm>
+#include <atomic>
 #include <barrier>
 #include <cstring>
 #include <deque>
+#include <functional>
 #include <mutex>
+#include <numeric>
 #include <optional>
 #include <set>
+#include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 using namespace torvane;
 using namespace torvane::test;
@@ -40,7 +47,7 @@ constexpr uint32_t kRounds = 16;
 #endif
 constexpr uint32_t kThreads = 8;
 
-// ---- what a thread got, as bytes in the order in which it came ---------------------------------------
+// ---- what a thread got, as bytes in the order in which it came ----
 
 class Results {
 public:
@@ -85,7 +92,7 @@ Tensor realsOf(const Extents &extents, uint32_t seed) {
   return tensor;
 }
 
-// ---- what a thread does ---------------------------------------------------------------------------------
+// ---- what a thread does ----
 
 void useBlocks(uint32_t seed, Results *results) {
   Numbers numbers{seed};
@@ -339,7 +346,7 @@ Results resultsOf(uint32_t activity, uint32_t seed) {
   return results;
 }
 
-// ---- the post office -----------------------------------------------------------------------------------
+// ---- the post office ----
 
 // All of it made of its seed.
 struct Parcel {
@@ -420,8 +427,7 @@ private:
   std::deque<Parcel> parcels;
 };
 
-// ---- the hosts
-// ---------------------------------------------------------------------------------------------
+// ---- the hosts ----
 
 uint32_t sumOf(mint statistic, uint32_t *heaps) {
   uint32_t sum = 0;
@@ -521,7 +527,7 @@ TEST_F(ConcurrentHosts, EachGetWhatOneThreadAloneGets) {
   expectNothingLeft();
 }
 
-// ---- what several threads may do at once, each on its own ---------------------------------------------
+// ---- what several threads may do at once, each on its own ----
 
 void runTogether(const std::function<void(uint32_t host)> &body) {
   std::barrier start(kThreads);

@@ -84,8 +84,7 @@ protected:
 };
 INSTANTIATE_TEST_SUITE_P(Styles, RaiseMemory, testing::Values(kThrow, kPending, kJump, 77, -1));
 
-// ---- operations that raise
-// ----------------------------------------------------------------------------------
+// ---- operations that raise ----
 
 struct Raise {
   const char *name;
@@ -197,8 +196,7 @@ TEST_P(RaiseMemory, TextsAndTensorsOfASkippedFunctionAreLostLikeItsBlocks) {
   EXPECT_EQ(usedBytesOfThisThread() - used, lostByJump(bytes));
 }
 
-// ---- operations that raise nothing
-// ---------------------------------------------------------------------------
+// ---- operations that raise nothing ----
 
 // Without a handler: a throw would end the test, and a jump have no frame to go to.
 TEST_P(RaiseMemory, TensorMathReportsAndRaisesNothing) {
@@ -261,8 +259,7 @@ TEST_P(RaiseMemory, ConversionsReportAndRaiseNothing) {
   EXPECT_EQ(usedBytesOfThisThread(), used);
 }
 
-// ---- handlers inside handlers
-// ------------------------------------------------------------------------------
+// ---- handlers inside handlers ----
 
 void raiseThroughHandlers(int depth) {
   const Held block;
@@ -316,8 +313,7 @@ TEST(RaiseMemoryOfFrames, LeftBehindIsGivenBackByTheHandlerOnARaiseAndOnAReturn)
   EXPECT_EQ(usedBytesOfThisThread(), used);
 }
 
-// ---- raises in loops of a host's own
-// --------------------------------------------------------------------------
+// ---- raises in loops of a host's own ----
 
 int called = 0;
 int64_t raiseAtForty(int64_t x) {
@@ -394,8 +390,7 @@ TEST_P(RaiseMemory, HandlersInsideAMapCatchTheirOwn) {
   EXPECT_EQ(blocksLost(), lostByJump(2000));
 }
 
-// ---- no memory
-// ---------------------------------------------------------------------------------------------------
+// ---- no memory ----
 
 // Takes whatever the thread's heap still has, and leaves the process heap refusing.
 void exhaust(FailingHeap &heap) {
