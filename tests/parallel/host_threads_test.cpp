@@ -3,9 +3,9 @@
 //
 // Threads come in rounds and end; in the middle of its work each starts a short-lived one. They pass blocks,
 // tensors and arrays through a post office, where another thread, often one that has come after the maker
-// ended, looks them over and frees them. In the end no byte is out and the walker finds every heap whole.
-// Nothing here but the post office's lock and the start of a round orders one thread after another, so that
-// the thread sanitizer sees what the library itself does.
+// ended, looks them over and frees them. In the end no byte is out but the scratch that draws of complexes
+// keep, and the walker finds every heap whole. Nothing here but the post office's lock and the start of a
+// round orders one thread after another, so that the thread sanitizer sees what the library itself does.
 #include "algorithms/hash_table.h"
 #include "algorithms/named_call.h"
 #include "arrays/conversion.h"
