@@ -31,6 +31,7 @@ typedef struct CompilerError {
   mint code;
 } CompilerError;
 
+/* The style, and the pending code of style 1 (0: none), for compiled code to read where they stand. */
 extern TORVANE_API mint RTL_exceptionStyle;
 extern TORVANE_API mint RTL_exceptionActive;
 

@@ -83,6 +83,7 @@ TORVANE_API TensorProperty *TensorProperty_copy(const TensorProperty *property);
  * stays; its room for extents must be large enough. The two may share it. */
 TORVANE_API void TensorProperty_copyValues(TensorProperty *target, const TensorProperty *source);
 
+/* Frees the record and its extents. Not for null. */
 TORVANE_API void TensorProperty_delete(TensorProperty *property);
 
 TORVANE_END_DECLARATIONS

@@ -1,7 +1,8 @@
 #!/bin/bash
-# installed.sh WAY BUILD SOURCE COMPILER FLAGS: installs the build to a scratch prefix, moves the prefix, and
-# there builds and runs the README's program as a user would, by pkg_config or by find_package; with
-# debian_packages the same, by both, from where the packages put it.
+# installed.sh WAY BUILD SOURCE COMPILER FLAGS: installs the build to a scratch prefix, moves the prefix, and there does
+# what the documents tell a user to do, by the commands that stand in them: the README's program by pkg_config or
+# find_package, with debian_packages by both from where the packages put it; the compiled libraries of the page for hosts;
+# the LLVM programs of the page on calls.
 set -eu
 way=$1 build=$2 source=$3 compiler=$4 flags=${5-}
 flags=${flags//;/ }
@@ -24,33 +25,79 @@ diff -r -x detail "$source/include/torvane" "$work/moved/include/torvane"
 [ ! -x "$(command -v g++)" ] || g++ $flags -std=c++20 -fsyntax-only -I "$work/moved/include" -x c++ "$work/moved/include/torvane/scalars_inline.hpp"
 
 cd "$work"
-block 1 c "$source/README.md" >program.c
-block 1 text "$source/README.md" >wanted
-[ -s program.c ] && [ -s wanted ] || { echo "the README has no program or no output"; exit 1; }
+PKG_CONFIG_PATH=$(dirname "$(find "$work/moved" -name torvane-rtl.pc)")
+export PKG_CONFIG_PATH
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir torvane-rtl)
+export LD_LIBRARY_PATH
+cc() { "$compiler" $flags -Wall -Wextra -Werror "$@"; }
+clang-19() { command clang-19 $flags "$@"; }
+
+# run LANGUAGE N PAGE: the N-th block of a page, as commands of this shell.
+run() {
+  block "$2" "$1" "$source/$3" >commands
+  [ -s commands ] || { echo "$3 has no block $2 in $1"; exit 1; }
+  . ./commands
+}
+
+readme_program() {
+  block 1 c "$source/README.md" >program.c
+  block 2 text "$source/README.md" >wanted
+  [ -s program.c ] && [ -s wanted ] || { echo "the README has no program or no output"; exit 1; }
+}
 
 by_pkg_config() {
-  PKG_CONFIG_PATH=$(dirname "$(find "$work/moved" -name torvane-rtl.pc)")
-  export PKG_CONFIG_PATH
-  "$compiler" $flags -std=c11 -Wall -Wextra -Werror program.c -o program $(pkg-config --cflags --libs torvane-rtl)
-  LD_LIBRARY_PATH=$(pkg-config --variable=libdir torvane-rtl) ./program >got
+  readme_program
+  run sh 3 README.md
+  ./a.out >got
+  diff wanted got
 }
 
 by_find_package() {
-  cat >CMakeLists.txt <<'END'
-cmake_minimum_required(VERSION 3.25)
-project(user LANGUAGES C)
-find_package(TorvaneRTL 0.1 REQUIRED)
-add_executable(program program.c)
-target_link_libraries(program PRIVATE TorvaneRTL::TorvaneRTL_Minimal)
-END
+  readme_program
+  { echo 'cmake_minimum_required(VERSION 3.25)'
+    echo 'project(user LANGUAGES C)'
+    echo 'add_executable(program program.c)'
+    block 1 cmake "$source/README.md"; } >CMakeLists.txt
   cmake -G Ninja -S . -B build -DCMAKE_PREFIX_PATH="$work/moved" -DCMAKE_C_COMPILER="$compiler" \
     -DCMAKE_C_FLAGS="$flags" >log && cmake --build build >>log || { cat log; exit 1; }
   build/program >got
+  diff wanted got
 }
 
-ways=$way
-[ "$way" != debian_packages ] || ways="pkg_config find_package"
-for way in $ways; do
-  by_"$way"
-  diff wanted got
-done
+# A library built so does in the host what the one of the build does.
+same_library() {
+  local library=$2
+  echo "#include \"$source/examples/libraries/$library.c\"" >library.c
+  rm -f library.so
+  run sh "$1" docs/hosts.md
+  shift 2
+  "$build/examples/host" "$build/examples/libraries/$library.so" "$@" >wanted
+  "$build/examples/host" ./library.so "$@" >got
+  [ -s wanted ] && diff wanted got
+}
+
+by_hosts_page() {
+  same_library 1 pagerank "$source/examples/data/documents.links" 0.85 3
+  same_library 2 ball 3 4096 7
+}
+
+# The bitcode is that of 64-bit targets: without it the commands that name it are not run.
+by_calling_page() {
+  local number commands
+  for number in 1 2; do
+    block "$number" llvm "$source/docs/calling.md" >definitions.ll
+    [ -s definitions.ll ] || { echo "no LLVM program $number"; exit 1; }
+    for commands in 1 2; do
+      [ "$commands" = 1 ] || [ -e "$build/torvane_scalars.bc" ] || continue
+      rm -f program
+      run sh "$commands" docs/calling.md
+    done
+  done
+}
+
+by_debian_packages() {
+  (by_pkg_config)
+  (by_find_package)
+}
+
+by_"$way"

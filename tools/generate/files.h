@@ -14,6 +14,7 @@ void writeScalarFiles(Files &files, const std::vector<ExportGroup> &entries);
 void writeRoutineFiles(Files &files, const std::vector<ExportGroup> &routines);
 void writeOperatorTables(Files &files);
 void writeRegistryPage(Files &files);
+void writeOperatorsPage(Files &files);
 void writeExportFiles(Files &files, const std::vector<Signature> &exports);
 
 inline const char *const kGeneratedNote =

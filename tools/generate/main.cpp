@@ -23,6 +23,7 @@ Files generateAll() {
   writeRoutineFiles(files, routines);
   writeOperatorTables(files);
   writeRegistryPage(files);
+  writeOperatorsPage(files);
   writeExportFiles(files, exports);
   return files;
 }

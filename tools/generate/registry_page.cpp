@@ -41,7 +41,9 @@ const char *const kPreface =
 For those who write compilers and hosts. Compiled code does not link against the list algorithms: it asks for a function
 by its name and calls what it gets through one signature, `RuntimeFunctionHandler` of `torvane/registry.h`:
 
-    status = handler(libraryData, argumentCount, arguments, result)
+```text
+status = handler(libraryData, argumentCount, arguments, result)
+```
 
 - A name is found by its content. An unknown name, or null, yields a handler that returns 12, so that the result of a
   lookup can be called without a test.
