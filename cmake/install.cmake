@@ -19,10 +19,11 @@ foreach(file exports.txt exports.json torvane.ll)
   endif()
 endforeach()
 
-# The scalar entries as LLVM bitcode, for compilers that inline them instead of calling.
+# The scalar entries as LLVM bitcode, for compilers that inline them instead of calling: the same from every lane of
+# ./check, so that the first alone makes it.
 find_program(TORVANE_BITCODE_COMPILER clang++-19)
 find_program(TORVANE_BITCODE_LINKER llvm-link-19)
-if(TORVANE_BITCODE_COMPILER AND TORVANE_BITCODE_LINKER AND NOT TORVANE_ILP32 AND NOT TORVANE_SANITIZE)
+if(TORVANE_BITCODE_COMPILER AND TORVANE_BITCODE_LINKER AND NOT TORVANE_ILP32 AND NOT TORVANE_SANITIZE AND TORVANE_LANE STREQUAL "")
   file(GLOB entry_sources CONFIGURE_DEPENDS src/scalar/generated/*.cpp)
   file(GLOB_RECURSE entry_headers CONFIGURE_DEPENDS src/scalar/*.h src/scalar/*.def include/torvane/*.h)
   set(bitcode ${PROJECT_BINARY_DIR}/torvane_scalars.bc)
