@@ -1,0 +1,140 @@
+#include "table.h"
+
+#include "limits.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct Settings {
+  const char *room = "", *wanted = "";
+  int rounds = 0;
+  bool isForMachines = false;
+} settings;
+
+double nanoseconds(const Run &run, int repeats) {
+  const auto start = Clock::now();
+  run(repeats);
+  return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / repeats;
+}
+
+// The first call finds everything cold and says little.
+int repeatsFor(const Run &run) {
+  run(1);
+  return std::clamp(static_cast<int>(50e3 / std::max(nanoseconds(run, 1), 1.0)), 1, 20000);
+}
+
+std::vector<Time> leastTimes(const std::vector<Candidate> &candidates) {
+  std::vector<Time> least;
+  std::vector<const Candidate *> present;
+  std::vector<int> repeats;
+  for (const Candidate &candidate : candidates) {
+    if (!candidate.run) continue;
+    present.push_back(&candidate);
+    least.push_back({candidate.name, 1e300});
+    repeats.push_back(repeatsFor(candidate.run));
+  }
+  const auto start = Clock::now();
+  for (int round = 0; round < settings.rounds; ++round) {
+    if (round >= 7 && Clock::now() - start > std::chrono::seconds(2)) break;
+    for (size_t k = 0; k < present.size(); ++k)
+      least[k].nanoseconds = std::min(least[k].nanoseconds, nanoseconds(present[k]->run, repeats[k]));
+  }
+  return least;
+}
+
+double memoryLimit(const Work &work) {
+  const double bytes = work.bytesRead + work.bytesWritten;
+  if (bytes == 0) return 0;
+  if (work.bytesWritten == 0) return bytes / readRate(bytes);
+  return bytes / (work.bytesRead == 0 ? writeRate(bytes) : copyRate(bytes));
+}
+
+// Nanoseconds below which no call of so much work can come here; 0 where none is stated.
+double limitOf(const Work &work) {
+  const double arithmetic = work.operations == 0 ? 0 : work.operations / operationRate();
+  return std::max(memoryLimit(work), arithmetic);
+}
+
+struct Cells {
+  double ours, best = 0, limit;
+  const char *peer = "-";
+};
+
+Cells cellsOf(const Row &row, const std::vector<Time> &times) {
+  Cells cells = {times[0].nanoseconds, 0, limitOf(row.work)};
+  for (size_t k = 1; k < times.size(); ++k)
+    if (cells.best == 0 || times[k].nanoseconds < cells.best)
+      cells.best = times[k].nanoseconds, cells.peer = times[k].name;
+  return cells;
+}
+
+// A fraction with its digits, or a dash where there is nothing to divide by.
+std::string ratio(double part, double whole) {
+  char text[32] = "-";
+  if (whole > 0) std::snprintf(text, sizeof text, "%.2f", part / whole);
+  return text;
+}
+
+void printForMachines(const Row &row, const Cells &cells, const std::vector<Time> &times) {
+  std::printf("%s\t%s\t%.0f\t%.4g\t%s\t%s\t%s\t%g\t", settings.room, row.name.c_str(), row.count,
+              cells.ours / row.count, cells.peer, ratio(cells.ours, cells.best).c_str(),
+              ratio(cells.ours, cells.limit).c_str(), row.aim);
+  for (size_t k = 1; k < times.size(); ++k)
+    std::printf("%s%s=%.4g", k > 1 ? ";" : "", times[k].name, times[k].nanoseconds / row.count);
+  std::printf("\n");
+}
+
+void printForPeople(const Row &row, const Cells &cells, const std::vector<Time> &times) {
+  std::printf("%-44s %10.0f %10.4g %7s %7s ", row.name.c_str(), row.count, cells.ours / row.count,
+              ratio(cells.ours, cells.best).c_str(), ratio(cells.ours, cells.limit).c_str());
+  row.aim > 0 ? std::printf("%6.2f", row.aim) : std::printf("%6s", "-");
+  for (size_t k = 1; k < times.size(); ++k)
+    std::printf("  %s %.4g", times[k].name, times[k].nanoseconds / row.count);
+  std::printf("\n");
+}
+
+[[noreturn]] void refuse(const char *program, const char *word) {
+  std::fprintf(stderr, "%s: \"%s\"?\nusage: %s [--rounds N] [--only TEXT] [--tsv]\n", program, word, program);
+  std::exit(2);
+}
+
+} // namespace
+
+void start(const char *room, const char *unit, int argc, char **argv, int rounds) {
+  settings = {room, "", rounds, false};
+  for (int k = 1; k < argc; ++k) {
+    const bool hasValue = k + 1 < argc;
+    if (std::strcmp(argv[k], "--tsv") == 0)
+      settings.isForMachines = true;
+    else if (std::strcmp(argv[k], "--only") == 0 && hasValue)
+      settings.wanted = argv[++k];
+    else if (std::strcmp(argv[k], "--rounds") == 0 && hasValue && std::atoi(argv[k + 1]) > 0)
+      settings.rounds = std::atoi(argv[++k]);
+    else
+      refuse(argv[0], argv[k]);
+  }
+  if (!settings.isForMachines)
+    std::printf("%-44s %10s %10s %7s %7s %6s  peers\n", unit, "count", "ours", "/ best", "/ limit", "aim");
+}
+
+bool isWanted(const std::string &name) { return name.find(settings.wanted) != std::string::npos; }
+int rounds() { return settings.rounds; }
+
+void print(const Row &row, const std::vector<Time> &times) {
+  (settings.isForMachines ? printForMachines : printForPeople)(row, cellsOf(row, times), times);
+  std::fflush(stdout);
+}
+
+void compare(const Row &row, const std::vector<Candidate> &candidates) {
+  if (isWanted(row.name)) print(row, leastTimes(candidates));
+}
+
+} // namespace bench
