@@ -14,7 +14,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 struct Settings {
-  const char *room = "", *wanted = "";
+  const char *room = "", *unit = "", *wanted = "";
   int rounds = 0;
   bool isForMachines = false;
 } settings;
@@ -25,10 +25,16 @@ double nanoseconds(const Run &run, int repeats) {
   return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / repeats;
 }
 
-// The first call finds everything cold and says little.
+// The first call finds everything cold and says little, unless it takes long.
 int repeatsFor(const Run &run) {
-  run(1);
+  if (nanoseconds(run, 1) > 5e6) return 1;
   return std::clamp(static_cast<int>(50e3 / std::max(nanoseconds(run, 1), 1.0)), 1, 20000);
+}
+
+bool isEnough(int rounds, Clock::duration elapsed) {
+  if (rounds >= settings.rounds) return true;
+  return (rounds >= 5 && elapsed > std::chrono::seconds(1)) ||
+         (rounds >= 3 && elapsed > std::chrono::seconds(4));
 }
 
 std::vector<Time> leastTimes(const std::vector<Candidate> &candidates) {
@@ -42,19 +48,20 @@ std::vector<Time> leastTimes(const std::vector<Candidate> &candidates) {
     repeats.push_back(repeatsFor(candidate.run));
   }
   const auto start = Clock::now();
-  for (int round = 0; round < settings.rounds; ++round) {
-    if (round >= 7 && Clock::now() - start > std::chrono::seconds(2)) break;
+  for (int round = 0; !isEnough(round, Clock::now() - start); ++round)
     for (size_t k = 0; k < present.size(); ++k)
       least[k].nanoseconds = std::min(least[k].nanoseconds, nanoseconds(present[k]->run, repeats[k]));
-  }
   return least;
 }
 
+// As much is copied as is both read and written; the rest is read or written alone.
 double memoryLimit(const Work &work) {
-  const double bytes = work.bytesRead + work.bytesWritten;
-  if (bytes == 0) return 0;
-  if (work.bytesWritten == 0) return bytes / readRate(bytes);
-  return bytes / (work.bytesRead == 0 ? writeRate(bytes) : copyRate(bytes));
+  const double read = work.bytesRead, written = work.bytesWritten, total = read + written;
+  const double copied = 2 * std::min(read, written);
+  double time = copied == 0 ? 0 : copied / copyRate(total);
+  if (read > written) time += (read - written) / readRate(total);
+  if (written > read) time += (written - read) / writeRate(total);
+  return time;
 }
 
 // Nanoseconds below which no call of so much work can come here; 0 where none is stated.
@@ -76,26 +83,38 @@ Cells cellsOf(const Row &row, const std::vector<Time> &times) {
   return cells;
 }
 
-// A fraction with its digits, or a dash where there is nothing to divide by.
-std::string ratio(double part, double whole) {
-  char text[32] = "-";
-  if (whole > 0) std::snprintf(text, sizeof text, "%.2f", part / whole);
+std::string formatted(const char *format, double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, format, value);
   return text;
 }
 
+// A dash where there is nothing to divide by.
+std::string ratio(double part, double whole, const char *format) {
+  return whole > 0 ? formatted(format, part / whole) : "-";
+}
+
+// A ratio to the best peer, or nanoseconds for one.
+std::string aimOf(const Row &row) {
+  if (row.aimNanoseconds > 0) return formatted("%gns", row.aimNanoseconds);
+  return row.aim > 0 ? formatted("%.2f", row.aim) : "-";
+}
+
+// run reads these columns: room, row, unit, count, ours, the best peer's name, ratio to it, ratio to the
+// limit, aim, the peers.
 void printForMachines(const Row &row, const Cells &cells, const std::vector<Time> &times) {
-  std::printf("%s\t%s\t%.0f\t%.4g\t%s\t%s\t%s\t%g\t", settings.room, row.name.c_str(), row.count,
-              cells.ours / row.count, cells.peer, ratio(cells.ours, cells.best).c_str(),
-              ratio(cells.ours, cells.limit).c_str(), row.aim);
+  std::printf("%s\t%s\t%s\t%.0f\t%.4g\t%s\t%s\t%s\t%s\t", settings.room, row.name.c_str(), settings.unit,
+              row.count, cells.ours / row.count, cells.peer, ratio(cells.ours, cells.best, "%.4g").c_str(),
+              ratio(cells.ours, cells.limit, "%.4g").c_str(), aimOf(row).c_str());
   for (size_t k = 1; k < times.size(); ++k)
     std::printf("%s%s=%.4g", k > 1 ? ";" : "", times[k].name, times[k].nanoseconds / row.count);
   std::printf("\n");
 }
 
 void printForPeople(const Row &row, const Cells &cells, const std::vector<Time> &times) {
-  std::printf("%-44s %10.0f %10.4g %7s %7s ", row.name.c_str(), row.count, cells.ours / row.count,
-              ratio(cells.ours, cells.best).c_str(), ratio(cells.ours, cells.limit).c_str());
-  row.aim > 0 ? std::printf("%6.2f", row.aim) : std::printf("%6s", "-");
+  std::printf("%-44s %10.0f %10.4g %7s %7s %6s", row.name.c_str(), row.count, cells.ours / row.count,
+              ratio(cells.ours, cells.best, "%.2f").c_str(), ratio(cells.ours, cells.limit, "%.2f").c_str(),
+              aimOf(row).c_str());
   for (size_t k = 1; k < times.size(); ++k)
     std::printf("  %s %.4g", times[k].name, times[k].nanoseconds / row.count);
   std::printf("\n");
@@ -109,7 +128,7 @@ void printForPeople(const Row &row, const Cells &cells, const std::vector<Time> 
 } // namespace
 
 void start(const char *room, const char *unit, int argc, char **argv, int rounds) {
-  settings = {room, "", rounds, false};
+  settings = {room, unit, "", rounds, false};
   for (int k = 1; k < argc; ++k) {
     const bool hasValue = k + 1 < argc;
     if (std::strcmp(argv[k], "--tsv") == 0)

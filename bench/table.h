@@ -49,6 +49,7 @@ struct Row {
   double count = 1; // elements, rows, bytes ...; what is printed is nanoseconds for one of them
   Work work = {};
   double aim = 0; // our ratio to the best peer that was asked for; 0: none was
+  double aimNanoseconds = 0; // for one of them, where that was asked for and no ratio
 };
 
 // Reads the command line, prints the heading. Ends the program where it makes no sense of a word.
@@ -60,7 +61,7 @@ bool isWanted(const std::string &name);
 int rounds();
 
 // Ours is the first candidate. A round is about 50 us a candidate, or one call where that takes longer; a row
-// ends after two seconds, but not before seven rounds.
+// ends after a second, but not before five rounds, of which the slowest rows get three.
 void compare(const Row &row, const std::vector<Candidate> &candidates);
 
 // A row timed elsewhere, a call each; ours is the first.
