@@ -28,10 +28,10 @@ template <class Call> Run repeated(Call call) {
   };
 }
 
-// Without a run: the peer is not there.
+// Without a run: the peer is not there. What `prepare` does for so many calls is not timed.
 struct Candidate {
   const char *name;
-  Run run;
+  Run run, prepare = {};
 };
 
 struct Time {
@@ -48,7 +48,7 @@ struct Row {
   std::string name;
   double count = 1; // elements, rows, bytes ...; what is printed is nanoseconds for one of them
   Work work = {};
-  double aim = 0; // our ratio to the best peer that was asked for; 0: none was
+  double aim = 0;            // our ratio to the best peer that was asked for; 0: none was
   double aimNanoseconds = 0; // for one of them, where that was asked for and no ratio
 };
 
