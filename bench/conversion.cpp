@@ -1,32 +1,25 @@
-// Conversions of numeric arrays beside a plain loop over the same memory, compiled for the machine at hand:
-// rounds alternate between the two, and the least of each counts. Prints nanoseconds an element and our
-// ratio.
-//
-//   bench_conversion [rounds [largest count [smallest count]]]
+// Conversions of numeric arrays beside a plain loop over the same memory, compiled for the machine at hand.
 #include "conversion_peers.h"
+#include "table.h"
 
 #include "arrays/conversion.h"
 
 #include <torvane/torvane.h>
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <random>
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using torvane::ConversionMethod;
 
-struct Row {
+struct Conversion {
   const char *name;
   mint from, to;
   ConversionMethod method;
   void (*plain)(void *to, const void *from, ptrdiff_t count);
 };
-const Row kRows[] = {
+const Conversion kConversions[] = {
     {"f64 to i32, Round",
      TORVANE_ELEMENT_REAL64,
      TORVANE_ELEMENT_INTEGER32,
@@ -89,27 +82,18 @@ void fill(MNumericArray *array) {
   }
 }
 
-template <class Call> double nanoseconds(mint repeats, const Call &call) {
-  const auto start = Clock::now();
-  for (mint k = 0; k < repeats; ++k) call();
-  return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / repeats;
-}
-
-void measure(const Row &row, mint count, int rounds) {
+void measure(const Conversion &row, mint count) {
   MNumericArray *source = Runtime_CreateNumericArray(row.from, 1, &count);
   MNumericArray *result = Runtime_CreateNumericArray(row.to, 1, &count);
   fill(source);
-  const mint repeats = std::max(1, 200000 / count);
-  double ours = 1e300, plain = 1e300;
-  for (int round = 0; round < rounds; ++round) {
-    ours = std::min(ours, nanoseconds(repeats, [&] {
-                      if (torvane::MNumericArray_convert(&result, source, row.to, &row.method) != 0)
-                        std::abort();
-                    }));
-    plain = std::min(plain, nanoseconds(repeats, [&] { row.plain(result->data, source->data, count); }));
-  }
-  std::printf("%-26s %9d %8.3f %8.3f %6.2f\n", row.name, count, ours / count, plain / count, ours / plain);
-  std::fflush(stdout);
+  const double read = torvane::MNumericArray_byteCount(source),
+               written = torvane::MNumericArray_byteCount(result);
+  bench::compare({row.name, double(count), {read, written}, 1.1},
+                 {{"ours", bench::repeated([&] {
+                     if (torvane::MNumericArray_convert(&result, source, row.to, &row.method) != 0)
+                       std::abort();
+                   })},
+                  {"plain", bench::repeated([&] { row.plain(result->data, source->data, count); })}});
   torvane::MNumericArray_delete(source);
   torvane::MNumericArray_delete(result);
 }
@@ -117,11 +101,8 @@ void measure(const Row &row, mint count, int rounds) {
 } // namespace
 
 int main(int argc, char **argv) {
-  const int rounds = argc > 1 ? std::atoi(argv[1]) : 60;
-  const mint largest = argc > 2 ? std::atoi(argv[2]) : 10000000,
-             smallest = argc > 3 ? std::atoi(argv[3]) : 1000;
+  bench::start("conversion", "ns an element", argc, argv);
   InitializeRuntimeLibrary();
-  std::printf("%-26s %9s %8s %8s %6s\n", "ns an element", "count", "ours", "plain", "ratio");
-  for (const Row &row : kRows)
-    for (mint count = smallest; count <= largest; count *= 10) measure(row, count, rounds);
+  for (const Conversion &row : kConversions)
+    for (mint count = 1000; count <= 10000000; count *= 10) measure(row, count);
 }

@@ -88,17 +88,6 @@ template <class T, class F> Run reduction(std::vector<T> &x, T start, F f) {
   };
 }
 
-void widenRoots(Data &d) {
-  mcomplex *__restrict r = d.complexes.data();
-  for (std::size_t k = 0; k < d.count; ++k) {
-    const mreal x = d.x[k];
-    if (x < 0)
-      r[k] = {0.0, std::sqrt(-x)};
-    else
-      r[k] = {std::sqrt(x), 0.0};
-  }
-}
-
 void plusRows(Data &d) {
   const std::size_t length = d.count / d.rows;
   for (std::size_t i = 0; i < d.rows; ++i) {
@@ -289,7 +278,7 @@ Makers integerMakers() {
 
 // The platform's library, one call an element.
 Makers functionMakers() {
-  Makers makers = {
+  return {
       {"exp",
        [](Data &d) {
          return Peers{loop(d.result, d.x, [](mreal a) { return std::exp(a); }), {}, {}};
@@ -318,15 +307,20 @@ Makers functionMakers() {
        [](Data &d) {
          return Peers{loop(d.result, d.x, d.y, [](mreal a, mreal b) { return std::pow(a, b); }), {}, {}};
        }},
-      {"widening sqrt, half negative",
-       [](Data &d) {
-         return Peers{[&d] { widenRoots(d); }, {}, {}};
-       }},
   };
-  return makers;
 }
 
 } // namespace
+
+void widenRoots(std::vector<mcomplex> &result, const std::vector<mreal> &x) {
+  mcomplex *__restrict r = result.data();
+  for (std::size_t k = 0; k < x.size(); ++k) {
+    if (x[k] < 0)
+      r[k] = {0.0, std::sqrt(-x[k])};
+    else
+      r[k] = {std::sqrt(x[k]), 0.0};
+  }
+}
 
 Peers peersOf(const std::string &operation, Data &data) {
   static const Makers families[] = {realMakers(), integerMakers(), functionMakers()};

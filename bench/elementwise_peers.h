@@ -23,4 +23,7 @@ struct Peers {
 };
 Peers peersOf(const std::string &operation, Data &data);
 
+// Square roots, those of negative numbers imaginary: a plain loop.
+void widenRoots(std::vector<mcomplex> &result, const std::vector<mreal> &x);
+
 } // namespace peers

@@ -1,8 +1,8 @@
 // The allocator beside its peers: the C library's, and mimalloc and jemalloc if they are installed. All live
-// in this one process and are called through function pointers; rounds alternate between them and the
-// median round counts. Prints nanoseconds for one operation and our ratio to the best peer.
-//
-//   bench_memory [rounds [part of a row's name]]
+// in this one process and are called through function pointers; rounds alternate between them and the median
+// round counts, as two threads are as often luckier than usual as unluckier.
+#include "table.h"
+
 #include <torvane/memory.h>
 
 #include <algorithm>
@@ -47,7 +47,7 @@ void giveOurs(void *block) { Free_fun(block); }
 bool loadPeer(Peer &peer, const char *library, const char *take, const char *give) {
   void *handle = dlopen(library, RTLD_NOW | RTLD_LOCAL | RTLD_DEEPBIND);
   if (handle == nullptr) {
-    std::printf("%s left out: %s\n", library, dlerror());
+    std::fprintf(stderr, "%s left out: %s\n", library, dlerror());
     return false;
   }
   peer = {reinterpret_cast<void *(*)(size_t)>(dlsym(handle, take)),
@@ -73,7 +73,7 @@ double nanosecondsSince(Clock::time_point start) {
 void touch(void *block) { *static_cast<volatile uint64_t *>(block) = 1; }
 
 double pairs(const Allocator &a, size_t bytes) {
-  constexpr int kPairs = 200000;
+  constexpr int kPairs = 100000;
   const auto start = Clock::now();
   for (int i = 0; i < kPairs; ++i) {
     void *block = a.take(bytes);
@@ -85,7 +85,7 @@ double pairs(const Allocator &a, size_t bytes) {
 
 // Nanoseconds for an allocation and its release.
 double bursts(const Allocator &a, size_t bytes) {
-  constexpr int kBursts = 3000;
+  constexpr int kBursts = 800;
   std::array<void *, 64> blocks;
   const auto start = Clock::now();
   for (int i = 0; i < kBursts; ++i) {
@@ -183,23 +183,16 @@ double median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-const char *wanted = "";
+using Measure = std::function<double(const Allocator &)>;
 
-void compare(const std::string &what, const std::vector<Allocator> &all, int rounds,
-             const std::function<double(const Allocator &)> &measure) {
-  if (what.find(wanted) == std::string::npos) return;
+void compare(const std::string &what, double aim, const std::vector<Allocator> &all, const Measure &measure) {
+  if (!bench::isWanted(what)) return;
   std::vector<std::vector<double>> times(all.size());
-  for (int round = 0; round < rounds; ++round)
+  for (int round = 0; round < bench::rounds(); ++round)
     for (size_t i = 0; i < all.size(); ++i) times[i].push_back(measure(all[i]));
-  double best = 1e300;
-  std::printf("%-28s", what.c_str());
-  for (size_t i = 0; i < all.size(); ++i) {
-    const double middle = median(times[i]);
-    if (i > 0) best = std::min(best, middle);
-    std::printf(" %9.2f", middle);
-  }
-  std::printf("   %.2f\n", median(times[0]) / best);
-  std::fflush(stdout);
+  std::vector<bench::Time> medians;
+  for (size_t i = 0; i < all.size(); ++i) medians.push_back({all[i].name, median(times[i])});
+  bench::print({what, 1, {}, aim}, medians);
 }
 
 } // namespace
@@ -216,20 +209,16 @@ constexpr size_t kHandedSizes[] = {16, 64, 256, 1024};
 
 int main(int argc, char **argv) {
   restartWithStaticStorage(argv);
-  const int rounds = argc > 1 ? std::atoi(argv[1]) : 9;
-  if (argc > 2) wanted = argv[2];
+  bench::start("memory", "ns an allocation and its release", argc, argv, 9);
   const auto all = allocators();
-
-  std::printf("%-28s", "ns");
-  for (const Allocator &a : all) std::printf(" %9s", a.name);
-  std::printf("   ours / best peer\n");
   for (const size_t bytes : kSizes)
-    compare("pairs, " + std::to_string(bytes), all, rounds, [&](auto &a) { return pairs(a, bytes); });
+    compare("pairs, " + std::to_string(bytes) + " bytes", 0.9, all, [&](auto &a) { return pairs(a, bytes); });
   for (const size_t bytes : kSizes)
-    compare("bursts of 64, " + std::to_string(bytes), all, rounds, [&](auto &a) { return bursts(a, bytes); });
-  compare("10,000 blocks at random", all, rounds, [&](auto &a) { return replaceAtRandom(a, 7); });
-  compare("the same on two threads", all, rounds, [&](auto &a) { return replaceOnTwoThreads(a); });
+    compare("bursts of 64, " + std::to_string(bytes) + " bytes", 0.9, all,
+            [&](auto &a) { return bursts(a, bytes); });
+  compare("10,000 blocks at random", 0, all, [&](auto &a) { return replaceAtRandom(a, 7); });
+  compare("10,000 blocks at random, two threads", 0, all, [&](auto &a) { return replaceOnTwoThreads(a); });
   for (const size_t bytes : kHandedSizes)
-    compare("handed over, " + std::to_string(bytes), all, rounds,
+    compare("handed over, " + std::to_string(bytes) + " bytes", 0.9, all,
             [&](auto &a) { return handOver(a, bytes); });
 }

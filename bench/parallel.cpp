@@ -1,20 +1,16 @@
-// Parallel loops beside the serial loop, and the mapping of a compiled function beside a bare oneTBB loop.
-// The candidates of a row alternate call by call in this one process, and the median call of each counts: on
-// a machine that others use, means tell more about them. Prints microseconds a call and ratios.
-//
-//   bench_parallel [calls [part of a row's name]]
+// Parallel loops beside the serial loop, and the mapping of a compiled function beside a bare oneTBB loop and
+// the serial one. The median call of each counts: two threads are as often luckier than usual as unluckier.
 #include "parallel/first_failure.h"
 #include "parallel/parallel.h"
 #include "runtime/memory.h"
 #include "runtime/thresholds.h"
+#include "table.h"
 #include <torvane/parallel.h>
 #include <torvane/startup.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <oneapi/tbb/parallel_for.h>
 #include <string>
@@ -28,38 +24,34 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Run = std::function<void()>;
 
-const char *wanted = "";
-int calls = 301;
 int pauseMicroseconds = 0;
 
-double microseconds(const Run &run) {
+double nanoseconds(const Run &run) {
   if (pauseMicroseconds > 0) std::this_thread::sleep_for(std::chrono::microseconds(pauseMicroseconds));
   const auto start = Clock::now();
   run();
-  return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
+  return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
 }
 
-double quantile(std::vector<double> &times, double part) {
-  const auto at = times.begin() + static_cast<long>(part * static_cast<double>(times.size() - 1));
+double median(std::vector<double> &times) {
+  const auto at = times.begin() + static_cast<long>(times.size() / 2);
   std::nth_element(times.begin(), at, times.end());
   return *at;
 }
 
-// Alternates in groups of ten, so that each candidate runs as it would in a row of its own. A row of long
-// calls gets fewer of them, but at least thirty.
-void compare(const std::string &name, const Run &ours, const Run &peer) {
-  if (name.find(wanted) == std::string::npos) return;
+// Alternates in groups, so that each candidate runs as it would in a row of its own. A row of long calls gets
+// fewer and smaller ones.
+void compare(const bench::Row &row, const Run &ours, const char *peerName, const Run &peer) {
+  if (!bench::isWanted(row.name)) return;
   std::vector<double> own, other;
+  const int group = nanoseconds(peer) > 20e6 ? 2 : 10;
   const auto start = Clock::now();
-  for (int call = 0; call < calls && (call < 30 || Clock::now() - start < std::chrono::seconds(3));
-       call += 10) {
-    for (int i = 0; i < 10; ++i) own.push_back(microseconds(ours));
-    for (int i = 0; i < 10; ++i) other.push_back(microseconds(peer));
+  for (int call = 0; call < bench::rounds(); call += group) {
+    if (call >= 10 && Clock::now() - start > std::chrono::milliseconds(1200)) break;
+    for (int i = 0; i < group; ++i) own.push_back(nanoseconds(ours));
+    for (int i = 0; i < group; ++i) other.push_back(nanoseconds(peer));
   }
-  const double a = quantile(own, 0.5), b = quantile(other, 0.5);
-  std::printf("%-40s %10.2f %10.2f %8.2f   %10.2f %10.2f\n", name.c_str(), a, b, a / b, quantile(own, 0.9),
-              quantile(other, 0.9));
-  std::fflush(stdout);
+  bench::print(row, {{"ours", median(own)}, {peerName, median(other)}});
 }
 
 struct Vectors {
@@ -90,7 +82,10 @@ template <double (*f)(double, double)> void poolRow(const char *name, mint count
   const auto ours = [&] {
     parallelLoop(&v, nullptr, body<f>, 0, count, manyChunks ? kChunk : 1, manyChunks ? partition : nullptr);
   };
-  compare(std::string("pool, ") + name + ", " + std::to_string(count), ours, [&] { loop<f>(v, 0, count); });
+  const char *rest = pauseMicroseconds > 0 ? ", after a rest of 1 ms" : "";
+  const double aim = count == 32768 && pauseMicroseconds == 0 ? 1.2 : 0;
+  compare({std::string("pool, ") + name + rest, double(count), {16.0 * count, 8.0 * count}, aim}, ours,
+          "serial", [&] { loop<f>(v, 0, count); });
   torvane::free(partition);
 }
 
@@ -113,8 +108,14 @@ void taskRow(const char *name, int64_t (*function)(int64_t), int64_t count) {
   const auto serial = [&] {
     for (size_t i = 0; i < source.size(); ++i) target[i] = f(source[i]);
   };
-  compare(std::string("map, ") + name + ", " + std::to_string(count) + ", bare oneTBB", ours, bare);
-  compare(std::string("map, ") + name + ", " + std::to_string(count) + ", serial", ours, serial);
+  const auto row = [=](const char *what, double aim) {
+    return bench::Row{std::string("map, ") + name + what,
+                      static_cast<double>(count),
+                      {8.0 * double(count), 8.0 * double(count)},
+                      aim};
+  };
+  compare(row("", 1.1), ours, "oneTBB", bare);
+  compare(row(", peer: serial", 0), ours, "serial", serial);
 }
 
 void poolRows() {
@@ -127,17 +128,14 @@ void poolRows() {
 } // namespace
 
 int main(int argc, char **argv) {
-  if (argc > 1) calls = std::atoi(argv[1]);
-  if (argc > 2) wanted = argv[2];
+  bench::start("parallel", "ns an element", argc, argv, 300);
   InitializeRuntimeLibrary();
-  std::printf("%-40s %10s %10s %8s   %10s %10s\n", "microseconds", "ours", "peer", "ratio", "ours 0.9",
-              "peer 0.9");
   poolRows();
-  for (const int64_t count : {int64_t{4096}, int64_t{100000}, int64_t{10000000}}) {
+  for (const int64_t count : {4096, 100000, 1000000}) {
     taskRow("cheap", cheap, count);
     taskRow("heavy", heavy, count);
   }
+  taskRow("cheap", cheap, 10000000);
   pauseMicroseconds = 1000;
-  std::printf("with a pause of 1 ms before each call\n");
   poolRows();
 }

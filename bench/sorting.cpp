@@ -1,11 +1,9 @@
-// Orders and sorts beside std::stable_sort and Boost's sorts, all in this process: rounds alternate between
-// the candidates, and the least of each counts. Prints nanoseconds a row and our ratio to the best peer.
+// Orders and sorts beside std::stable_sort and Boost's sorts. An order is the permutation, and its peers make
+// one; a sort is the rows themselves, and so is its peers'.
 //
 // Short inputs come as many different ones, one after another, so that no branch predictor learns them by
 // heart.
-//
-//   bench_sorting [rounds [largest count [smallest count]]]
-#include "algorithms/order.h"
+#include "table.h"
 
 #include <torvane/torvane.h>
 
@@ -13,35 +11,15 @@
 #include <boost/sort/spreadsort/spreadsort.hpp>
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <functional>
+#include <array>
 #include <numeric>
 #include <random>
+#include <string>
 #include <vector>
 
+using bench::Run;
+
 namespace {
-
-using Clock = std::chrono::steady_clock;
-using Run = std::function<void()>;
-
-int rounds = 7;
-
-double nanoseconds(const Run &run) {
-  const auto start = Clock::now();
-  run();
-  return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
-}
-
-std::vector<double> leastOf(const std::vector<Run> &candidates) {
-  std::vector<double> least(candidates.size(), 1e300);
-  for (int round = 0; round < rounds; ++round)
-    for (size_t k = 0; k < candidates.size(); ++k)
-      if (candidates[k]) least[k] = std::min(least[k], nanoseconds(candidates[k]));
-  return least;
-}
 
 template <class Element>
 constexpr mint kTypeOf = sizeof(Element) == sizeof(mint) ? TORVANE_TYPE_INTEGER : TORVANE_TYPE_REAL;
@@ -60,7 +38,7 @@ template <class Element> struct Inputs {
 
   template <class Draw>
   Inputs(mint rowCount, mint rowLength, const Draw &draw) : rows(rowCount), length(rowLength) {
-    const mint count = std::max(1, 1000000 / rows);
+    const mint count = std::max(1, 200000 / rows);
     for (mint k = 0; k < count; ++k) {
       tensors.push_back(newTensor(kTypeOf<Element>, rows, length));
       for (mint i = 0; i < rows * length; ++i)
@@ -77,11 +55,12 @@ template <class Element> struct Inputs {
   Inputs(const Inputs &) = delete;
   Inputs &operator=(const Inputs &) = delete;
 
-  double perRow(double total) const { return total / static_cast<double>(tensors.size()) / rows; }
-  Run forEach(const std::function<void(MTensor *)> &run) {
-    return [=, this] {
-      for (MTensor *tensor : tensors) run(tensor);
-    };
+  // One input a call, each in its turn.
+  template <class Call> Run forEach(Call call) {
+    return bench::repeated([this, call, next = size_t{0}]() mutable {
+      call(tensors[next]);
+      next = (next + 1) % tensors.size();
+    });
   }
 };
 
@@ -122,59 +101,67 @@ template <class Element> void spreadSortValues(const MTensor *tensor) {
   boost::sort::spreadsort::spreadsort(values.begin(), values.end());
 }
 
+template <class Value> void stableSortValues(const MTensor *tensor) {
+  static std::vector<Value> values;
+  const auto *x = static_cast<const Value *>(tensor->data);
+  values.assign(x, x + tensor->dimensions[0]);
+  std::stable_sort(values.begin(), values.end());
+}
+
+// What is asked of an order; nothing is asked of a sort.
+constexpr double kRandom = 0.5, kSorted = 1.2, kRows = 0.8;
+
 template <class Element, class Draw>
-void measure(const char *name, mint rows, mint length, const Draw &draw) {
+void measure(const std::string &name, double aim, mint rows, mint length, const Draw &draw) {
+  if (!bench::isWanted("order, " + name) && !bench::isWanted("sort, " + name)) return;
   Inputs<Element> in(rows, length, draw);
   const bool isSingle = length == 1;
-  const Run none;
-  const std::vector<double> ns = leastOf({
-      in.forEach([&](MTensor *t) { Runtime_MTensor_computeSortPermutation(in.permutation, t); }),
-      in.forEach([&](MTensor *t) { stableSortRows(in, t); }),
-      isSingle ? in.forEach([&](MTensor *t) { flatStableSortPairs(in, t); }) : none,
-      in.forEach([&](MTensor *t) { Runtime_MTensor_Sort(&in.result, t); }),
-      in.forEach([&](MTensor *t) {
-        Runtime_MTensor_computeSortPermutation(in.permutation, t);
-        torvane::MTensor_gatherRows(&in.result, t, in.permutation);
-      }),
-      isSingle ? in.forEach([](MTensor *t) { spreadSortValues<Element>(t); }) : none,
-  });
-  std::printf("%-24s %9d %8.2f %8.2f", name, rows, in.perRow(ns[0]), in.perRow(ns[1]));
-  const double best = std::min(ns[1], ns[2]);
-  isSingle ? std::printf(" %8.2f", in.perRow(ns[2])) : std::printf("        -");
-  std::printf(" %6.2f | %8.2f %8.2f", ns[0] / best, in.perRow(ns[3]), in.perRow(ns[4]));
-  isSingle ? std::printf(" %8.2f\n", in.perRow(ns[5])) : std::printf("        -\n");
-  std::fflush(stdout);
+  const double count = rows, read = sizeof(Element) * count * length;
+  const auto row = [&](const char *what, double written, double asked) {
+    return bench::Row{std::string(what) + ", " + name, count, {read, written}, asked};
+  };
+  bench::compare(
+      row("order", sizeof(mint) * count, aim),
+      {{"ours", in.forEach([&](MTensor *t) { Runtime_MTensor_computeSortPermutation(in.permutation, t); })},
+       {"std", in.forEach([&](MTensor *t) { stableSortRows(in, t); })},
+       {"flat", isSingle ? in.forEach([&](MTensor *t) { flatStableSortPairs(in, t); }) : Run()}});
+  const Run std3 = in.forEach([](MTensor *t) { stableSortValues<std::array<Element, 3>>(t); });
+  bench::compare(
+      row("sort", read, 0),
+      {{"ours", in.forEach([&](MTensor *t) { Runtime_MTensor_Sort(&in.result, t); })},
+       {"std", isSingle ? in.forEach([](MTensor *t) { stableSortValues<Element>(t); }) : std3},
+       {"spread", isSingle ? in.forEach([](MTensor *t) { spreadSortValues<Element>(t); }) : Run()}});
+}
+
+std::mt19937 generator(1);
+mint anyInteger(mint) { return static_cast<mint>(generator()); }
+mreal anyReal(mint) { return std::uniform_real_distribution<>(0, 1)(generator); }
+
+void measureAll(mint rows) {
+  std::normal_distribution<> normal(0, 1);
+  const auto below = [](unsigned n) { return [n](mint) { return static_cast<mint>(generator() % n); }; };
+  const auto tenths = [](mint) { return static_cast<double>(generator() % 10) * 0.1; };
+  if (rows > 1000) measure<mreal>("normal reals", kRandom, rows, 1, [&](mint) { return normal(generator); });
+  measure<mint>("10 distinct integers", kRandom, rows, 1, below(10));
+  measure<mreal>("10 distinct reals", kRandom, rows, 1, tenths);
+  measure<mint>("sorted integers", kSorted, rows, 1, [](mint k) { return k; });
+  measure<mreal>("sorted reals", kSorted, rows, 1, [](mint k) { return k * 0.1; });
+  measure<mint>("descending integers", kSorted, rows, 1, [](mint k) { return -k; });
+  measure<mint>("rows of 3 integers", kRows, rows, 3, anyInteger);
+  measure<mreal>("rows of 3 reals", kRows, rows, 3, anyReal);
+  measure<mint>("rows of 3, 30 distinct", kRows, rows, 3, below(30));
+  measure<mreal>("rows of 3 reals, 30 distinct", kRows, rows, 3,
+                 [](mint) { return static_cast<double>(generator() % 30); });
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-  if (argc > 1) rounds = std::atoi(argv[1]);
-  const mint largest = argc > 2 ? std::atoi(argv[2]) : 10000000,
-             smallest = argc > 3 ? std::atoi(argv[3]) : 1000;
+  bench::start("sorting", "ns a row", argc, argv);
   InitializeRuntimeLibrary();
-  std::mt19937 random(1);
-  std::uniform_real_distribution<> uniform(0, 1);
-  std::normal_distribution<> normal(0, 1);
-  const auto integer = [&](mint) { return static_cast<mint>(random()); };
-  const auto below = [&](unsigned n) {
-    return [&random, n](mint) { return static_cast<mint>(random() % n); };
-  };
-  std::printf("%-24s %9s %8s %8s %8s %6s | %8s %8s %8s\n", "ns a row", "rows", "order", "std", "flat",
-              "ratio", "sort", "gathered", "spread");
-  for (mint rows = smallest; rows <= largest; rows *= 10) {
-    measure<mint>("integers", rows, 1, integer);
-    measure<mreal>("reals, uniform", rows, 1, [&](mint) { return uniform(random); });
-    measure<mreal>("reals, normal", rows, 1, [&](mint) { return normal(random); });
-    measure<mint>("integers, 10 distinct", rows, 1, below(10));
-    measure<mreal>("reals, 10 distinct", rows, 1,
-                   [&](mint) { return static_cast<double>(random() % 10) * 0.1; });
-    measure<mint>("integers, sorted", rows, 1, [](mint k) { return k; });
-    measure<mreal>("reals, sorted", rows, 1, [](mint k) { return k * 0.1; });
-    measure<mint>("integers, descending", rows, 1, [](mint k) { return -k; });
-    measure<mint>("rows of 3 integers", rows, 3, integer);
-    measure<mreal>("rows of 3 reals", rows, 3, [&](mint) { return uniform(random); });
-    measure<mint>("rows of 3, 30 distinct", rows, 3, below(30));
-    measure<mreal>("rows of 3 reals, 30", rows, 3, [&](mint) { return static_cast<double>(random() % 30); });
+  for (mint rows = 1000; rows <= 10000000; rows *= 10) {
+    measure<mint>("integers", kRandom, rows, 1, anyInteger);
+    if (rows <= 1000000) measure<mreal>("reals", kRandom, rows, 1, anyReal);
+    if (rows == 1000 || rows == 1000000) measureAll(rows);
   }
 }

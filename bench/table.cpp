@@ -37,7 +37,7 @@ int repeatsFor(const Candidate &candidate) {
 bool isEnough(int rounds, Clock::duration elapsed) {
   if (rounds >= settings.rounds) return true;
   return (rounds >= 5 && elapsed > std::chrono::seconds(1)) ||
-         (rounds >= 3 && elapsed > std::chrono::seconds(4));
+         (rounds >= 2 && elapsed > std::chrono::seconds(4));
 }
 
 std::vector<Time> leastTimes(const std::vector<Candidate> &candidates) {

@@ -61,7 +61,7 @@ bool isWanted(const std::string &name);
 int rounds();
 
 // Ours is the first candidate. A round is about 50 us a candidate, or one call where that takes longer; a row
-// ends after a second, but not before five rounds, of which the slowest rows get three.
+// ends after a second, but not before five rounds, of which the slowest rows get two.
 void compare(const Row &row, const std::vector<Candidate> &candidates);
 
 // A row timed elsewhere, a call each; ours is the first.
