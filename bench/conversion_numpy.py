@@ -1,19 +1,16 @@
 #!/usr/bin/python3
-"""Conversions of numeric arrays beside NumPy, both in this process and on the same memory.
+"""Conversions of numeric arrays beside NumPy.
 
-    conversion_numpy.py MODULE [rounds]
+    conversion_numpy.py MODULE [--rounds N] [--only TEXT] [--tsv]
 
-MODULE is the build's bench_conversion_module. The candidates of a row alternate and the least counts. Prints
-nanoseconds an element and our ratio. NumPy's peer is copyto, which is astype without the allocation; its
-figure has a call from Python in it, of about half a microsecond. Needs NumPy; neither the build nor a test does.
+MODULE is the build's bench_conversion_module. NumPy's peer is copyto, which is astype without the allocation.
 """
 
 import ctypes
-import sys
 
 import numpy
 
-from elementwise_numpy import nanoseconds, tensor_over
+from numpy_table import Table, tensor_over
 
 TAGS = {"uint8": 2, "int16": 3, "int32": 5, "float32": 9, "float64": 10}
 COERCE, CLIP_AND_COERCE, ROUND, SCALE = 3, 4, 5, 7
@@ -25,40 +22,48 @@ def array_over(array):
     return record
 
 
+def cut(target, source, scratch):
+    numpy.copyto(target, source, casting="unsafe")
+
+
 def clipped(target, source, scratch):
     numpy.clip(source, 0, 255, out=scratch)
     numpy.copyto(target, scratch, casting="unsafe")
 
 
+def scaled(target, source, scratch):
+    numpy.divide(source, numpy.float32(255), out=target)
+
+
+# Name, types, method, peer, aim. NumPy's rounding is none, but a cut.
 ROWS = (
-    ("f64 to i32, Round", "float64", "int32", ROUND, lambda t, x, s: numpy.copyto(t, x, casting="unsafe")),
-    ("f64 to f32, Coerce", "float64", "float32", COERCE, lambda t, x, s: numpy.copyto(t, x, casting="unsafe")),
-    ("i32 to u8, ClipAndCoerce", "int32", "uint8", CLIP_AND_COERCE, clipped),
-    ("i32 to u8, unclipped peer", "int32", "uint8", CLIP_AND_COERCE, lambda t, x, s: numpy.copyto(t, x, casting="unsafe")),
-    ("i16 to f64, Coerce", "int16", "float64", COERCE, lambda t, x, s: numpy.copyto(t, x, casting="unsafe")),
-    ("u8 to f32, Scale", "uint8", "float32", SCALE, lambda t, x, s: numpy.divide(x, numpy.float32(255), out=t)),
-    ("u8 to f32, unscaled peer", "uint8", "float32", SCALE, lambda t, x, s: numpy.copyto(t, x, casting="unsafe")),
+    ("f64 to i32, Round", "float64", "int32", ROUND, cut, 1.1),
+    ("f64 to f32, Coerce", "float64", "float32", COERCE, cut, 1.1),
+    ("i32 to u8, ClipAndCoerce", "int32", "uint8", CLIP_AND_COERCE, clipped, 1.1),
+    ("i32 to u8, peer does not clip", "int32", "uint8", CLIP_AND_COERCE, cut, 0),
+    ("i16 to f64, Coerce", "int16", "float64", COERCE, cut, 1.1),
+    ("u8 to f32, Scale", "uint8", "float32", SCALE, scaled, 1.1),
+    ("u8 to f32, peer does not scale", "uint8", "float32", SCALE, cut, 0),
 )
 
 
+def compare(table, row, count):
+    name, source_type, target_type, method, peer, aim = row
+    x = numpy.random.default_rng(1).integers(0, 200, count).astype(source_type)
+    target, scratch = numpy.zeros(count, target_type), numpy.zeros_like(x)
+    source, result = array_over(x), array_over(target)
+    convert = table.library.benchConvert
+    assert convert(ctypes.byref(result), ctypes.byref(source), method) == 0
+    table.compare(name, count, lambda: convert(ctypes.byref(result), ctypes.byref(source), method),
+                  {"NumPy": lambda: peer(target, x, scratch)}, aim)
+
+
 def main():
-    module = ctypes.CDLL(sys.argv[1])
-    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 25
-    module.benchStart()
-    print(f"{'ns an element':<28} {'count':>9} {'ours':>9} {'NumPy':>9} {'ratio':>7}")
-    for name, source_type, target_type, method, peer in ROWS:
-        for count in (1000, 10_000, 100_000, 1_000_000, 10_000_000):
-            x = numpy.random.default_rng(1).integers(0, 200, count).astype(source_type)
-            target, scratch = numpy.zeros(count, target_type), numpy.zeros_like(x)
-            source, result = array_over(x), array_over(target)
-            repeats = max(1, 200_000 // count)
-            own = other = float("inf")
-            for _ in range(rounds):
-                own = min(own, nanoseconds(lambda: module.benchConvert(ctypes.byref(result), ctypes.byref(source), method, repeats), 1))
-                other = min(other, nanoseconds(lambda: peer(target, x, scratch), repeats))
-            assert module.benchConvert(ctypes.byref(result), ctypes.byref(source), method, 1) == 0
-            own, other = own / repeats / count, other / count
-            print(f"{name:<28} {count:9d} {own:9.3f} {other:9.3f} {own / other:7.2f}", flush=True)
+    table = Table("conversion, NumPy", "ns an element")
+    table.library.benchStart()
+    for row in ROWS:
+        for count in (1000, 100_000, 10_000_000):
+            compare(table, row, count)
 
 
 if __name__ == "__main__":

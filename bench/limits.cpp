@@ -1,5 +1,5 @@
-// Compiled for the machine at hand, as the peers are. Rates of memory are measured at the next power of two
-// and kept.
+// Compiled for the machine at hand, as the peers are. A rate of memory is measured at the size asked for, cut
+// to its three leading bits: a fifth less at most, so that the limit stays one. It is kept.
 #include "limits.h"
 
 #include <algorithm>
@@ -68,11 +68,13 @@ double measureCopy(size_t bytes) {
 using Measure = double (*)(size_t bytes);
 
 template <Measure measure> double kept(double bytes) {
-  static std::array<double, 64> rates = {};
-  const auto size = std::bit_ceil(static_cast<size_t>(
-      std::clamp(bytes, static_cast<double>(kLeastBytes), static_cast<double>(kMostBytes))));
-  double &rate = rates[static_cast<size_t>(std::countr_zero(size))];
-  if (rate == 0) rate = measure(size);
+  static std::array<double, 64 * 4> rates = {};
+  const auto asked = static_cast<size_t>(
+      std::clamp(bytes, static_cast<double>(kLeastBytes), static_cast<double>(kMostBytes)));
+  const auto width = static_cast<size_t>(std::bit_width(asked));
+  const size_t leading = asked >> (width - 3);
+  double &rate = rates[4 * (width - 1) + (leading & 3)];
+  if (rate == 0) rate = measure(leading << (width - 3));
   return rate;
 }
 

@@ -1,67 +1,49 @@
 #!/usr/bin/python3
-"""Draws beside NumPy's default generator, both in this process.
+"""Draws beside NumPy's default generator, from MersenneTwister (method 3) and from ExtendedCA (method 1).
 
-    random_numpy.py LIBRARY [rounds]
-
-The candidates of a row alternate and the least counts. Prints nanoseconds a value and our ratio, for MersenneTwister
-and for ExtendedCA. Needs NumPy; neither the build nor a test does.
+    random_numpy.py LIBRARY [--rounds N] [--only TEXT] [--tsv]
 """
 
 import ctypes
-import sys
 
 import numpy
 
-from elementwise_numpy import nanoseconds
+from numpy_table import Table
 
 COUNT = 1_000_000
-METHODS = {"Twister": 3, "CA": 1}
+METHODS = {"MersenneTwister": 3, "ExtendedCA": 1}
 
 
-def least(candidates, rounds):
-    best = [float("inf")] * len(candidates)
-    for _ in range(rounds):
-        best = [min(b, nanoseconds(run, 1) / COUNT) for b, run in zip(best, candidates)]
-    return best
-
-
-def with_method(library, method, draw):
+def with_method(table, method, draw):
     def run():
-        library.Runtime_SeedRandom(None, method)
+        table.library.Runtime_SeedRandom(None, method)
         draw()
     return run
 
 
-def compare(library, name, draw, peers, rounds):
-    ours = [with_method(library, method, draw) for method in METHODS.values()]
-    times = least(ours + peers, rounds)
-    peer = min(times[len(ours):])
-    print(f"{name:<26} {times[0]:8.2f} {times[1]:8.2f} {peer:8.2f} {times[0] / peer:6.2f} {times[1] / peer:6.2f}",
-          flush=True)
+def compare(table, what, draw, peers, aim):
+    for name, method in METHODS.items():
+        table.compare(f"{what}, {name}", COUNT, with_method(table, method, draw), peers, aim)
 
 
 def main():
-    library = ctypes.CDLL(sys.argv[1])
-    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
-    library.InitializeTorvaneRTL(None, None, None)
+    table = Table("random, NumPy", "ns a value")
+    table.library.InitializeTorvaneRTL(None, None, None)
     seed = ctypes.c_uint32(1)
     for method in METHODS.values():
-        library.Runtime_SeedRandom(ctypes.byref(seed), method)
+        table.library.Runtime_SeedRandom(ctypes.byref(seed), method)
     generator = numpy.random.default_rng(1)
     reals, integers = numpy.zeros(COUNT), numpy.zeros(COUNT, numpy.int32)
     to_reals, to_integers = ctypes.c_void_p(reals.ctypes.data), ctypes.c_void_p(integers.ctypes.data)
+    zero, one = ctypes.c_double(0), ctypes.c_double(1)
 
-    def draw_reals():
-        library.UniformRandomMReals(to_reals, COUNT, ctypes.c_double(0), ctypes.c_double(1))
-
-    print(f"{'ns a value':<26} {'Twister':>8} {'CA':>8} {'NumPy':>8} {'ratio':>6} {'ratio':>6}")
-    compare(library, "reals", draw_reals,
-            [lambda: generator.random(COUNT), lambda: generator.random(out=reals)], rounds)
-    for last in (1, 2, 99, 255, 1_000_000, 2**31 - 2):
-        compare(library, f"integers 0..{last}",
-                lambda: library.UniformRandomMIntegers(to_integers, COUNT, 0, last),
-                [lambda: generator.integers(0, last + 1, COUNT, dtype=numpy.int32),
-                 lambda: generator.integers(0, last + 1, COUNT, dtype=numpy.int64)], rounds)
+    compare(table, "reals", lambda: table.library.UniformRandomMReals(to_reals, COUNT, zero, one),
+            {"NumPy": lambda: generator.random(COUNT), "NumPy, in place": lambda: generator.random(out=reals)}, 1.1)
+    for last, aim in ((1, 0), (2, 0), (99, 0.8), (255, 0.5), (1_000_000, 0), (2**31 - 2, 0)):
+        compare(table, f"integers 0..{last}",
+                lambda: table.library.UniformRandomMIntegers(to_integers, COUNT, 0, last),
+                {f"NumPy, {kind.__name__}": lambda kind=kind: generator.integers(0, last + 1, COUNT, dtype=kind)
+                 for kind in (numpy.int32, numpy.int64)}, aim)
 
 
 if __name__ == "__main__":
