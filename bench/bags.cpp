@@ -1,101 +1,93 @@
 // Appending in a loop, as compiled code does: the function by name beside std::vector's push_back behind a
-// pointer to a function, both without knowing how many elements come, both in this process. Rounds alternate
-// and the best round of each counts. Prints nanoseconds an element, and our ratio to the vector; then the
-// same for reading all.
-//
-//   bench_bags [rounds]
+// pointer to a function, both without knowing how many elements come; then reading all, beside a copy of the
+// vector.
+#include "table.h"
+
 #include <torvane/torvane.h>
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <string>
 #include <vector>
+
+using bench::repeated;
 
 namespace {
 
 constexpr mint kElements = 1000000;
 
-double secondsSince(std::chrono::steady_clock::time_point start) {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-struct Functions {
-  explicit Functions(const TorvaneLibraryData *record)
-      : bag(record->runtime->lookupRuntimeFunction("Bag")),
+class Bags {
+public:
+  explicit Bags(TorvaneLibraryData *libraryData)
+      : record(libraryData), bag(record->runtime->lookupRuntimeFunction("Bag")),
         stuff(record->runtime->lookupRuntimeFunction("StuffBagScalar")),
         part(record->runtime->lookupRuntimeFunction("BagPart")) {}
-  RuntimeFunctionHandler bag, stuff, part;
-};
 
-struct Times {
-  double append = 1e300, read = 1e300;
-  void least(double appended, double wasRead) {
-    append = std::min(append, appended);
-    read = std::min(read, wasRead);
+  // All bags go, and an empty one of the type comes.
+  void begin(mint type) {
+    void *const arguments[] = {&type};
+    record->runtime->resetState(record);
+    require(bag(record, 1, arguments, &number));
   }
-};
+  template <class Element> void append() {
+    Element element = {};
+    void *const arguments[] = {&number, &element};
+    for (mint i = 0; i < kElements; ++i) require(stuff(record, 2, arguments, nullptr));
+  }
+  void read() {
+    mint all = TORVANE_PART_ALL;
+    void *const arguments[] = {&number, &all};
+    MTensor *slot = nullptr;
+    require(part(record, 2, arguments, &slot));
+    MTensor_delete(slot);
+  }
 
-// The bags of a round go with the reset.
-template <class Element>
-void timeBag(TorvaneLibraryData *record, const Functions &functions, mint type, Times *times) {
-  mint number = 0, all = TORVANE_PART_ALL;
-  Element element = {};
-  MTensor *slot = nullptr;
-  void *const bagArguments[] = {&type}, *const stuffArguments[] = {&number, &element};
-  void *const partArguments[] = {&number, &all};
-  functions.bag(record, 1, bagArguments, &number);
-  auto start = std::chrono::steady_clock::now();
-  for (mint i = 0; i < kElements; ++i)
-    if (functions.stuff(record, 2, stuffArguments, nullptr) != 0) std::abort();
-  const double appended = secondsSince(start);
-  start = std::chrono::steady_clock::now();
-  if (functions.part(record, 2, partArguments, &slot) != 0) std::abort();
-  times->least(appended, secondsSince(start));
-  MTensor_delete(slot);
-  record->runtime->resetState(record);
-}
+private:
+  static void require(mint status) {
+    if (status != 0) std::abort();
+  }
+
+  TorvaneLibraryData *record;
+  RuntimeFunctionHandler bag, stuff, part;
+  mint number = 0;
+};
 
 template <class Element> void pushBack(std::vector<Element> *vector, const Element *element) {
   vector->push_back(*element);
 }
 
-template <class Element> void timeVector(Times *times) {
+template <class Element> void append(std::vector<Element> *vector) {
   void (*volatile pointer)(std::vector<Element> *, const Element *) = pushBack<Element>;
   const auto push = pointer;
-  std::vector<Element> vector;
   const Element element = {};
-  auto start = std::chrono::steady_clock::now();
-  for (mint i = 0; i < kElements; ++i) push(&vector, &element);
-  const double appended = secondsSince(start);
-  start = std::chrono::steady_clock::now();
-  std::vector<Element> copy(vector);
-  asm volatile("" : : "r"(copy.data()) : "memory");
-  times->least(appended, secondsSince(start));
+  for (mint i = 0; i < kElements; ++i) push(vector, &element);
 }
 
-template <class Element> void compare(TorvaneLibraryData *record, const char *name, mint type, int rounds) {
-  const Functions functions(record);
-  Times ours, theirs;
-  for (int i = 0; i < rounds; ++i) {
-    timeBag<Element>(record, functions, type, &ours);
-    timeVector<Element>(&theirs);
-  }
-  const double scale = 1e9 / kElements;
-  std::printf("%-8s append %6.2f  vector %6.2f  ratio %5.2f    read all %6.2f  copy %6.2f  ratio %5.2f\n",
-              name, ours.append * scale, theirs.append * scale, ours.append / theirs.append,
-              ours.read * scale, theirs.read * scale, ours.read / theirs.read);
+template <class Element> void compare(TorvaneLibraryData *record, const std::string &elements, mint type) {
+  Bags bags(record);
+  std::vector<Element> vector;
+  const double bytes = double(sizeof(Element)) * kElements;
+  bench::compare(
+      {"append " + elements, kElements, {0, bytes}},
+      {{"ours", repeated([&] { bags.append<Element>(); }), [&](int) { bags.begin(type); }},
+       {"vector", repeated([&] { append(&vector); }), [&](int) { vector = std::vector<Element>(); }}});
+  bags.begin(type);
+  bags.append<Element>();
+  vector.assign(kElements, {});
+  bench::compare(
+      {"read all " + elements, kElements, {bytes, bytes}},
+      {{"ours", repeated([&] { bags.read(); })}, {"copy of a vector", repeated([&] {
+                                                    const std::vector<Element> copy(vector);
+                                                    asm volatile("" : : "r"(copy.data()) : "memory");
+                                                  })}});
 }
 
 } // namespace
 
-int main(int count, char **arguments) {
-  const int rounds = count > 1 ? std::atoi(arguments[1]) : 20;
+int main(int argc, char **argv) {
+  bench::start("bags", "ns an element", argc, argv);
   TorvaneLibraryData *record = TorvaneLibraryData_new(5);
-  compare<mint>(record, "integer", TORVANE_TYPE_INTEGER, rounds);
-  compare<mreal>(record, "real", TORVANE_TYPE_REAL, rounds);
-  compare<mcomplex>(record, "complex", TORVANE_TYPE_COMPLEX, rounds);
+  compare<mint>(record, "integers", TORVANE_TYPE_INTEGER);
+  compare<mreal>(record, "reals", TORVANE_TYPE_REAL);
+  compare<mcomplex>(record, "complexes", TORVANE_TYPE_COMPLEX);
   TorvaneLibraryData_free(record);
-  return 0;
 }

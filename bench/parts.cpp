@@ -1,24 +1,21 @@
-// Parts of tensors, read and written, beside nested loops over the same elements and Eigen's index lists, in
-// this process: rounds alternate between the candidates, and the least of each counts. Results are reused.
-// Prints nanoseconds an element and our ratio to the best peer.
-//
-//   bench_parts [rounds]
+// Parts of tensors, read and written, beside nested loops over the same elements and Eigen's index lists.
+// Results are reused.
 #include "parts_peers.h"
+#include "table.h"
 
 #include <torvane/torvane.h>
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <numeric>
 #include <random>
 #include <string>
 
+using bench::repeated;
+using bench::Run;
+
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Words = std::vector<mint>;
 
 std::mt19937 generator(11);
@@ -119,53 +116,38 @@ private:
   std::vector<void *> specs;
 };
 
-double nanoseconds(const std::function<void()> &run, int repeats) {
-  const auto start = Clock::now();
-  for (int i = 0; i < repeats; ++i) run();
-  return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / repeats;
+// Eigen has lists of rows and columns of a matrix.
+template <class T> Run eigenRun(T *to, const T *from, const Case &of) {
+  if constexpr (sizeof(T) == sizeof(double))
+    if (of.extents.size() == 2 && of.selectors.size() == 2)
+      return repeated([=, rows = positionsOf(of.selectors[0], of.extents[0]),
+                       columns = positionsOf(of.selectors[1], of.extents[1])] {
+        eigenTake(to, from, of.extents[0], of.extents[1], rows, columns);
+      });
+  return {};
 }
 
-void compare(const std::string &what, mint count, int rounds,
-             const std::vector<std::function<void()>> &runs) {
-  const int repeats = std::max(1, int(50000 / std::max(1.0, nanoseconds(runs[0], 3))));
-  std::vector<double> least(runs.size(), 1e300);
-  for (int round = 0; round < rounds; ++round)
-    for (size_t k = 0; k < runs.size(); ++k) least[k] = std::min(least[k], nanoseconds(runs[k], repeats));
-  std::printf("%-44s %8d %9.3f", what.c_str(), count, least[0] / count);
-  double best = 1e300;
-  for (size_t k = 1; k < runs.size(); ++k) {
-    std::printf(" %9.3f", least[k] / count);
-    best = std::min(best, least[k]);
-  }
-  std::printf("%s %6.2f\n", runs.size() < 3 ? "          " : "", least[0] / best);
-  std::fflush(stdout);
-}
-
-template <class T> void measure(const Case &of, mint type, int rounds) {
+template <class T> void compare(const Case &of, mint type) {
   MTensor *whole = MTensor_newAllocatedCommon(type, mint(of.extents.size()), of.extents.data(), 0);
-  for (mint i = 0; i < whole->elementCount; ++i) static_cast<T *>(whole->data)[i] = T(i);
+  auto *elements = static_cast<T *>(whole->data);
+  std::iota(elements, elements + whole->elementCount, T(0));
   const Arguments arguments(of);
   MTensor *part = nullptr;
   if (arguments.get(&part, whole) != 0) std::abort();
   const PlainSelection plain = plainOf(of);
   std::vector<T> taken(size_t(part->elementCount));
-  plainTake(taken.data(), static_cast<const T *>(whole->data), plain);
+  plainTake(taken.data(), elements, plain);
   if (!std::equal(taken.begin(), taken.end(), static_cast<const T *>(part->data))) std::abort();
-  auto *elements = static_cast<T *>(whole->data);
-  const std::string name = std::string(of.name) + (sizeof(T) == sizeof(mint) ? ", integers" : ", reals");
-  std::vector<std::function<void()>> takes = {[&] { arguments.get(&part, whole); },
-                                              [&] { plainTake(taken.data(), elements, plain); }};
-  Words rows, columns;
-  if constexpr (sizeof(T) == sizeof(double))
-    if (of.extents.size() == 2 && of.selectors.size() == 2) {
-      rows = positionsOf(of.selectors[0], of.extents[0]),
-      columns = positionsOf(of.selectors[1], of.extents[1]);
-      takes.push_back(
-          [&] { eigenTake(taken.data(), elements, of.extents[0], of.extents[1], rows, columns); });
-    }
-  compare("get " + name, part->elementCount, rounds, takes);
-  compare("set " + name, part->elementCount, rounds,
-          {[&] { arguments.set(whole, part); }, [&] { plainPut(elements, taken.data(), plain); }});
+  const std::string name = std::string(of.name) + (sizeof(T) == sizeof(mint) ? ", integers" : "");
+  const double count = part->elementCount, bytes = sizeof(T) * count;
+  const bench::Work work = {bytes, bytes};
+  bench::compare({"get " + name, count, work},
+                 {{"ours", repeated([&] { arguments.get(&part, whole); })},
+                  {"loops", repeated([&] { plainTake(taken.data(), elements, plain); })},
+                  {"Eigen", eigenRun(taken.data(), elements, of)}});
+  bench::compare({"set " + name, count, work},
+                 {{"ours", repeated([&] { arguments.set(whole, part); })},
+                  {"loops", repeated([&] { plainPut(elements, taken.data(), plain); })}});
   MTensor_delete(whole);
   MTensor_delete(part);
 }
@@ -173,7 +155,7 @@ template <class T> void measure(const Case &of, mint type, int rounds) {
 } // namespace
 
 int main(int argc, char **argv) {
-  const int rounds = argc > 1 ? std::atoi(argv[1]) : 41;
+  bench::start("parts", "ns an element of the part", argc, argv, 101);
   InitializeRuntimeLibrary();
   const Case cases[] = {
       {"10 of 100, list", {100}, {list(10, 100)}},
@@ -200,7 +182,8 @@ int main(int argc, char **argv) {
       {"list, all, all, span of 20^4", {20, 20, 20, 20}, {list(15, 20), all(), all(), span(3, 18)}},
       {"lists of 20^4", {20, 20, 20, 20}, {list(9, 20), list(9, 20), list(9, 20), list(9, 20)}},
   };
-  std::printf("%-44s %8s %9s %9s %9s %6s\n", "ns an element", "count", "ours", "loops", "Eigen", "ratio");
-  for (const Case &of : cases) measure<double>(of, TORVANE_TYPE_REAL, rounds);
-  for (const Case &of : cases) measure<mint>(of, TORVANE_TYPE_INTEGER, rounds);
+  for (const Case &of : cases) compare<double>(of, TORVANE_TYPE_REAL);
+  // Of integers, what goes element by element: longer blocks are bytes.
+  for (const Case &of : cases)
+    if (of.extents.size() == 1) compare<mint>(of, TORVANE_TYPE_INTEGER);
 }

@@ -1,132 +1,135 @@
-// Draws beside the standard library's, all in this process: rounds alternate between the candidates, and the
-// least of each counts. Prints nanoseconds a value and our ratio to the best peer. The peers draw from
-// std::mt19937_64: through its distributions, and for reals from the high bits of its words as well.
-// random_numpy.py has NumPy.
-//
-//   bench_random [rounds [count]]
+// Draws by MersenneTwister and by ExtendedCA beside the standard library's, which draw from std::mt19937_64:
+// through its distributions, and for reals from the high bits of its words as well. random_numpy.py has
+// NumPy.
 #include "random/sampling.h"
 #include "random/variates.h"
+#include "table.h"
 
 #include <torvane/torvane.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <cstdlib>
-#include <functional>
 #include <random>
+#include <string>
 #include <vector>
+
+using bench::Candidate;
+using bench::repeated;
+using bench::Run;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-using Run = std::function<void()>;
+constexpr mint kMillion = 1000000, kFew = 100000;
+constexpr struct {
+  mint method;
+  const char *name;
+} kMethods[] = {{3, "MersenneTwister"}, {1, "ExtendedCA"}};
 
-int rounds = 15;
-mint count = 1000000;
 std::mt19937_64 words(1);
+std::vector<mreal> reals(kMillion);
+std::vector<mint> integers(kMillion);
 
-double nanoseconds(const Run &run) {
-  const auto start = Clock::now();
-  run();
-  return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / count;
+std::string shortest(double x) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%g", x);
+  return text;
 }
 
-Run withMethod(mint method, const Run &run) {
-  return [=] {
-    Runtime_SeedRandom(nullptr, method);
-    run();
-  };
+// A row for each method. Where a draw is a few operations, the bytes that are written are its limit.
+void compareDraws(const std::string &name, mint count, size_t bytes, double aim, const Run &ours,
+                  std::vector<Candidate> peers) {
+  peers.insert(peers.begin(), {"ours", ours});
+  const bench::Work work = {0, double(bytes)};
+  for (const auto &each : kMethods) {
+    Runtime_SeedRandom(nullptr, each.method);
+    bench::compare({name + ", " + each.name, double(count), work, aim}, peers);
+  }
 }
 
-void measure(const char *name, const Run &ours, const std::vector<Run> &peers) {
-  std::vector<Run> candidates = {withMethod(3, ours), withMethod(1, ours)};
-  candidates.insert(candidates.end(), peers.begin(), peers.end());
-  std::vector<double> least(candidates.size(), 1e300);
-  for (int round = 0; round < rounds; ++round)
-    for (size_t k = 0; k < candidates.size(); ++k) least[k] = std::min(least[k], nanoseconds(candidates[k]));
-  const double best = *std::min_element(least.begin() + 2, least.end());
-  std::printf("%-26s %8.2f %8.2f %8.2f %6.2f %6.2f\n", name, least[0], least[1], best, least[0] / best,
-              least[1] / best);
-  std::fflush(stdout);
+// The distribution is the run's own, with what it keeps from one draw to the next.
+template <class Distribution, class Value>
+Run fill(std::vector<Value> &values, mint count, Distribution draw) {
+  return repeated([&values, count, draw]() mutable {
+    std::generate_n(values.begin(), count, [&] { return draw(words); });
+  });
 }
 
-std::vector<mreal> reals;
-std::vector<mint> integers;
-
-template <class Distribution>
-Run fill(std::vector<typename Distribution::result_type> &values, Distribution draw) {
-  return [&values, draw]() mutable {
-    for (auto &value : values) value = draw(words);
-  };
+void compareReals() {
+  compareDraws("reals", kMillion, kMillion * sizeof(mreal), 1.1,
+               repeated([] { UniformRandomMReals(reals.data(), kMillion, 0, 1); }),
+               {{"std", fill(reals, kMillion, std::uniform_real_distribution<>(0, 1))},
+                {"std words", repeated([] {
+                   for (mreal &value : reals) value = static_cast<mreal>(words() >> 11) * 0x1p-53;
+                 })}});
 }
 
-void measureIntegers(mint last) {
-  char name[32];
-  std::snprintf(name, sizeof name, "integers 0..%d", last);
-  measure(name, [=] { UniformRandomMIntegers(integers.data(), count, 0, last); },
-          {fill(integers, std::uniform_int_distribution<mint>(0, last))});
+void compareIntegers(mint last, double aim) {
+  compareDraws("integers 0.." + std::to_string(last), kMillion, kMillion * sizeof(mint), aim,
+               repeated([last] { UniformRandomMIntegers(integers.data(), kMillion, 0, last); }),
+               {{"std", fill(integers, kMillion, std::uniform_int_distribution<mint>(0, last))}});
 }
 
-void measureNormal() {
-  measure("normal", [] { torvane::drawNormal(reals.data(), count, 0, 1); },
-          {fill(reals, std::normal_distribution<>(0, 1))});
+void compareNormal() {
+  compareDraws("normal", kFew, 0, 0, repeated([] { torvane::drawNormal(reals.data(), kFew, 0, 1); }),
+               {{"std", fill(reals, kFew, std::normal_distribution<>(0, 1))}});
 }
 
-// The peer is the ratio of two gamma variates.
-void measureBeta(mreal a, mreal b) {
-  char name[32];
-  std::snprintf(name, sizeof name, "beta %g, %g", a, b);
-  std::gamma_distribution<> first(a), second(b);
-  measure(name, [=] { torvane::drawBeta(reals.data(), count, a, b); }, {[=]() mutable {
-            for (mreal &value : reals) {
-              const mreal x = first(words);
-              value = x / (x + second(words));
-            }
-          }});
+struct RatioOfGammas {
+  std::gamma_distribution<> first, second;
+  double operator()(std::mt19937_64 &from) {
+    const double x = first(from);
+    return x / (x + second(from));
+  }
+};
+
+void compareBeta(mreal a, mreal b) {
+  const RatioOfGammas peer = {std::gamma_distribution<>(a), std::gamma_distribution<>(b)};
+  compareDraws("beta " + shortest(a) + " " + shortest(b), kFew, 0, 0,
+               repeated([a, b] { torvane::drawBeta(reals.data(), kFew, a, b); }),
+               {{"two std gammas", fill(reals, kFew, peer)}});
 }
 
-// Of a list with so many rows.
-void measurePositions(mint length) {
-  char name[32];
+// Of a list with so many rows. Each draws by sums that stand ready.
+void comparePositions(mint length) {
   std::vector<mreal> weights(static_cast<size_t>(length));
   std::uniform_real_distribution<> uniform(0, 1);
   for (mreal &weight : weights) weight = uniform(words);
   MTensor *tensor = MTensor_newCopyFromDataArray(TORVANE_TYPE_REAL, 1, &length, weights.data());
-  std::discrete_distribution<mint> discrete(weights.begin(), weights.end());
-  std::snprintf(name, sizeof name, "weighted choice of %d", length);
-  measure(name, [=] { torvane::RunningSums(tensor).draw(integers.data(), count); },
-          {fill(integers, discrete)});
+  const std::discrete_distribution<mint> peer(weights.begin(), weights.end());
+  const torvane::RunningSums sums(tensor);
+  compareDraws("weighted choice of " + std::to_string(length), kFew, 0, 0,
+               repeated([&sums] { sums.draw(integers.data(), kFew); }),
+               {{"std", fill(integers, kFew, peer)}});
   MTensor_delete(tensor);
 }
 
-void measurePermutation() {
-  measure("permutation", [] { torvane::samplePositions(integers.data(), count, count); },
-          {[] { std::shuffle(integers.begin(), integers.end(), words); }});
-  measure("a tenth of a list", [] { torvane::samplePositions(integers.data(), count, 10 * count); }, {[] {
-            std::vector<mint> list(10 * static_cast<size_t>(count));
-            std::sample(list.begin(), list.end(), integers.begin(), count, words);
-          }});
+void compareSamples() {
+  compareDraws("permutation", kMillion, 0, 0,
+               repeated([] { torvane::samplePositions(integers.data(), kMillion, kMillion); }),
+               {{"std", repeated([] { std::shuffle(integers.begin(), integers.end(), words); })}});
+  const std::vector<mint> list(kMillion);
+  compareDraws(
+      "a tenth, in order by std", kFew, 0, 0,
+      repeated([] { torvane::samplePositions(integers.data(), kFew, kMillion); }),
+      {{"std", repeated([&list] { std::sample(list.begin(), list.end(), integers.begin(), kFew, words); })}});
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-  if (argc > 1) rounds = std::atoi(argv[1]);
-  if (argc > 2) count = std::atoi(argv[2]);
-  reals.resize(static_cast<size_t>(count));
-  integers.resize(static_cast<size_t>(count));
+  bench::start("random", "ns a value", argc, argv);
   InitializeRuntimeLibrary();
   const uint32_t seed = 1;
-  for (const mint method : {1, 3}) Runtime_SeedRandom(&seed, method);
-  std::printf("%-26s %8s %8s %8s %6s %6s\n", "ns a value", "Twister", "CA", "std", "ratio", "ratio");
-  measure("reals", [] { UniformRandomMReals(reals.data(), count, 0, 1); },
-          {fill(reals, std::uniform_real_distribution<>(0, 1)), [] {
-             for (mreal &value : reals) value = static_cast<mreal>(words() >> 11) * 0x1p-53;
-           }});
-  for (const mint last : {1, 2, 99, 255, 1000000, INT32_MAX - 1}) measureIntegers(last);
-  measureNormal();
-  for (const auto &[a, b] : {std::pair{1.0, 3.0}, {0.5, 0.5}, {2.0, 3.0}, {0.5, 2.0}}) measureBeta(a, b);
-  for (const mint length : {10, 1000, 1000000}) measurePositions(length);
-  measurePermutation();
+  for (const auto &each : kMethods) Runtime_SeedRandom(&seed, each.method);
+  compareReals();
+  compareIntegers(1, 0);
+  compareIntegers(2, 0);
+  compareIntegers(99, 0.8);
+  compareIntegers(255, 0.5);
+  compareIntegers(1000000, 0);
+  compareIntegers(INT32_MAX - 1, 0);
+  compareNormal();
+  for (const auto &[a, b] : {std::pair{1.0, 3.0}, {0.5, 0.5}, {2.0, 3.0}, {0.5, 2.0}}) compareBeta(a, b);
+  for (const mint length : {10, 1000, 1000000}) comparePositions(length);
+  compareSamples();
 }

@@ -1,22 +1,18 @@
-// What a typed entry costs when compiled code calls it: beside a function of this program, not inlined, that
-// does the same with the compiler's overflow builtin, both called through a pointer, rounds alternating; and
-// what a raise costs in style 1; and what Real16 costs, whose results come through a pointer. Prints
-// nanoseconds for one call and the ratio.
-//
-//   bench_scalar_entries [rounds]
+// What a typed entry costs when compiled code calls it, through a pointer as a peer is that does the same
+// with the compiler's overflow builtin; what a raise costs in style 1; and what Real16 costs, whose results
+// come through a pointer. In a chain each call waits for the one before, as in a loop that accumulates.
+#include "table.h"
+
 #include <torvane/failure.h>
 #include <torvane/scalars.h>
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <vector>
+#include <cstdint>
+#include <string>
+
+using bench::compare;
+using bench::Run;
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-constexpr int kCalls = 2000000;
 
 [[gnu::noinline]] int32_t builtinPlus(int32_t x, int32_t y) {
   int32_t sum;
@@ -30,77 +26,55 @@ constexpr int kCalls = 2000000;
   return product;
 }
 
-// Each call waits for the one before, as in a loop that accumulates.
-template <class T> double chained(T (*entry)(T, T), T start, T operand) {
-  T (*volatile pointer)(T, T) = entry;
-  T value = start;
-  const auto begin = Clock::now();
-  for (int k = 0; k < kCalls; ++k) value = pointer(value, operand);
-  const double elapsed = std::chrono::duration<double, std::nano>(Clock::now() - begin).count();
-  asm volatile("" : : "r"(value));
-  return elapsed / kCalls;
+template <class T> Run chained(T (*entry)(T, T), T start, T operand) {
+  return [entry, start, operand](int calls) {
+    T (*volatile pointer)(T, T) = entry;
+    T value = start;
+    for (int k = 0; k < calls; ++k) value = pointer(value, operand);
+    asm volatile("" : : "r"(value));
+  };
+}
+
+// No peer raises. What was raised is taken back, so that what follows finds nothing pending.
+void timeRaise(const char *name, const Run &run) {
+  compare({name}, {{"ours", run}});
+  setExceptionActive(0);
 }
 
 using HalfEntry = uint16_t *(*)(uint16_t *, uint16_t, uint16_t);
+constexpr uint16_t kHalfOne = 0x3C00;
 
-// As above, or each call by itself over patterns of numbers between 1 and 2.
-double halves(HalfEntry entry, bool isChained) {
-  HalfEntry volatile pointer = entry;
-  uint16_t value = 0x3C00;
-  const auto begin = Clock::now();
-  for (int k = 0; k < kCalls; ++k) pointer(&value, isChained ? value : uint16_t(0x3C00 + k % 1024), 0x3C00);
-  const double elapsed = std::chrono::duration<double, std::nano>(Clock::now() - begin).count();
-  asm volatile("" : : "r"(value));
-  return elapsed / kCalls;
+// Or each call by itself, over patterns of numbers between 1 and 2.
+Run halves(HalfEntry entry, bool isChained) {
+  return [entry, isChained](int calls) {
+    HalfEntry volatile pointer = entry;
+    uint16_t value = kHalfOne;
+    for (int k = 0; k < calls; ++k)
+      pointer(&value, isChained ? value : uint16_t(kHalfOne + k % 1024), kHalfOne);
+    asm volatile("" : : "r"(value));
+  };
 }
 
-double median(std::vector<double> rounds) {
-  std::nth_element(rounds.begin(), rounds.begin() + std::ptrdiff_t(rounds.size() / 2), rounds.end());
-  return rounds[rounds.size() / 2];
-}
-
-template <class T>
-void compare(const char *name, int rounds, T (*ours)(T, T), T (*peer)(T, T), T start, T operand) {
-  std::vector<double> a, b;
-  for (int k = 0; k < rounds; ++k) {
-    a.push_back(chained(ours, start, operand));
-    b.push_back(chained(peer, start, operand));
-  }
-  std::printf("%-48s %6.2f ns   builtin %6.2f ns   ratio %.2f\n", name, median(a), median(b),
-              median(a) / median(b));
-}
-
-void compareHalves(const char *name, int rounds, HalfEntry entry) {
-  std::vector<double> chained, apart;
-  for (int k = 0; k < rounds; ++k) {
-    chained.push_back(halves(entry, true));
-    apart.push_back(halves(entry, false));
-  }
-  std::printf("%-48s %6.2f ns   one after the other %6.2f ns\n", name, median(apart), median(chained));
+void timeHalves(const std::string &name, HalfEntry entry) {
+  compare({name + " of Real16"}, {{"ours", halves(entry, false)}});
+  compare({name + " of Real16, chained"}, {{"ours", halves(entry, true)}});
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-  const int rounds = argc > 1 ? std::atoi(argv[1]) : 31;
-  compare<int32_t>("checked_binary_plus_Integer32_Integer32", rounds, checked_binary_plus_Integer32_Integer32,
-                   builtinPlus, 0, 1);
-  compare<int64_t>("checked_binary_times_Integer64_Integer64", rounds,
-                   checked_binary_times_Integer64_Integer64, builtinTimes, 3, 1);
-  std::vector<double> raises;
-  for (int k = 0; k < rounds; ++k)
-    raises.push_back(chained<int8_t>(checked_binary_plus_Integer8_Integer8, 127, 127));
-  setExceptionActive(0);
-  std::printf("%-48s %6.2f ns a call, every other one raises in style 1\n",
-              "checked_binary_plus_Integer8_Integer8", median(raises));
-  std::vector<double> undefined;
-  for (int k = 0; k < rounds; ++k)
-    undefined.push_back(chained<int32_t>(binary_divide_Integer32_Integer32, 1, 1));
-  setExceptionActive(0);
-  std::printf("%-48s %6.2f ns a call, each raises in style 1\n", "binary_divide_Integer32_Integer32",
-              median(undefined));
-  compareHalves("binary_plus_Real16_Real16", rounds, binary_plus_Real16_Real16);
-  compareHalves("binary_times_Real16_Real16", rounds, binary_times_Real16_Real16);
-  compareHalves("checked_binary_plus_Real16_Real16", rounds, checked_binary_plus_Real16_Real16);
-  compareHalves("checked_binary_times_Real16_Real16", rounds, checked_binary_times_Real16_Real16);
+  bench::start("scalar_entries", "ns a call", argc, argv, 501);
+  compare({"checked plus of Integer32, chained"},
+          {{"ours", chained<int32_t>(checked_binary_plus_Integer32_Integer32, 0, 1)},
+           {"builtin", chained<int32_t>(builtinPlus, 0, 1)}});
+  compare({"checked times of Integer64, chained"},
+          {{"ours", chained<int64_t>(checked_binary_times_Integer64_Integer64, 3, 1)},
+           {"builtin", chained<int64_t>(builtinTimes, 3, 1)}});
+  timeRaise("plus of Integer8, every other raises",
+            chained<int8_t>(checked_binary_plus_Integer8_Integer8, 127, 127));
+  timeRaise("divide of Integer32, each raises", chained<int32_t>(binary_divide_Integer32_Integer32, 1, 1));
+  timeHalves("plus", binary_plus_Real16_Real16);
+  timeHalves("times", binary_times_Real16_Real16);
+  timeHalves("checked plus", checked_binary_plus_Real16_Real16);
+  timeHalves("checked times", checked_binary_times_Real16_Real16);
 }

@@ -1,38 +1,29 @@
-// Sets, tallies and counts beside a sort and one pass, by the standard library and by our own sort, all in
-// this process: rounds alternate between the candidates, and the least of each counts. Prints nanoseconds a
-// row of the first operand, and our ratio to the better peer.
-//
-// Short inputs come as many different ones, one after another, so that no branch predictor learns them by
-// heart.
-//
-//   bench_sets [rounds [largest count [smallest count]]]
+// Sets beside a sort and one pass, tallies beside a sort alone, each by the standard library and by our own
+// sort; counts beside the standard library's.
 #include "algorithms/search.h"
 #include "algorithms/sets.h"
 #include "algorithms/tally.h"
+#include "table.h"
 
 #include <torvane/torvane.h>
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <functional>
 #include <iterator>
 #include <random>
+#include <string>
 #include <vector>
+
+using bench::Run;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-using Run = std::function<void(size_t)>;
-
-int rounds = 9;
 volatile mint sink;
 
 template <class Element>
 constexpr mint kTypeOf = sizeof(Element) == sizeof(mint) ? TORVANE_TYPE_INTEGER : TORVANE_TYPE_REAL;
 
-// Pairs of vectors of one length.
+// Pairs of vectors of one length. Short ones are many, and come one after another, so that no branch
+// predictor learns them by heart.
 template <class Element> struct Inputs {
   mint rows;
   std::vector<MTensor *> first, second;
@@ -51,29 +42,16 @@ template <class Element> struct Inputs {
   Inputs(const Inputs &) = delete;
   Inputs &operator=(const Inputs &) = delete;
 
-  double nanosecondsARow(const Run &run) const {
-    const auto start = Clock::now();
-    for (size_t k = 0; k < first.size(); ++k) run(k);
-    const std::chrono::duration<double, std::nano> taken = Clock::now() - start;
-    return taken.count() / static_cast<double>(first.size()) / rows;
+  template <class Call> Run inTurn(Call call) const {
+    return [call, inputs = first.size(), k = size_t{0}](int repeats) mutable {
+      for (int i = 0; i < repeats; ++i) {
+        call(k);
+        k = k + 1 < inputs ? k + 1 : 0;
+        asm volatile("" : : : "memory");
+      }
+    };
   }
 };
-
-// Ours first.
-template <class Element>
-void measure(const char *what, const char *values, const Inputs<Element> &in,
-             const std::vector<Run> &candidates) {
-  std::vector<double> least(candidates.size(), 1e300);
-  for (int round = 0; round < rounds; ++round)
-    for (size_t k = 0; k < candidates.size(); ++k)
-      least[k] = std::min(least[k], in.nanosecondsARow(candidates[k]));
-  const double best = *std::min_element(least.begin() + 1, least.end());
-  std::printf("%-13s %-20s %8d %8.2f", what, values, in.rows, least[0]);
-  for (size_t k = 1; k < least.size(); ++k) std::printf(" %8.2f", least[k]);
-  if (least.size() == 2) std::printf("        -");
-  std::printf(" %6.2f\n", least[0] / best);
-  std::fflush(stdout);
-}
 
 // The elements of a tensor sorted in a vector, by the standard library or by ours.
 template <class Element> void sortInto(std::vector<Element> &to, const MTensor *tensor) {
@@ -90,120 +68,144 @@ template <class Element> struct OurSort {
   ~OurSort() { MTensor_delete(slot); }
 };
 
-template <class Element> void measureUnion(const char *values, const Inputs<Element> &in) {
+constexpr const char *kStdSort = "std::sort", *kOurSort = "our sort";
+
+template <class Element> void compareUnion(const std::string &values, const Inputs<Element> &in) {
   MTensor *slot = nullptr;
   std::vector<Element> copy;
-  OurSort<Element> ours;
-  measure("Union", values, in,
-          {[&](size_t k) { torvane::MTensor_union(&slot, &in.first[k], 1); },
-           [&](size_t k) {
-             sortInto(copy, in.first[k]);
-             sink = static_cast<mint>(std::unique(copy.begin(), copy.end()) - copy.begin());
-           },
-           [&](size_t k) {
-             Element *x = ours.run(in.first[k]);
-             sink = static_cast<mint>(std::unique(x, x + in.rows) - x);
-           }});
+  OurSort<Element> sort;
+  const auto ours = [&](size_t k) { torvane::MTensor_union(&slot, &in.first[k], 1); };
+  const auto byStd = [&](size_t k) {
+    sortInto(copy, in.first[k]);
+    sink = static_cast<mint>(std::unique(copy.begin(), copy.end()) - copy.begin());
+  };
+  const auto bySort = [&](size_t k) {
+    Element *x = sort.run(in.first[k]);
+    sink = static_cast<mint>(std::unique(x, x + in.rows) - x);
+  };
+  bench::compare({"Union, " + values, double(in.rows), {}, 1.2},
+                 {{"ours", in.inTurn(ours)}, {kStdSort, in.inTurn(byStd)}, {kOurSort, in.inTurn(bySort)}});
   MTensor_delete(slot);
 }
 
 struct Difference {
+  static constexpr const char *kName = "Complement";
+  static constexpr mint kMode = torvane::kComplement;
   template <class I, class O> static void run(I a, I aEnd, I b, I bEnd, O to) {
     std::set_difference(a, aEnd, b, bEnd, to);
   }
 };
 struct Intersection {
+  static constexpr const char *kName = "Intersection";
+  static constexpr mint kMode = torvane::kIntersection;
   template <class I, class O> static void run(I a, I aEnd, I b, I bEnd, O to) {
     std::set_intersection(a, aEnd, b, bEnd, to);
   }
 };
 
-template <class Peer, class Element>
-void measureOperation(const char *what, mint mode, const char *values, const Inputs<Element> &in) {
+template <class Operation, class Element>
+void compareOperation(const std::string &values, const Inputs<Element> &in) {
   MTensor *slot = nullptr;
   std::vector<Element> a, b, result(static_cast<size_t>(in.rows));
-  OurSort<Element> oursA, oursB;
-  measure(what, values, in,
-          {[&](size_t k) {
-             MTensor *pair[] = {in.first[k], in.second[k]};
-             torvane::MTensor_setOperation(&slot, pair, 2, mode);
-           },
-           [&](size_t k) {
-             sortInto(a, in.first[k]);
-             sortInto(b, in.second[k]);
-             Peer::run(a.begin(), std::unique(a.begin(), a.end()), b.begin(), b.end(), result.begin());
-           },
-           [&](size_t k) {
-             Element *x = oursA.run(in.first[k]), *y = oursB.run(in.second[k]);
-             Peer::run(x, std::unique(x, x + in.rows), y, y + in.rows, result.data());
-           }});
+  OurSort<Element> sortA, sortB;
+  const auto ours = [&](size_t k) {
+    MTensor *pair[] = {in.first[k], in.second[k]};
+    torvane::MTensor_setOperation(&slot, pair, 2, Operation::kMode);
+  };
+  const auto byStd = [&](size_t k) {
+    sortInto(a, in.first[k]);
+    sortInto(b, in.second[k]);
+    Operation::run(a.begin(), std::unique(a.begin(), a.end()), b.begin(), b.end(), result.begin());
+  };
+  const auto bySort = [&](size_t k) {
+    Element *x = sortA.run(in.first[k]), *y = sortB.run(in.second[k]);
+    Operation::run(x, std::unique(x, x + in.rows), y, y + in.rows, result.data());
+  };
+  bench::compare({std::string(Operation::kName) + ", " + values, double(in.rows), {}, 1.2},
+                 {{"ours", in.inTurn(ours)}, {kStdSort, in.inTurn(byStd)}, {kOurSort, in.inTurn(bySort)}});
   MTensor_delete(slot);
 }
 
-template <class Element> void measureSets(const char *values, const Inputs<Element> &in) {
-  measureUnion(values, in);
-  measureOperation<Difference>("Complement", torvane::kComplement, values, in);
-  measureOperation<Intersection>("Intersection", torvane::kIntersection, values, in);
+template <class Element> void compareSets(const std::string &values, const Inputs<Element> &in) {
+  compareUnion(values, in);
+  compareOperation<Difference>(values, in);
+  compareOperation<Intersection>(values, in);
 }
 
-// Beside sorts alone.
-void measureTally(const char *values, const Inputs<mint> &in) {
+void compareTally(const std::string &values, double aim, const Inputs<mint> &in) {
   MTensor *slot = nullptr;
   std::vector<mint> copy;
-  OurSort<mint> ours;
-  measure("Tally", values, in,
-          {[&](size_t k) { torvane::MTensor_tally(&slot, in.first[k]); },
-           [&](size_t k) { sortInto(copy, in.first[k]); }, [&](size_t k) { ours.run(in.first[k]); }});
+  OurSort<mint> sort;
+  bench::compare({"Tally, " + values + ", of a sort", double(in.rows), {}, aim},
+                 {{"ours", in.inTurn([&](size_t k) { torvane::MTensor_tally(&slot, in.first[k]); })},
+                  {kStdSort, in.inTurn([&](size_t k) { sortInto(copy, in.first[k]); })},
+                  {kOurSort, in.inTurn([&](size_t k) { sort.run(in.first[k]); })}});
   MTensor_delete(slot);
 }
 
-template <class Element> void measureSearch(const char *values, const Inputs<Element> &in) {
+template <class Element> void compareSearch(const std::string &values, const Inputs<Element> &in) {
   MTensor *pattern = MTensor_newAllocatedCommon(kTypeOf<Element>, 0, nullptr, 0);
   auto *wanted = static_cast<Element *>(pattern->data);
+  const auto search = [&](size_t k) { return torvane::Search{in.first[k], pattern, 0}; };
   const auto begin = [&](size_t k) { return static_cast<const Element *>(in.first[k]->data); };
+  const auto end = [&](size_t k) { return begin(k) + in.rows; };
+  const bench::Work work = {double(sizeof(Element)) * in.rows};
   *wanted = 3;
-  measure("Count", values, in,
-          {[&](size_t k) {
-             sink = torvane::countMatches({in.first[k], pattern, 0});
-           },
-           [&](size_t k) { sink = static_cast<mint>(std::count(begin(k), begin(k) + in.rows, *wanted)); }});
+  bench::compare({"Count, " + values, double(in.rows), work},
+                 {{"ours", in.inTurn([&](size_t k) { sink = torvane::countMatches(search(k)); })},
+                  {"std::count", in.inTurn([&](size_t k) {
+                     sink = static_cast<mint>(std::count(begin(k), end(k), *wanted));
+                   })}});
   *wanted = -1;
-  measure("MemberQ, none", values, in,
-          {[&](size_t k) {
-             sink = torvane::hasMatch({in.first[k], pattern, 0});
-           },
-           [&](size_t k) { sink = std::find(begin(k), begin(k) + in.rows, *wanted) != begin(k) + in.rows; }});
+  bench::compare(
+      {"MemberQ, none, " + values, double(in.rows), work},
+      {{"ours", in.inTurn([&](size_t k) { sink = torvane::hasMatch(search(k)); })},
+       {"std::find", in.inTurn([&](size_t k) { sink = std::find(begin(k), end(k), *wanted) != end(k); })}});
   MTensor_delete(pattern);
+}
+
+std::mt19937 generator(1);
+
+auto below(mint n) {
+  return [n] { return static_cast<mint>(generator() % static_cast<unsigned>(n)); };
+}
+auto realBelow(mint n) {
+  return [draw = below(n)] { return draw() * 0.37; };
+}
+
+constexpr double kSmallRange = 0.5;
+
+void compareAll(mint rows) {
+  compareSets("integers", Inputs<mint>(rows, below(INT32_MAX)));
+  compareSets("integers below n", Inputs<mint>(rows, below(rows)));
+  compareSets("10 integers", Inputs<mint>(rows, below(10)));
+  compareSets("reals", Inputs<mreal>(rows, realBelow(INT32_MAX)));
+  compareSets("10 reals", Inputs<mreal>(rows, realBelow(10)));
+  compareTally("one value", kSmallRange, Inputs<mint>(rows, below(1)));
+  compareTally("10 values", kSmallRange, Inputs<mint>(rows, below(10)));
+  compareTally("100 values", kSmallRange, Inputs<mint>(rows, below(100)));
+  compareTally("n / 10 values", kSmallRange, Inputs<mint>(rows, below(rows / 10)));
+  compareTally("n values", 0, Inputs<mint>(rows, below(rows)));
+  compareTally("any values", 0, Inputs<mint>(rows, below(INT32_MAX)));
+  compareSearch("integers", Inputs<mint>(rows, below(10)));
+  compareSearch("reals", Inputs<mreal>(rows, below(10)));
+}
+
+// Sorts of so many take long.
+void compareLargest(mint rows) {
+  compareSets("integers", Inputs<mint>(rows, below(INT32_MAX)));
+  compareSets("10 integers", Inputs<mint>(rows, below(10)));
+  compareSets("reals", Inputs<mreal>(rows, realBelow(INT32_MAX)));
+  compareTally("10 values", kSmallRange, Inputs<mint>(rows, below(10)));
+  compareTally("any values", 0, Inputs<mint>(rows, below(INT32_MAX)));
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-  if (argc > 1) rounds = std::atoi(argv[1]);
-  const mint largest = argc > 2 ? std::atoi(argv[2]) : 1000000,
-             smallest = argc > 3 ? std::atoi(argv[3]) : 1000;
+  bench::start("sets", "ns a row", argc, argv, 21);
   InitializeRuntimeLibrary();
-  std::mt19937 random(1);
-  const auto below = [&random](mint n) {
-    return [&random, n] { return static_cast<mint>(random() % static_cast<unsigned>(n)); };
-  };
-  const auto realBelow = [&](mint n) { return [draw = below(n)] { return draw() * 0.37; }; };
-  std::printf("%-13s %-20s %8s %8s %8s %8s %6s\n", "ns a row", "values", "rows", "ours", "std", "sort",
-              "ratio");
-  for (mint rows = smallest; rows <= largest; rows *= 10) {
-    measureSets("integers", Inputs<mint>(rows, below(INT32_MAX)));
-    measureSets("integers below n", Inputs<mint>(rows, below(rows)));
-    measureSets("10 distinct", Inputs<mint>(rows, below(10)));
-    measureSets("reals", Inputs<mreal>(rows, realBelow(INT32_MAX)));
-    measureSets("reals, n distinct", Inputs<mreal>(rows, realBelow(rows)));
-    measureSets("reals, 10 distinct", Inputs<mreal>(rows, realBelow(10)));
-    measureTally("one value", Inputs<mint>(rows, below(1)));
-    measureTally("10 distinct", Inputs<mint>(rows, below(10)));
-    measureTally("100 distinct", Inputs<mint>(rows, below(100)));
-    measureTally("n / 10 distinct", Inputs<mint>(rows, below(rows / 10)));
-    measureTally("n distinct", Inputs<mint>(rows, below(rows)));
-    measureTally("any", Inputs<mint>(rows, below(INT32_MAX)));
-    measureSearch("integers", Inputs<mint>(rows, below(10)));
-    measureSearch("reals", Inputs<mreal>(rows, below(10)));
-  }
+  compareAll(1000);
+  compareAll(100000);
+  compareLargest(1000000);
 }

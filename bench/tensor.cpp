@@ -1,154 +1,113 @@
-// Tensors beside Eigen, both in this process: rounds alternate between ours and the peer and the median
-// round counts. Prints nanoseconds for one operation (runs: for one element) and our ratio to the peer.
-//
-//   bench_tensor [rounds]
+// Shapes and coercions of tensors beside Eigen.
+#include "table.h"
+
 #include <torvane/startup.h>
 #include <torvane/tensor.h>
 
 #include <Eigen/Core>
 
-#include <algorithm>
-#include <chrono>
 #include <complex>
-#include <cstdio>
-#include <cstdlib>
-#include <functional>
 #include <vector>
 
-namespace {
+using bench::compare;
+using bench::repeated;
+using bench::Run;
 
-using Clock = std::chrono::steady_clock;
+namespace {
 
 // What the optimiser must take to be read and changed here.
 template <class T> void opaque(T &value) { asm volatile("" : "+m"(value) : : "memory"); }
 
-double nanoseconds(const std::function<void(int)> &run, int count) {
-  const auto start = Clock::now();
-  run(count);
-  return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / count;
-}
-
-double median(std::vector<double> &rounds) {
-  std::nth_element(rounds.begin(), rounds.begin() + std::ptrdiff_t(rounds.size() / 2), rounds.end());
-  return rounds[rounds.size() / 2];
-}
-
-struct Row {
-  const char *name;
-  int count;  // operations of a round
-  double per; // elements of an operation
-  std::function<void(int)> ours, peer;
-};
-
-void measure(const Row &row, int rounds) {
-  std::vector<double> ours, peer;
-  for (int i = 0; i < rounds; ++i) {
-    ours.push_back(nanoseconds(row.ours, row.count) / row.per);
-    peer.push_back(nanoseconds(row.peer, row.count) / row.per);
-  }
-  const double a = median(ours), b = median(peer);
-  std::printf("%-44s %8.3f ns  peer %8.3f ns  ratio %5.2f\n", row.name, a, b, a / b);
-}
-
-mint extents[2] = {40, 30};
-MTensor *held;
-Eigen::MatrixXd peerHeld;
-Eigen::Index peerExtents[2] = {40, 30};
-
-void oursSameShape(int count) {
-  for (int i = 0; i < count; ++i) {
-    opaque(extents);
-    MTensor_allocateMemoryCommon(held, TORVANE_TYPE_REAL, 2, extents, 2);
-  }
-}
-
-void oursSameShapeInSlot(int count) {
-  for (int i = 0; i < count; ++i) {
-    opaque(extents);
-    MTensor_allocateCommon(&held, TORVANE_TYPE_REAL, 2, extents, 2);
-  }
-}
-
-void peerSameShape(int count) {
-  for (int i = 0; i < count; ++i) {
+void compareShapes() {
+  mint extents[2] = {40, 30};
+  Eigen::Index peerExtents[2] = {40, 30};
+  MTensor *held = CreatePackedArray(TORVANE_TYPE_REAL, 2, extents);
+  Eigen::MatrixXd peerHeld(40, 30);
+  const Run peer = repeated([&] {
     opaque(peerExtents);
     peerHeld.resize(peerExtents[0], peerExtents[1]);
     opaque(peerHeld);
-  }
+  });
+  compare({"same shape and type again"}, {{"ours", repeated([&] {
+                                             opaque(extents);
+                                             MTensor_allocateMemoryCommon(held, TORVANE_TYPE_REAL, 2, extents,
+                                                                          2);
+                                           })},
+                                          {"Eigen", peer}});
+  compare({"the same through a slot"}, {{"ours", repeated([&] {
+                                           opaque(extents);
+                                           MTensor_allocateCommon(&held, TORVANE_TYPE_REAL, 2, extents, 2);
+                                         })},
+                                        {"Eigen", peer}});
+  MTensor_delete(held);
 }
 
-mint length = 10;
-
-void oursCreate(int count) {
-  for (int i = 0; i < count; ++i) {
-    opaque(length);
-    MTensor *tensor = CreatePackedArray(TORVANE_TYPE_REAL, 1, &length);
-    opaque(tensor);
-    MTensor_delete(tensor);
-  }
-}
-
-void peerCreate(int count) {
-  for (int i = 0; i < count; ++i) {
-    opaque(length);
-    auto *vector = new Eigen::VectorXd(length);
-    opaque(vector);
-    delete vector;
-  }
+void compareCreation() {
+  mint length = 10;
+  compare({"create and delete 10 reals"}, {{"ours", repeated([&] {
+                                              opaque(length);
+                                              MTensor *tensor =
+                                                  CreatePackedArray(TORVANE_TYPE_REAL, 1, &length);
+                                              opaque(tensor);
+                                              MTensor_delete(tensor);
+                                            })},
+                                           {"Eigen", repeated([&] {
+                                              opaque(length);
+                                              auto *vector = new Eigen::VectorXd(length);
+                                              opaque(vector);
+                                              delete vector;
+                                            })}});
 }
 
 constexpr mint kRun = 4096; // in the first cache: the loops are measured, not the memory
-std::vector<mint> integers(kRun, 5);
-std::vector<mreal> reals(4 * kRun, 2.5), realsOut(4 * kRun);
-std::vector<std::complex<double>> complexes(kRun, {1.5, 0.5});
+using Integers = std::vector<mint>;
+using Reals = std::vector<mreal>;
+using Complexes = std::vector<std::complex<double>>;
 
+template <class T> constexpr mint kTypeOf = TORVANE_TYPE_COMPLEX;
+template <> constexpr mint kTypeOf<mint> = TORVANE_TYPE_INTEGER;
+template <> constexpr mint kTypeOf<mreal> = TORVANE_TYPE_REAL;
+
+template <class T> auto view(std::vector<T> &values, int stride) {
+  using Array = Eigen::Array<T, Eigen::Dynamic, 1>;
+  return Eigen::Map<Array, 0, Eigen::InnerStride<>>(values.data(), kRun, Eigen::InnerStride<>(stride));
+}
 template <class T> auto view(std::vector<T> &values) {
   return Eigen::Map<Eigen::Array<T, Eigen::Dynamic, 1>>(values.data(), kRun);
 }
-auto strided(std::vector<mreal> &values, int stride) {
-  return Eigen::Map<Eigen::ArrayXd, 0, Eigen::InnerStride<>>(values.data(), kRun,
-                                                             Eigen::InnerStride<>(stride));
-}
 
-std::function<void(int)> repeat(const std::function<void()> &once) {
-  return [once](int count) {
-    for (int i = 0; i < count; ++i) {
-      once();
-      asm volatile("" : : : "memory");
-    }
-  };
-}
-
-std::function<void(int)> coerce(void *target, mint targetType, mint targetStride, void *source,
-                                mint sourceType, mint sourceStride) {
-  return repeat([=] {
-    GenericData_copySomeCoerce(target, targetType, 0, targetStride, source, sourceType, 0, sourceStride,
+template <class To, class From>
+void compareCoercion(const char *name, std::vector<To> &to, mint toStride, std::vector<From> &from,
+                     mint fromStride, const Run &peer) {
+  const auto ours = [&to, &from, toStride, fromStride] {
+    GenericData_copySomeCoerce(to.data(), kTypeOf<To>, 0, toStride, from.data(), kTypeOf<From>, 0, fromStride,
                                kRun);
-  });
+  };
+  compare({name, kRun, {double(sizeof(From)) * kRun, double(sizeof(To)) * kRun}},
+          {{"ours", repeated(ours)}, {"Eigen", peer}});
+}
+
+void compareCoercions() {
+  Integers integers(kRun, 5);
+  Reals reals(3 * kRun, 2.5), to(2 * kRun);
+  Complexes complexes(kRun, {1.5, 0.5});
+  compareCoercion("integers to reals", to, 1, integers, 1,
+                  repeated([&] { view(to) = view(integers).cast<double>(); }));
+  compareCoercion("reals to complexes", complexes, 1, reals, 1,
+                  repeated([&] { view(complexes) = view(reals).cast<std::complex<double>>(); }));
+  compareCoercion("complexes to reals", to, 1, complexes, 1,
+                  repeated([&] { view(to) = view(complexes).real(); }));
+  compareCoercion("reals, contiguous", to, 1, reals, 1, repeated([&] { view(to) = view(reals); }));
+  compareCoercion("reals, every third to every second", to, 2, reals, 3,
+                  repeated([&] { view(to, 2) = view(reals, 3); }));
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
-  const int rounds = argc > 1 ? std::atoi(argv[1]) : 51;
+  bench::start("tensor", "ns a call or an element", argc, argv, 501);
   InitializeRuntimeLibrary();
-  held = CreatePackedArray(TORVANE_TYPE_REAL, 2, extents);
-  peerHeld.resize(40, 30);
-  const Row rows[] = {
-      {"same shape and type again", 200000, 1, oursSameShape, peerSameShape},
-      {"the same through a slot", 200000, 1, oursSameShapeInSlot, peerSameShape},
-      {"create and delete 10 reals", 100000, 1, oursCreate, peerCreate},
-      {"integers to reals", 500, kRun, coerce(realsOut.data(), 3, 1, integers.data(), 2, 1),
-       repeat([] { view(realsOut) = view(integers).cast<double>(); })},
-      {"reals to complexes", 500, kRun, coerce(complexes.data(), 4, 1, reals.data(), 3, 1),
-       repeat([] { view(complexes) = view(reals).cast<std::complex<double>>(); })},
-      {"complexes to reals", 500, kRun, coerce(realsOut.data(), 3, 1, complexes.data(), 4, 1),
-       repeat([] { view(realsOut) = view(complexes).real(); })},
-      {"reals, contiguous", 500, kRun, coerce(realsOut.data(), 3, 1, reals.data(), 3, 1),
-       repeat([] { view(realsOut) = view(reals); })},
-      {"reals, every third to every second", 500, kRun, coerce(realsOut.data(), 3, 2, reals.data(), 3, 3),
-       repeat([] { strided(realsOut, 2) = strided(reals, 3); })},
-  };
-  for (const Row &row : rows) measure(row, rounds);
-  MTensor_delete(held);
+  compareShapes();
+  compareCreation();
+  compareCoercions();
 }
