@@ -1,7 +1,9 @@
-# Sourced by ./demo and ./check: the one list of Debian packages, and how they get there.
+# Sourced by ./demo, ./check and bench/run: the one list of Debian packages, and how they get there.
 build_packages=(cmake ninja-build g++ libtbb-dev libopenblas-dev)
 check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev libmpc-dev pkg-config)
 extra_packages=(llvm-19 doxygen)
+bench_packages=(libeigen3-dev libboost-dev)
+peer_packages=(libmimalloc2.0 libjemalloc2 libxtensor-dev libxsimd-dev gfortran python3-numpy)
 packages_32=(g++-multilib)
 blas_packages_32=(libblas3:i386 libblas-dev:i386)
 
