@@ -23,40 +23,39 @@ void compareShapes() {
   Eigen::Index peerExtents[2] = {40, 30};
   MTensor *held = CreatePackedArray(TORVANE_TYPE_REAL, 2, extents);
   Eigen::MatrixXd peerHeld(40, 30);
+  const Run again = repeated([&] {
+    opaque(extents);
+    MTensor_allocateMemoryCommon(held, TORVANE_TYPE_REAL, 2, extents, 2);
+  });
+  const Run inSlot = repeated([&] {
+    opaque(extents);
+    MTensor_allocateCommon(&held, TORVANE_TYPE_REAL, 2, extents, 2);
+  });
   const Run peer = repeated([&] {
     opaque(peerExtents);
     peerHeld.resize(peerExtents[0], peerExtents[1]);
     opaque(peerHeld);
   });
-  compare({"same shape and type again"}, {{"ours", repeated([&] {
-                                             opaque(extents);
-                                             MTensor_allocateMemoryCommon(held, TORVANE_TYPE_REAL, 2, extents,
-                                                                          2);
-                                           })},
-                                          {"Eigen", peer}});
-  compare({"the same through a slot"}, {{"ours", repeated([&] {
-                                           opaque(extents);
-                                           MTensor_allocateCommon(&held, TORVANE_TYPE_REAL, 2, extents, 2);
-                                         })},
-                                        {"Eigen", peer}});
+  compare({"same shape and type again"}, {{"ours", again}, {"Eigen", peer}});
+  compare({"the same through a slot"}, {{"ours", inSlot}, {"Eigen", peer}});
   MTensor_delete(held);
 }
 
 void compareCreation() {
   mint length = 10;
-  compare({"create and delete 10 reals"}, {{"ours", repeated([&] {
-                                              opaque(length);
-                                              MTensor *tensor =
-                                                  CreatePackedArray(TORVANE_TYPE_REAL, 1, &length);
-                                              opaque(tensor);
-                                              MTensor_delete(tensor);
-                                            })},
-                                           {"Eigen", repeated([&] {
-                                              opaque(length);
-                                              auto *vector = new Eigen::VectorXd(length);
-                                              opaque(vector);
-                                              delete vector;
-                                            })}});
+  const Run ours = repeated([&] {
+    opaque(length);
+    MTensor *tensor = CreatePackedArray(TORVANE_TYPE_REAL, 1, &length);
+    opaque(tensor);
+    MTensor_delete(tensor);
+  });
+  const Run peer = repeated([&] {
+    opaque(length);
+    auto *vector = new Eigen::VectorXd(length);
+    opaque(vector);
+    delete vector;
+  });
+  compare({"create and delete 10 reals"}, {{"ours", ours}, {"Eigen", peer}});
 }
 
 constexpr mint kRun = 4096; // in the first cache: the loops are measured, not the memory
