@@ -93,7 +93,7 @@ def overview(results):
 
 
 def anchor(room):
-    return re.sub("[^a-z0-9 -]", "", room.lower()).replace(" ", "-")
+    return re.sub("[^a-z0-9 _-]", "", room.lower()).replace(" ", "-")
 
 
 def plots_of(results, room):

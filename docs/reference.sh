@@ -9,6 +9,7 @@ mkdir -p "$folder"
 folder=$(cd "$folder" && pwd)
 cd "$root"
 TORVANE_REFERENCE=$folder "$doxygen" docs/Doxyfile
+cp -r docs/performance "$folder/html" # plots, which doxygen links but does not take along
 
 missing=$(comm -23 <(awk '!/^#/ { print $2 }' data/exports.txt | sort) \
   <(cat "$folder"/html/*_8h.html | grep -oE '\b[A-Za-z_][A-Za-z_0-9]*\b' | sort -u))
