@@ -5,6 +5,7 @@ from xml.sax.saxutils import escape
 
 OURS, ABOVE, UNASKED, PEER, LIMIT, INK, GRID = "#1f5fa8", "#c2410c", "#7a8ca3", "#b45309", "#6b7280", "#1f2933", "#dde3ea"
 STEPS = (1, 2, 5)
+LETTER = 6.3  # pixels, of an average letter in bold
 
 
 def text(x, y, words, anchor="start", size=12, colour=INK, more=""):
@@ -52,26 +53,27 @@ def times_text(row):
 
 def ratio_row(row, axis, y):
     """One row of the plot: the aim is a tick, ours a dot, hollow where nothing was asked."""
+    left, right = axis.first - 8, axis.last + 46
     colour = ABOVE if row.is_above_aim else OURS if row.aim else UNASKED
     fill = colour if row.aim else "#ffffff"
     mark = ' font-weight="bold"' if row.is_above_aim else ""
-    yield text(326, y + 4, row.label, "end", 11, ABOVE if row.is_above_aim else INK, mark)
+    yield text(left, y + 4, row.label, "end", 11, ABOVE if row.is_above_aim else INK, mark)
     yield line(axis.at(1), y, axis.at(row.ratio), y, colour, 1.5)
     if row.aim and not row.is_time:
         yield line(axis.at(row.aim), y - 6, axis.at(row.aim), y + 6, INK, 2)
     yield (f'<circle cx="{axis.at(row.ratio):.1f}" cy="{y:.1f}" r="4" fill="{fill}" stroke="{colour}" '
            f'stroke-width="1.5"><title>{escape(times_text(row))}</title></circle>')
-    yield text(806, y + 4, f"{row.ratio:.2f}", "end", 11, colour, mark)
-    yield text(812, y + 4, row.peer, size=11, colour=UNASKED)
+    yield text(right, y + 4, f"{row.ratio:.2f}", "end", 11, colour, mark)
+    yield text(right + 6, y + 4, row.peer, size=11, colour=UNASKED)
 
 
 def ratios(title, rows):
     """Our ratio to the best peer, a row each, on a logarithmic axis."""
     top, step = 62, 16
-    bottom = top + step * len(rows)
+    left, bottom = 24 + round(LETTER * max(len(row.label) for row in rows)), top + step * len(rows)
     # A value on the very edge would draw its dot over the labels.
     values = [row.ratio for row in rows] + [row.aim for row in rows if row.aim and not row.is_time] + [0.5, 2]
-    axis = LogAxis([min(values) * 0.97, max(values) * 1.03], 334, 760)
+    axis = LogAxis([min(values) * 0.97, max(values) * 1.03], left, left + 430)
     body = [text(12, 22, title, size=15),
             text(12, 40, "Our time to the best peer's: left of 1 ours is faster. Tick: what was asked; orange: above "
                  "it. Hollow: nothing was asked.", size=11, colour=LIMIT)]
@@ -80,7 +82,7 @@ def ratios(title, rows):
                  text(axis.at(tick), bottom + 14, f"{tick:g}", "middle", 11)]
     for number, row in enumerate(rows):
         body += ratio_row(row, axis, top + step * number + step / 2)
-    return document(920, bottom + 26, title, body)
+    return document(max(left + 600, 640), bottom + 26, title, body)
 
 
 def curve(points, x_axis, y_axis, colour, dash=""):
