@@ -3,7 +3,8 @@
 import math
 from xml.sax.saxutils import escape
 
-OURS, ABOVE, UNASKED, PEER, LIMIT, INK, GRID = "#1f5fa8", "#c2410c", "#7a8ca3", "#b45309", "#6b7280", "#1f2933", "#dde3ea"
+OURS, ABOVE, UNASKED, PEER, LIMIT = "#1f5fa8", "#c2410c", "#7a8ca3", "#b45309", "#6b7280"
+INK, GRID = "#1f2933", "#dde3ea"
 STEPS = (1, 2, 5)
 LETTER = 6.3  # pixels, of an average letter in bold
 

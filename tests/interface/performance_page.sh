@@ -1,13 +1,13 @@
 #!/bin/bash
-# performance_page.sh PYTHON SOURCE: bench/run makes a page and plots of the lines that benchmarks print: rows, marks and reasons
-# are where they belong, the same lines give the same files, and a row above what was asked is named as such.
+# performance_page.sh PYTHON SOURCE: bench/run makes a page and plots of the lines that benchmarks print: rows and
+# marks are where they belong, the same lines give the same files, a row above what was asked is named as such.
 set -eu
 python=$1 source=$2
 work=$(mktemp -d) && trap 'rm -rf "$work"' EXIT
 fail() { echo "$1"; exit 1; }
 
 {
-  printf '# processor\tone of a kind\n# load at start\t%s\n# processors others used\t0.02\n' "${LOAD:-0.10}"
+  printf '# processor\tone of a kind\n# load at start\t0.10\n# processors others used\t0.02\n'
   printf 'machine\tread 16 KiB\tns a byte\t1\t0.005\t-\t-\t-\t-\t\n'
   printf 'machine\tcopied 16 KiB\tns a byte\t1\t0.004\t-\t-\t-\t-\t\n'
   printf 'sample\tplus\tns an element\t1000\t0.12\tEigen\t1.2\t1.5\t1.05\tplain=0.15;Eigen=0.1\n'
@@ -43,7 +43,8 @@ grep -qF 'ours 1, peer=b 2 (ns an element)' performance/sample.svg || fail "no t
 ! grep -q 'Do not believe' performance.md || fail "a quiet machine is called busy"
 "$python" -c 'import glob, xml.dom.minidom as x; [x.parse(name) for name in glob.glob("performance/*.svg")]' ||
   fail "a plot is not well-formed"
-[ "$(ls performance)" = "$(printf '%s\n' curves.svg elementwise.svg lists.svg run.tsv sample.svg)" ] || fail "other files: $(ls performance)"
+[ "$(ls performance | xargs)" = "curves.svg elementwise.svg lists.svg run.tsv sample.svg" ] ||
+  fail "other files: $(ls performance)"
 
 sed -i 's/^# load at start.*/# load at start\t3.00/' "$work/run.tsv"
 make_page "$work/busy"
