@@ -179,8 +179,9 @@ static mint apply(Image *image, char **words) {
 /* Scale maps the whole range of the type; a file may have its white below that. */
 static mint readImage(Image *i, const char *path) {
   Picture picture;
-  if (!pictureRead(&picture, path)) return BAD_INPUT;
-  mint status = toReals(i, picture.samples, SCALE);
+  mint status = pictureRead(&picture, path);
+  if (status != 0) return status;
+  status = toReals(i, picture.samples, SCALE);
   arrayDelete(picture.samples);
   const mint whole = picture.maximum > 255 ? 65535 : 255;
   return status == 0 && picture.maximum != whole ? gain(i, (mreal)whole / picture.maximum) : status;
@@ -189,14 +190,13 @@ static mint readImage(Image *i, const char *path) {
 static mint writeImage(Image *i, const char *path) {
   Picture picture = {.maximum = i->deep ? 65535 : 255, .samples = NULL};
   const mint type = i->deep ? TORVANE_ELEMENT_UNSIGNED_INTEGER16 : TORVANE_ELEMENT_UNSIGNED_INTEGER8;
-  const mint status = toIntegers(i, picture.maximum, type, &picture.samples);
-  if (status != 0) return status;
-  const bool written = pictureWrite(&picture, path);
-  if (written)
+  mint status = toIntegers(i, picture.maximum, type, &picture.samples);
+  if (status == 0) status = pictureWrite(&picture, path);
+  if (status == 0)
     printf("%s: %d by %d pixels, %d channels, maximum %d\n", path, i->pixels->dimensions[1],
            i->pixels->dimensions[0], i->pixels->rank == 3 ? 3 : 1, picture.maximum);
   arrayDelete(picture.samples);
-  return written ? 0 : BAD_INPUT;
+  return status;
 }
 
 mint TorvaneLibrary_entry(TorvaneLibraryData *record, int argc, char **argv) {

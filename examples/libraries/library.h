@@ -3,9 +3,7 @@
 #define EXAMPLE_LIBRARY_H
 
 #include "../host/entry.h"
-
-#include <stdarg.h>
-#include <stdio.h>
+#include "../message.h"
 
 /* Statuses of docs/errors.md. */
 enum { BAD_INPUT = 4, NO_MEMORY = 5, WRONG_WORDS = 12 };
@@ -22,9 +20,8 @@ enum { SQUARE = 56, PLUS = 257, SUBTRACT = 258, TIMES = 259, DIVIDE = 260 };
 __attribute__((format(printf, 2, 3))) static inline mint refuse(mint status, const char *format, ...) {
   va_list arguments;
   va_start(arguments, format);
-  vfprintf(stderr, format, arguments);
+  messageEnd(format, arguments);
   va_end(arguments);
-  fputc('\n', stderr);
   return status;
 }
 

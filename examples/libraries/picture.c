@@ -1,10 +1,10 @@
 #include "picture.h"
 
+#include "library.h"
+
 #include <torvane/tensor.h>
 
 #include <errno.h>
-#include <stdarg.h>
-#include <stdio.h>
 #include <string.h>
 
 enum { MOST_EXTENT = 32767 };
@@ -15,16 +15,6 @@ typedef struct Reader {
   bool plain; /* samples are decimal numbers */
   mint extents[3], rank;
 } Reader;
-
-__attribute__((format(printf, 2, 3))) static bool complain(const char *path, const char *format, ...) {
-  va_list arguments;
-  va_start(arguments, format);
-  fprintf(stderr, "image: %s: ", path);
-  vfprintf(stderr, format, arguments);
-  va_end(arguments);
-  fputc('\n', stderr);
-  return false;
-}
 
 void arrayDelete(MNumericArray *array) { MTensor_delete((MTensor *)array); }
 
@@ -54,18 +44,20 @@ static mint readNumber(FILE *file, mint most) {
   return byte == EOF || isBlank(byte) ? number : -1;
 }
 
-static bool readHeader(Reader *r, mint *maximum) {
+static mint readHeader(Reader *r, mint *maximum) {
   const int letter = getc(r->file) == 'P' ? getc(r->file) : 0;
   if (letter != '2' && letter != '3' && letter != '5' && letter != '6')
-    return complain(r->path, "not a PGM or PPM picture");
+    return refuse(BAD_INPUT, "image: %s: not a PGM or PPM picture", r->path);
   r->plain = letter < '5';
   r->rank = letter == '3' || letter == '6' ? 3 : 2;
   r->extents[2] = 3;
   r->extents[1] = readNumber(r->file, MOST_EXTENT);
   r->extents[0] = r->extents[1] > 0 ? readNumber(r->file, MOST_EXTENT) : 0;
-  if (r->extents[0] < 1) return complain(r->path, "width and height must be numbers of 1 to %d", MOST_EXTENT);
+  if (r->extents[0] < 1)
+    return refuse(BAD_INPUT, "image: %s: width and height must be numbers of 1 to %d", r->path, MOST_EXTENT);
   *maximum = readNumber(r->file, 65535);
-  return *maximum > 0 || complain(r->path, "the maximum must be a number of 1 to 65535");
+  if (*maximum > 0) return 0;
+  return refuse(BAD_INPUT, "image: %s: the maximum must be a number of 1 to 65535", r->path);
 }
 
 /* Two bytes are one sample, the high one first; -1 where the file has ended. */
@@ -74,43 +66,47 @@ static mint readRaw(FILE *file, bool wide) {
   return high == EOF || low == EOF ? -1 : (mint)(256 * high + low);
 }
 
-static bool readSamples(const Reader *r, Picture *picture) {
+static mint readSamples(const Reader *r, Picture *picture) {
   const bool wide = picture->maximum > 255;
   uint8_t *bytes = picture->samples->data;
   uint16_t *words = picture->samples->data;
   for (mint i = 0; i < picture->samples->elementCount; i++) {
     const mint value = r->plain ? readNumber(r->file, 65535) : readRaw(r->file, wide);
     if (value < 0)
-      return complain(r->path, feof(r->file) ? "the file ends before its samples"
-                                             : "a sample is no number of 0 to 65535");
+      return refuse(BAD_INPUT, "image: %s: %s", r->path,
+                    feof(r->file) ? "the file ends before its samples"
+                                  : "a sample is no number of 0 to 65535");
     if (value > picture->maximum)
-      return complain(r->path, "a sample of %d is above the maximum of %d", value, picture->maximum);
+      return refuse(BAD_INPUT, "image: %s: a sample of %d is above the maximum of %d", r->path, value,
+                    picture->maximum);
     if (wide)
       words[i] = (uint16_t)value;
     else
       bytes[i] = (uint8_t)value;
   }
-  return true;
+  return 0;
 }
 
-static bool readPicture(Reader *r, Picture *picture) {
-  if (!readHeader(r, &picture->maximum)) return false;
+static mint readPicture(Reader *r, Picture *picture) {
+  const mint status = readHeader(r, &picture->maximum);
+  if (status != 0) return status;
   const mint type =
       picture->maximum > 255 ? TORVANE_ELEMENT_UNSIGNED_INTEGER16 : TORVANE_ELEMENT_UNSIGNED_INTEGER8;
   picture->samples = Runtime_CreateNumericArray(type, r->rank, r->extents);
   if (!picture->samples)
-    return complain(r->path, "%d by %d pixels are too many", r->extents[1], r->extents[0]);
+    return refuse(BAD_INPUT, "image: %s: %d by %d pixels are too many", r->path, r->extents[1],
+                  r->extents[0]);
   return readSamples(r, picture);
 }
 
-bool pictureRead(Picture *picture, const char *path) {
+mint pictureRead(Picture *picture, const char *path) {
   Reader r = {.file = fopen(path, "rb"), .path = path};
   picture->samples = NULL;
-  if (!r.file) return complain(path, "%s", strerror(errno));
-  const bool read = readPicture(&r, picture);
+  if (!r.file) return refuse(BAD_INPUT, "image: %s: %s", path, strerror(errno));
+  const mint status = readPicture(&r, picture);
   fclose(r.file);
-  if (!read) arrayDelete(picture->samples);
-  return read;
+  if (status != 0) arrayDelete(picture->samples);
+  return status;
 }
 
 static void writeSamples(const Picture *picture, FILE *file) {
@@ -122,13 +118,14 @@ static void writeSamples(const Picture *picture, FILE *file) {
   }
 }
 
-bool pictureWrite(const Picture *picture, const char *path) {
+mint pictureWrite(const Picture *picture, const char *path) {
   FILE *file = fopen(path, "wb");
-  if (!file) return complain(path, "%s", strerror(errno));
+  if (!file) return refuse(BAD_INPUT, "image: %s: %s", path, strerror(errno));
   const mint *extents = picture->samples->dimensions;
   fprintf(file, "P%d\n%d %d\n%d\n", picture->samples->rank == 3 ? 6 : 5, extents[1], extents[0],
           picture->maximum);
   writeSamples(picture, file);
   const bool written = !ferror(file);
-  return (fclose(file) == 0 && written) || complain(path, "cannot be written: %s", strerror(errno));
+  if (fclose(file) == 0 && written) return 0;
+  return refuse(BAD_INPUT, "image: %s: cannot be written: %s", path, strerror(errno));
 }

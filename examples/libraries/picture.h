@@ -13,12 +13,13 @@ typedef struct Picture {
   MNumericArray *samples;
 } Picture;
 
-/* Fills the record, or says on stderr what is wrong with the file and returns false. The samples are the
- * caller's to delete. Bytes behind the last sample are not read. */
-bool pictureRead(Picture *picture, const char *path);
+/* Fills the record and returns 0, or says on stderr what is wrong with the file and returns a status. The
+ * samples are the caller's to delete. Bytes behind the last sample are not read. */
+mint pictureRead(Picture *picture, const char *path);
 
-/* Writes the raw form, or says what is wrong. The maximum is 255 or 65535, as the samples are wide. */
-bool pictureWrite(const Picture *picture, const char *path);
+/* Writes the raw form, or says what is wrong, likewise. The maximum is 255 or 65535, as the samples are wide.
+ */
+mint pictureWrite(const Picture *picture, const char *path);
 
 /* An array has the layout of a tensor, and the tensors' delete is its own. Null is ignored. */
 void arrayDelete(MNumericArray *array);

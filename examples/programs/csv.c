@@ -2,10 +2,10 @@
  * checked scalars keep every product of sizes inside them. */
 #include "csv.h"
 
+#include "../message.h"
+
 #include <errno.h>
 #include <math.h>
-#include <stdarg.h>
-#include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
@@ -17,9 +17,8 @@ bool csvComplain(const Csv *csv, mint line, mint column, const char *format, ...
   fputs(": ", stderr);
   va_list arguments;
   va_start(arguments, format);
-  vfprintf(stderr, format, arguments);
+  messageEnd(format, arguments);
   va_end(arguments);
-  fputc('\n', stderr);
   return false;
 }
 

@@ -18,7 +18,7 @@ line() {
 reported_by() {
   "$program" "$2" >out 2>err || fail "exit status $?: $(cat err)"
   [ ! -s err ] || fail "stderr: $(cat err)"
-  awk -f "$here/$1" "$2" out || { cat out; exit 1; }
+  awk -f "$here/table.awk" -f "$here/$1" "$2" out || { cat out; exit 1; }
 }
 
 # refused STATUS MESSAGE ARGUMENTS...: exactly this message on stderr, this exit status, nothing on stdout.

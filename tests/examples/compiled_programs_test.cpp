@@ -6,9 +6,6 @@
 #include "runtime/memory.h"
 
 #include <torvane/failure.h>
-#include <torvane/startup.h>
-
-#include <gtest/gtest.h>
 
 extern "C" {
 #define COMPILED_PROGRAM(name, expected) mint name##Entry(TorvaneLibraryData *record, int argc, char **argv);

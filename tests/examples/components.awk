@@ -1,19 +1,6 @@
 # Holds a report of `principal_components` (second file) against figures computed here from the table (first file):
-# the eigenvalues and eigenvectors of its covariance by Jacobi's rotations. Numeric columns are those whose first
-# value is a number; the file must be plain (no quotes). Vectors are compared where their eigenvalue is apart from the
-# others. Prints one line a difference; fails on any.
-
-function number(text) { return text ~ /^[-+]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][-+]?[0-9]+)?$/ }
-function size(x) { return x < 0 ? -x : x }
-function near(what, got, want, bound) {
-  compared++
-  if (got !~ /[0-9]/ || size(got - want) > bound) { print what ": " got ", not " want; bad = 1 }
-}
-function mean(c,   r, s) { for (r = 1; r <= rows; r++) s += value[r, c]; return s / rows }
-function covariance(a, b,   r, s) {
-  for (r = 1; r <= rows; r++) s += (value[r, a] - centre[a]) * (value[r, b] - centre[b])
-  return s / (rows - 1)
-}
+# the eigenvalues and eigenvectors of its covariance by Jacobi's rotations. Vectors are compared where their eigenvalue
+# is apart from the others. Runs behind table.awk.
 
 # One rotation that makes m[p, q] zero, carried along in v, whose columns become the vectors.
 function rotate(p, q,   theta, t, c, s, k, x, y) {
@@ -61,22 +48,6 @@ function compare(k,   i, product, low, high) {
   for (i = 1; i <= n && isApart(k); i++) near(name[i] " in " k, loading[i, k], v[i, order[k]] * (product < 0 ? -1 : 1), 1e-6)
 }
 
-BEGIN { FS = "," }
-{ sub(/\r$/, "") }
-FNR == NR && FNR == 1 { for (f = 1; f <= NF; f++) header[f] = $f; next }
-FNR == NR {
-  if (FNR == 2) for (f = 1; f <= NF; f++) if (number($f)) { n++; field[n] = f; name[n] = header[f] } else text[header[f]] = 1
-  rows++
-  for (c = 1; c <= n; c++) value[rows, c] = $field[c]
-  next
-}
-FNR == 1 {
-  FS = " "; $0 = $0
-  solve()
-  if ($0 !~ (": " rows " rows, " n " numeric columns$")) { print "heading: " $0; bad = 1 }
-  next
-}
-/^skipped, not numeric: / { $0 = substr($0, 23); if (!($0 in text)) { print "skipped: " $0; bad = 1 }; delete text[$0]; next }
 /^no variance is left$/ { ended = 1; next }
 /^$/ { row = 0; next }
 $1 == "component" { section = 1; next }
@@ -96,11 +67,10 @@ section == 2 {
   for (k = 1; k <= found; k++) { loading[row, k] = $(k + 1); vectors += isApart(k) }
 }
 END {
-  for (t in text) { print "not named as skipped: " t; bad = 1 }
   for (k = 1; k <= found; k++) compare(k)
   if (found != wanted) { print found " components, not " wanted; bad = 1 }
   if (ended != (wanted < n)) { print "an end of the variance: " ended; bad = 1 }
   if (compared != 5 * wanted + vectors) { print compared " figures compared, not " 5 * wanted + vectors; bad = 1 }
   if (row != n) { print row " rows of loadings"; bad = 1 }
-  exit bad
+  finish()
 }

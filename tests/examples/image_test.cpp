@@ -4,18 +4,11 @@
 // Where a value lies so near the middle between two levels that rounding decides, the picture is passed over.
 #include "compiled_libraries.h"
 
-#include <torvane/startup.h>
-
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <cstdio>
 #include <fstream>
 #include <functional>
 #include <random>
 #include <sstream>
-
-#include <unistd.h>
 
 namespace {
 
@@ -150,20 +143,9 @@ std::string difference(const std::string &content, const Pixels &want, int maxim
   return "";
 }
 
-class Image : public testing::Test {
+class Image : public LibraryTest {
 protected:
-  const std::string path = testing::TempDir() + "torvane_image_" + std::to_string(getpid());
-  TorvaneLibraryData *record = nullptr;
   std::mt19937 random{1};
-
-  void SetUp() override {
-    InitializeTorvaneRTL(nullptr, nullptr, nullptr);
-    record = TorvaneLibraryData_new(5);
-  }
-  void TearDown() override {
-    TorvaneLibraryData_free(record);
-    std::remove(path.c_str());
-  }
 
   int pick(int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); }
 

@@ -5,33 +5,15 @@
 #include "runtime/memory.h"
 
 #include <torvane/failure.h>
-#include <torvane/startup.h>
 
-#include <gtest/gtest.h>
-
-#include <cstdio>
 #include <fstream>
-
-#include <unistd.h>
 
 namespace {
 
 const std::string data = TORVANE_EXAMPLE_DATA;
 
-class Library : public testing::Test {
+class Library : public LibraryTest {
 protected:
-  const std::string path = testing::TempDir() + "torvane_library_" + std::to_string(getpid());
-  TorvaneLibraryData *record = nullptr;
-
-  void SetUp() override {
-    InitializeTorvaneRTL(nullptr, nullptr, nullptr);
-    record = TorvaneLibraryData_new(5);
-  }
-  void TearDown() override {
-    TorvaneLibraryData_free(record);
-    std::remove(path.c_str());
-  }
-
   mint runQuietly(LibraryEntry entry, const std::vector<std::string> &words) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
