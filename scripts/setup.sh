@@ -1,6 +1,6 @@
 # Sourced by ./demo, ./check and bench/run: the one list of Debian packages, and how they get there.
 build_packages=(cmake ninja-build g++ libtbb-dev libopenblas-dev)
-check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev libmpc-dev pkg-config)
+check_packages=("${build_packages[@]}" clang-19 libclang-rt-19-dev googletest libmpfr-dev libmpc-dev pkg-config dpkg-dev file)
 extra_packages=(llvm-19 doxygen)
 bench_packages=(libeigen3-dev libboost-dev)
 peer_packages=(libmimalloc2.0 libjemalloc2 libxtensor-dev libxsimd-dev gfortran python3-numpy)

@@ -1,8 +1,8 @@
 #!/bin/bash
 # installed.sh WAY BUILD SOURCE COMPILER FLAGS: installs the build to a scratch prefix, moves the prefix, and there does
 # what the documents tell a user to do, by the commands that stand in them: the README's program by pkg_config or
-# find_package, with debian_packages by both from where the packages put it; the compiled libraries of the page for hosts;
-# the LLVM programs of the page on calls.
+# find_package, with debian_packages by both from where the packages put it, which are looked at first; the compiled
+# libraries of the page for hosts; the LLVM programs of the page on calls.
 set -eu
 way=$1 build=$2 source=$3 compiler=$4 flags=${5-}
 flags=${flags//;/ }
@@ -11,7 +11,7 @@ work=$(mktemp -d) && trap 'rm -rf "$work"' EXIT
 
 install_build() { cmake --install "$build" --prefix "$work/scratch"; }
 unpack_packages() {
-  cd "$build" && cpack -B "$work/packages" || return
+  cd "$build" && cpack -B "$work/packages" && "$source/tests/interface/packages.sh" "$work/packages" "$source" || return
   for package in "$work"/packages/*.deb; do dpkg-deb -x "$package" "$work/root" || return; done
   mv "$work/root/usr" "$work/scratch"
 }
