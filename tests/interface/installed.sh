@@ -84,7 +84,7 @@ by_hosts_page() {
 # The bitcode is that of 64-bit targets: without it the commands that name it are not run.
 by_calling_page() {
   local number commands
-  for number in 1 2; do
+  for number in 1 2 3; do
     block "$number" llvm "$source/docs/calling.md" >definitions.ll
     [ -s definitions.ll ] || { echo "no LLVM program $number"; exit 1; }
     for commands in 1 2; do
