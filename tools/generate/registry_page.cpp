@@ -39,7 +39,8 @@ const char *const kPreface =
 <!-- Generated from src/algorithms/functions.def by tools/generate; not to be edited. -->
 
 For those who write compilers and hosts. Compiled code does not link against the list algorithms: it asks for a function
-by its name and calls what it gets through one signature, `RuntimeFunctionHandler` of `torvane/registry.h`:
+by its name and calls what it gets through one signature, `RuntimeFunctionHandler` of `torvane/registry.h`
+([library_data.md](library_data.md) has a program that does so, [calling.md](calling.md#by-name) one in LLVM IR):
 
 ```text
 status = handler(libraryData, argumentCount, arguments, result)
@@ -63,8 +64,7 @@ status = handler(libraryData, argumentCount, arguments, result)
 
 The table never changes after start-up, so any thread may look a name up. A handler is as safe on several threads as the
 tensors that it is given: one thread writes one tensor. Kind 0 has no state, kind 2 draws random numbers, kind 5 changes
-the generator's state, and kind 1 is the plain random function, which this library has in its typed forms only. A
-function with "12, always" has its place here and its algorithm not yet.
+the generator's state, and kind 1 is the plain random function, which this library has in its typed forms only.
 
 | Name | Count | Arguments | Result | Statuses | Kind | What it gives |
 |---|---|---|---|---|---|---|
