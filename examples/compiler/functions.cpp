@@ -16,7 +16,7 @@ constexpr Elementwise kElementwise[] = {
     {"unitize", 78, kInteger}, {"ramp", 81, kInteger},
 };
 
-// Forms of one name stand together.
+// In the order of their names; of one name the form that is tried first.
 constexpr Named kNamed[] = {
     {"Accumulate", "Accumulate", "t", "t", true},
     {"Complement", "Complement", "ts", "t"},
@@ -62,6 +62,8 @@ constexpr Named kNamed[] = {
     {"Union", "Union", "t", "t"},
     {"Union", "Union", "ts", "t"},
 };
+
+static_assert(std::ranges::is_sorted(kNamed, {}, &Named::name)); // they are found by halving
 
 constexpr std::array<std::string_view, 6> kBuiltins = {"int", "real", "complex", "fill", "range", "size"};
 

@@ -18,11 +18,12 @@ struct Elementwise {
 const Elementwise *elementwiseFunction(std::string_view name);
 
 // Arguments, a letter each. Tensors marked * have one element type between them, the widest of what is given.
-//   t* tensor   M* tensor of rank 2 or more   v* vector   b* tensor of any rank   s* as the first, once or
-//   more often I tensor of int   X tensor of real   V vector of real   D matrix of real   n vector of int i
-//   int   r real   k int, passed as a tagged pair   e int, passed as a vector of one extent and two that a
-//   program does not write:   m 0   L the rank of the first less 1
-// Results: t as the first   d one rank less   f vector of its element   p ranks added, less 2   x its element
+//   t* tensor   M* of rank 2 or more   v* vector   b* of any rank   s* of the first one's, as often as wanted
+//   I tensor of int   n vector of int   X tensor of real   V vector of real   D matrix of real
+//   i int   r real   k int, passed as a tagged pair   e int, passed as a vector of one extent
+//   and two that a program does not write:   m 0   L the rank of the first less 1
+// Results:
+//   t as the first   d one rank less   f vector of its element   p ranks added, less 2   x its element
 //   n vector of int   N matrix of int   R vector of real   i int   r real   - nothing
 struct Named {
   std::string_view name, handler; // as it is written; as the registry calls it
