@@ -92,6 +92,8 @@ a_picture_that_cannot_be_had_is_refused)
 a_picture_that_cannot_be_written_is_reported)
   refused_as_bad 'no/such.pgm: No such file or directory' "$rings" no/such.pgm
   refused_as_bad '/dev/full: cannot be written: No space left on device' "$rings" /dev/full
+  # A small one is written when the file is closed, and not before.
+  picture 'P2 1 1 255 7' && refused_as_bad '/dev/full: cannot be written: No space left on device' t.pnm /dev/full
   ;;
 a_wrong_number_of_words_is_refused)
   wrong='12: a wrong number of arguments, or an unknown function'$'\n'"usage: $library INPUT OUTPUT [OPERATION [NUMBER]]..."
