@@ -17,6 +17,10 @@ the_volume_agrees_with_the_closed_form)
   ;;
 every_point_of_a_line_is_inside) agrees 1 4096 4096 && [ "$(tail -n 1 out | xargs)" = '4096 2.00000000 0.00000000 2.00000000' ] || fail "$(cat out)" ;;
 points_are_rounded_up_to_whole_blocks) agrees 3 65537 66560 && agrees 3 2048 2048 ;;
+the_volume_is_shown_at_each_doubling_and_at_the_end)
+  agrees 3 200000 200704
+  [ "$(awk 'NR > 2 { print $1 }' out | xargs)" = '65536 131072 200704' ] || fail "$(cat out)"
+  ;;
 the_same_seed_gives_the_same_answer_and_another_one_another)
   agrees 3 65536 65536 7 && mv out one
   agrees 3 65536 65536 7 && mv out same

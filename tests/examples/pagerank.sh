@@ -68,6 +68,7 @@ a_malformed_line_is_named)
 names_and_lines_that_are_too_long_are_refused)
   echo "a $(printf '%064d' 0)" >t.csv && refused_with "$bad" 'pagerank: t.csv:1: a name is longer than 63 bytes' t.csv
   echo "a $(printf '%063d' 0)" >t.csv && agrees t.csv
+  echo "$(printf '%064d' 0) a" >t.csv && refused_with "$bad" 'pagerank: t.csv:1: a name is longer than 63 bytes' t.csv
   printf '%01023d' 0 >t.csv && refused_with "$bad" 'pagerank: t.csv:1: the line is longer than 1022 bytes' t.csv
   ;;
 bytes_of_any_kind_do_no_harm)
