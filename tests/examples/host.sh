@@ -45,6 +45,7 @@ every_library_gets_its_own_words)
   told 0 $'[a][b]\n[c]\n[--style][0]' '' faulty.so a b -- faulty.so c -- faulty.so --style 0
   ;;
 a_library_is_found_by_its_path) told 0 '[x]' '' "$libraries/faulty.so" x ;;
+names_that_two_libraries_share_stay_each_ones_own) told 0 $'1\n2\n1' '' namesake_1.so -- namesake_2.so -- namesake_1.so ;;
 each_library_has_a_record_of_its_own)
   "$program" faulty.so bag >one || fail "exit status $?"
   told 0 "$(cat one one)" '' faulty.so bag -- faulty.so bag
