@@ -121,6 +121,14 @@ END
   prints t t.out
   [ "$(cat err)" = 't.tn:1:42: note: integers do not suffice; modulo runs again over reals' ] || fail "$(cat err)"
   ;;
+the_most_negative_integer_is_none)
+  printf 'fn least(): int { return -2147483647 - 1 }\nprint(least())\n' >t.tn
+  echo -2147483648 >t.out
+  compiled t.tn
+  prints t t.out
+  printf 't.tn:1:19: note: integers do not suffice; %s over reals\n' 'least runs again' 'the program runs again' >want
+  cmp -s err want || fail "$(cat err)"
+  ;;
 effects_happen_once)
   cat >t.tn <<'END'
 fn draw(): int { return RandomInteger(1, 1000000) }

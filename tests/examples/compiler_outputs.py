@@ -150,6 +150,7 @@ def integers_program():
     yield "dot 11 8 4 norm 5 digits 2 0 2 6"
     yield "shape 2 2 11 10 -3 -6 2 3 2 3 1"
     yield "stopped at 2"
+    yield "ranges 3 0"
 
 
 def large_sums_program():
