@@ -77,6 +77,9 @@ same_library() {
 }
 
 by_hosts_page() {
+  block 2 c "$source/docs/hosts.md" >library.c
+  run sh 1 docs/hosts.md
+  diff <("$build/examples/host" ./library.so 3 1 2) <(printf '1\n2\n3\n')
   same_library 1 pagerank "$source/examples/data/documents.links" 0.85 3
   same_library 2 ball 3 4096 7
 }
