@@ -95,6 +95,12 @@ nothing_is_left_of_a_program_in_error)
   printf 'let x = 1\nlet x = 2\n' >t.tn
   says t.tn "2:1: error: 'x' is defined twice"
   ;;
+complex_numbers_have_no_order)
+  for operator in '<' '<=' '>' '>='; do
+    echo "if 1i $operator 2 { print(1) }" >t.tn
+    says t.tn '1:7: error: complex numbers have no order'
+  done
+  ;;
 an_empty_program_does_nothing)
   : >t.tn
   : >t.out
