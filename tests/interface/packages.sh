@@ -39,12 +39,16 @@ done
 strange=$(holds $development | grep -vE "^(include/torvane/|lib/pkgconfig/torvane-rtl\.pc$|lib/cmake/TorvaneRTL/|share/torvane/|share/doc/$development/|lib/$library$)") || true
 [ -z "$strange" ] || fail "$development has $strange"
 
-# Each library that is loaded with this one is named by its package; the other package needs this one, of its version.
+# Each library that is loaded with this one is named by a package that holds it, or by what that provides; the other package
+# needs this one, of its version.
 depends=$(dpkg-deb -f ${runtime}_*.deb Depends | tr ',|' '\n\n' | awk '{ print $1 }')
 needed=$(readelf -d $runtime/usr/lib/$library.$version | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
 [ -n "$needed" ] || fail "the library needs nothing"
 for name in $needed; do
-  dpkg -S "*/$name" | sed -n 's/:.*//p' | grep -qxFf - <(echo "$depends") || fail "$runtime needs $name, but depends on" $depends
+  owners=$(dpkg -S "*/$name" | sed 's/: .*//')
+  [ -n "$owners" ] || fail "no package has $name"
+  dpkg-query -W -f '${Package}\n${Provides}\n' $owners | tr ',' '\n' | awk 'NF > 0 { print $1 }' |
+    grep -qxFf - <(echo "$depends") || fail "$runtime needs $name, but depends on" $depends
 done
 [ "$(dpkg-deb -f ${development}_*.deb Depends)" = "$runtime (= $version)" ] || fail "$development depends on something else"
 
