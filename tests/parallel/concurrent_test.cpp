@@ -4,6 +4,7 @@
 #include "pool_fixture.h"
 #include "runtime/memory.h"
 #include "support/on_thread.h"
+#include "support/sanitizers.h"
 #include <torvane/exception.hpp>
 
 #include <atomic>
@@ -16,7 +17,7 @@ namespace {
 
 using ConcurrentPool = PoolTest;
 
-#if defined(__SANITIZE_THREAD__) || defined(__SANITIZE_ADDRESS__)
+#if TORVANE_ADDRESS_SANITIZER || TORVANE_THREAD_SANITIZER
 constexpr int kRounds = 300;
 #else
 constexpr int kRounds = 3000;

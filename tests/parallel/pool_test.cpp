@@ -3,6 +3,7 @@
 #include "parallel/pool.h"
 #include "runtime/memory.h"
 #include "support/child_process.h"
+#include "support/sanitizers.h"
 #include <torvane/startup.h>
 
 #include <atomic>
@@ -172,7 +173,7 @@ TEST_F(Pool, ThreadsAskForAPriorityTwoStepsAboveTheirCreators) {
   EXPECT_EQ(niceOfThisThread(), own);
 }
 
-#if !defined(__SANITIZE_THREAD__) // which takes a thread that joins itself for a mistake of its own
+#if !TORVANE_THREAD_SANITIZER // which takes a thread that joins itself for a mistake of its own
 // A thread of a pool cannot join itself: the pool that it destroys has to stay, for it is still to be used.
 struct Destroying {
   ParallelPool *pool;
@@ -214,7 +215,7 @@ TEST_F(Pool, MoreWorkersThanProcessorsAreServed) {
   EXPECT_EQ(threadsStarted, 40);
 }
 
-#if !defined(__SANITIZE_THREAD__) // its run time cannot start a thread in a forked child
+#if !TORVANE_THREAD_SANITIZER // its run time cannot start a thread in a forked child
 TEST_F(Pool, ForkedChildMakesItsOwn) {
   visitWorkers();
   const ChildOutcome child = runInChild([] {

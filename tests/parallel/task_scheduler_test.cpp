@@ -2,6 +2,7 @@
 #include "parallel/task_scheduler.h"
 #include "runtime/platform_thread.h"
 #include "support/child_process.h"
+#include "support/sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +40,7 @@ TEST(ConcurrentTasks, ExceptionOfATaskComesOutOnceNoTaskRunsAnyMore) {
   EXPECT_EQ(running, 0);
 }
 
-#if !defined(TORVANE_TBB) && !defined(__SANITIZE_THREAD__) && !defined(__SANITIZE_ADDRESS__)
+#if !defined(TORVANE_TBB) && !TORVANE_THREAD_SANITIZER && !TORVANE_ADDRESS_SANITIZER
 // Sleeping tasks hold their stacks, so that a process without room for more is refused one of them.
 TEST(ConcurrentTasks, TaskThatCannotBeScheduledIsThePlatformsError) {
   const ChildOutcome child = runInChild([] {

@@ -3,6 +3,7 @@
 #include "runtime/memory.h"
 #include "support/heap_walker.h"
 #include "support/on_thread.h"
+#include "support/sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -19,12 +20,12 @@ namespace {
 
 #if !defined(NDEBUG)
 constexpr int kWalkEvery = 1;
-#elif defined(__SANITIZE_ADDRESS__)
+#elif TORVANE_ADDRESS_SANITIZER
 constexpr int kWalkEvery = 4;
 #else
 constexpr int kWalkEvery = 64;
 #endif
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(NDEBUG)
+#if TORVANE_ADDRESS_SANITIZER || TORVANE_THREAD_SANITIZER || !defined(NDEBUG)
 constexpr int kOperations = 1200;
 #else
 constexpr int kOperations = 60000;
