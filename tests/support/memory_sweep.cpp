@@ -2,6 +2,7 @@
 
 #include "child_process.h"
 #include "failing_heap.h"
+#include "heap_walker.h"
 #include "on_thread.h"
 #include "runtime/memory.h"
 
@@ -53,6 +54,8 @@ private:
 
   void expectKept(mint status, uint32_t before, const char *what) const {
     expect(usedBytesOfThisThread() == before + (status == 0 ? operation.keptBytes : 0), what);
+    const testing::AssertionResult valid = isValidHere();
+    expect(bool(valid), valid.message());
   }
 
   // A success in spite of a failure is one if the result is whole.
