@@ -134,16 +134,6 @@ TEST(LibraryData, FreeGivesBackAllThatTheRecordOwns) {
 void disturb() { setVectorParallelLengthThreshold(0, 1); }
 bool hasStarted() { return getVectorParallelLengthThreshold(0) == 32768; }
 
-// Start-up is once for a process.
-void inFreshProcess(void (*body)()) {
-  const ChildOutcome child = runInChild([body] {
-    body();
-    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
-  });
-  EXPECT_TRUE(child.exited);
-  EXPECT_EQ(child.status, 0) << child.output;
-}
-
 TEST(LibraryDataStart, FirstRecordStartsTheLibraryAndTheSecondDoesNot) {
   inFreshProcess([] {
     disturb();

@@ -20,7 +20,6 @@
 #include <barrier>
 #include <functional>
 #include <optional>
-#include <set>
 #include <thread>
 #include <vector>
 
@@ -126,19 +125,6 @@ TEST_F(ConcurrentHosts, EachGetWhatOneThreadAloneGets) {
   for (uint32_t round = 0; round < kRounds; ++round) runTogether([&](uint32_t host) { work(host, round); });
   EXPECT_EQ(getExceptionActive(), 0);
   expectNothingLeft();
-}
-
-TEST(ConcurrentStreams, GetNumbersThatNobodyElseGets) {
-  constexpr size_t kEach = 128; // times the threads: all 1024 there are
-  std::vector<mint> numbers[kHosts];
-  runTogether([&](uint32_t host) {
-    for (size_t i = 0; i < kEach; ++i) numbers[host].push_back(PMT32_getNextIndex());
-  });
-  std::set<mint> all;
-  for (const std::vector<mint> &some : numbers) all.insert(some.begin(), some.end());
-  EXPECT_EQ(all.size(), kEach * kHosts);
-  EXPECT_EQ(*all.begin(), 0);
-  EXPECT_EQ(*all.rbegin(), 1023);
 }
 
 constexpr mint kBeside[] = {0, 1};

@@ -1,5 +1,7 @@
 #include "child_process.h"
 
+#include <gtest/gtest.h>
+
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -49,6 +51,15 @@ ChildOutcome runInChild(const std::function<void()> &body, LongWaits waits) {
   outcome.exited = WIFEXITED(status);
   outcome.status = outcome.exited ? WEXITSTATUS(status) : WTERMSIG(status);
   return outcome;
+}
+
+void inFreshProcess(const std::function<void()> &body) {
+  const ChildOutcome child = runInChild([&body] {
+    body();
+    _exit(testing::Test::HasFailure() ? 1 : 0);
+  });
+  EXPECT_TRUE(child.exited);
+  EXPECT_EQ(child.status, 0) << child.output;
 }
 
 } // namespace torvane::test

@@ -19,4 +19,7 @@ struct ChildOutcome {
 enum class LongWaits { passedOver, inFull };
 ChildOutcome runInChild(const std::function<void()> &body, LongWaits waits = LongWaits::passedOver);
 
+// Runs a test's body, whose failures are the test's, where it can do what a process does only once.
+void inFreshProcess(const std::function<void()> &body);
+
 } // namespace torvane::test
