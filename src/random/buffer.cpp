@@ -50,6 +50,11 @@ RandomGenerator *newSource(RandomSeed seed, void *state) {
   return source;
 }
 
+void deleteWithSource(RandomGenerator *outer) {
+  RandomGenerator_deleteGeneric(bufferOf(outer)->source);
+  RandomBuffer_delete(outer);
+}
+
 } // namespace torvane
 
 using namespace torvane;

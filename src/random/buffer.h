@@ -18,4 +18,7 @@ template <class State> State *sourceState(const RandomGenerator *outer) {
 // An inner generator: nothing draws from it but the fill of its buffer.
 RandomGenerator *newSource(RandomSeed seed, void *state);
 
+// The end of a buffered generator and its source, whose state is the method's to free before.
+void deleteWithSource(RandomGenerator *outer);
+
 } // namespace torvane

@@ -162,13 +162,10 @@ RandomGenerator *CA5BufferState_clone(RandomGenerator *generator) {
 }
 
 void CA5BufferState_free(RandomGenerator *generator) {
-  RandomBuffer *buffer = bufferOf(generator);
-  auto *state = static_cast<CA5State *>(buffer->source->state);
+  auto *state = sourceState<CA5State>(generator);
   torvane::free(state->rows);
   torvane::free(state);
-  RandomGenerator_deleteGeneric(buffer->source);
-  buffer->source = nullptr;
-  RandomBuffer_delete(generator);
+  deleteWithSource(generator);
 }
 
 mint CA5State_checkParameters(mint width, mint step, mint offset) {

@@ -134,11 +134,8 @@ RandomGenerator *MersenneTwister_clone(RandomGenerator *generator) {
 }
 
 void MersenneTwister_free(RandomGenerator *generator) {
-  RandomBuffer *buffer = bufferOf(generator);
-  auto *state = static_cast<MersenneTwisterState *>(buffer->source->state);
+  auto *state = sourceState<MersenneTwisterState>(generator);
   torvane::free(state->words);
   torvane::free(state);
-  RandomGenerator_deleteGeneric(buffer->source);
-  buffer->source = nullptr;
-  RandomBuffer_delete(generator);
+  deleteWithSource(generator);
 }

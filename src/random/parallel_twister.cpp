@@ -145,13 +145,10 @@ RandomGenerator *PMT32_clone(RandomGenerator *generator) {
 }
 
 void PMT32_free(RandomGenerator *generator) {
-  RandomBuffer *buffer = bufferOf(generator);
-  auto *state = static_cast<PMT32State *>(buffer->source->state);
+  auto *state = sourceState<PMT32State>(generator);
   torvane::free(state->state);
   torvane::free(state);
-  RandomGenerator_deleteGeneric(buffer->source);
-  buffer->source = nullptr;
-  RandomBuffer_delete(generator);
+  deleteWithSource(generator);
 }
 
 mint PMT32_checkParameters(mint stream) { return static_cast<uint32_t>(stream) < kStreamCount ? 1 : 0; }
