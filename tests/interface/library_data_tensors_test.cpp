@@ -206,8 +206,16 @@ TEST_F(RecordTensors, ElementsOfAnotherTypeGiveOneAndPositionsOutsideThree) {
       for (mint i = 0; i < 6; ++i)
         EXPECT_EQ(statusesAt(record, tensor, at)[size_t(i)], i % 3 + 2 == type ? 0 : 1);
     MTensor_initialize(tensor, 1);
-    for (const Positions &at :
-         {Positions{0, 1}, {1, 0}, {3, 1}, {1, 4}, {-3, 1}, {1, -4}, {INT32_MIN, 1}, {1, INT32_MAX}}) {
+    for (const Positions &at : {Positions{0, 1},
+                                {1, 0},
+                                {2, 0},
+                                {3, 1},
+                                {1, 4},
+                                {-3, 1},
+                                {1, -4},
+                                {2, -4},
+                                {INT32_MIN, 1},
+                                {1, INT32_MAX}}) {
       for (mint i = 0; i < 6; ++i)
         EXPECT_EQ(statusesAt(record, tensor, at)[size_t(i)], i % 3 + 2 == type ? 3 : 1) << at[0];
       mint offset = 77;

@@ -164,15 +164,17 @@ TEST_F(ConcurrentMap, CodeOfTheSmallestFailingIndexIsTheResult) {
     }
 }
 
+// So the tasks show where they begin: at multiples of 64.
 TEST_F(ConcurrentMap, RaiseEndsItsTaskAndNoOther) {
-  fill(8192);
-  const auto task = static_cast<int64_t>(taskSize());
-  raising = {10, task - 1};
-  EXPECT_EQ(map(raiseAt), 10);
-  for (int64_t i = 0; i < 10; ++i) ASSERT_EQ(target[static_cast<size_t>(i)], function(i));
-  for (int64_t i = 10; i < task; ++i) ASSERT_EQ(target[static_cast<size_t>(i)], kUnwritten);
-  for (int64_t i = task; i < 8192; ++i) ASSERT_EQ(target[static_cast<size_t>(i)], function(i));
-  EXPECT_EQ(task % 64, 0);
+  for (const int64_t count : {8192, 8193, 9001}) {
+    fill(static_cast<size_t>(count));
+    const auto task = static_cast<int64_t>(taskSize());
+    EXPECT_EQ(task % 64, 0);
+    raising = {10, task - 1};
+    EXPECT_EQ(map(raiseAt), 10);
+    for (int64_t i = 0; i < count; ++i)
+      ASSERT_EQ(target[static_cast<size_t>(i)], i >= 10 && i < task ? kUnwritten : function(i)) << i;
+  }
 }
 
 TEST_F(ConcurrentMap, CodeZeroCountsAsNone) {

@@ -90,6 +90,28 @@ TEST_F(ShortPool, OfSomeThreadsIsServedByThemAndItsCaller) {
   }
 }
 
+// Without memory for the start of a thread.
+const ProcessHeap kNoStarts = [] {
+  ProcessHeap heap = platformProcessHeap;
+  heap.take = [](size_t bytes) { return bytes < 64 ? nullptr : platformProcessHeap.take(bytes); };
+  return heap;
+}();
+
+TEST_F(ShortPool, HasNoMoreWorkersThanAMachineHasWhateverIsAsked) {
+  setWorkerCount(INT32_MAX);
+  processHeap = &kNoStarts;
+  mint workers = 0;
+  const auto prepare = [](void *closure, ParallelPool *pool) {
+    *static_cast<mint *>(closure) = ParallelPool_workerCount(pool);
+  };
+  parallelLoop(
+      &workers, prepare, [](void *, ParallelWorker *) {}, 0, 10, 1, nullptr);
+  processHeap = &platformProcessHeap;
+  EXPECT_EQ(workers, 4096);
+  tearDownPool();
+  EXPECT_TRUE(isValidHere());
+}
+
 // A thread that was refused is not asked for again until the count changes.
 TEST_F(ShortPool, GetsItsThreadsOnceItIsMadeAnew) {
   warmUp();

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <set>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace torvane::test {
 namespace {
@@ -111,8 +112,10 @@ TEST_F(Pool, ReturnsAllItsMemory) {
   const uint32_t before = usedBytesOfThisThread();
   for (const mint workers : {1, 2, 7}) {
     setWorkerCount(workers);
-    loopOver(0, 100, 1, [](ParallelWorker *) {});
-    EXPECT_GT(usedBytesOfThisThread(), before);
+    addWorkerStartHook(countStart);
+    const uint32_t withHook = usedBytesOfThisThread();
+    runLoop();
+    EXPECT_GT(usedBytesOfThisThread(), withHook);
     tearDownPool();
     EXPECT_EQ(usedBytesOfThisThread(), before);
   }
@@ -232,6 +235,34 @@ TEST_F(Pool, ForkedChildMakesItsOwn) {
   EXPECT_EQ(child.status, 42);
   EXPECT_EQ(visitWorkers(), 0) << "the parent's is as it was";
   EXPECT_EQ(threadsStarted, 3);
+}
+
+// The thread that forks is just making a pool: to the child it looks as if somebody else went on with that.
+ProcessHeap forkingHeap = platformProcessHeap;
+ChildOutcome forkedMeanwhile;
+void *takeAndFork(size_t bytes) {
+  processHeap = &platformProcessHeap;
+  forkedMeanwhile = runInChild([] {
+    alarm(60); // for a child that waits for the other one
+    std::atomic<int> indices{0};
+    loopOver(0, 3, 1, [&](ParallelWorker *worker) {
+      indices += ParallelWorker_last(worker) - ParallelWorker_first(worker);
+    });
+    if (indices == 3) endProcess(42);
+  });
+  return platformProcessHeap.take(bytes);
+}
+
+TEST_F(Pool, ChildThatIsForkedWhileAPoolIsMadeMakesItsOwn) {
+  runLoop();
+  setWorkerCount(2);
+  forkingHeap.take = takeAndFork; // by the start of the new pool's first thread
+  processHeap = &forkingHeap;
+  forkedMeanwhile = {};
+  runLoop();
+  EXPECT_EQ(processHeap.load(), &platformProcessHeap);
+  EXPECT_TRUE(forkedMeanwhile.exited);
+  EXPECT_EQ(forkedMeanwhile.status, 42);
 }
 #endif
 

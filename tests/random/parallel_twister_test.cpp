@@ -149,7 +149,7 @@ TEST(ParallelTwister, NumbersOfAProcessBeginAt0AndGoAround) {
 }
 
 TEST(ParallelTwisterThreads, NumbersAreHandedOutOnceEachInTurn) {
-  constexpr int kTakers = 4, kTurns = 100;
+  constexpr int kTakers = 4, kTurns = 2000;
   const mint first = PMT32_getNextIndex();
   std::vector<std::vector<int>> taken(kTakers, std::vector<int>(1024));
   std::barrier start(kTakers);

@@ -75,6 +75,25 @@ TEST_F(RandomThreads, ThreadsHaveSmallNumbersThatAreUsedAgain) {
   EXPECT_EQ(numbers.size(), 1u);
 }
 
+// What the exit hook gives back is another thread's from then on, also where the first one goes on.
+TEST_F(RandomThreads, ThreadThatAsksAgainAfterItsHooksGetsAnotherNumber) {
+  onThread([] {
+    const mint number = threadNumber();
+    releaseThreadNumber();
+    std::atomic<mint> taken{-1};
+    std::atomic<bool> done{false};
+    std::thread other([&] {
+      taken = threadNumber();
+      while (!done) std::this_thread::yield();
+    });
+    while (taken == -1) std::this_thread::yield();
+    EXPECT_EQ(taken, number);
+    EXPECT_NE(threadNumber(), number);
+    done = true;
+    other.join();
+  });
+}
+
 TEST_F(RandomThreads, ThreadNumbersOfThreadsThatLiveTogetherDiffer) {
   std::atomic<int> asked{0};
   std::vector<mint> numbers(6);

@@ -54,7 +54,7 @@ TEST(AreaStore, GivesEverythingBackWhenItIsEmptied) {
 }
 
 // Ten threads that live at once keep five times what the store may.
-TEST(AreaStore, KeepsNoMoreThanItsBound) {
+TEST(AreaStore, KeepsNoMoreThanItsBoundWhenManyThreadsEnd) {
   ensureThreadHeap();
   constexpr uint32_t kBlock = 1u << 20;
   constexpr int kThreads = 10, kBlocks = int(kMaxKeptBytes / kBlock) / 2;
@@ -72,7 +72,8 @@ TEST(AreaStore, KeepsNoMoreThanItsBound) {
   const int64_t before = heap.requests();
   onThread([] {
     std::vector<void *> blocks;
-    for (uint32_t i = 0; i < 2 * kMaxKeptBytes / kBlock; ++i) blocks.push_back(allocate(kBlock - 100, 0, kFatal));
+    for (uint32_t i = 0; i < 2 * kMaxKeptBytes / kBlock; ++i)
+      blocks.push_back(allocate(kBlock - 100, 0, kFatal));
     for (void *block : blocks) free(block);
   });
   EXPECT_GE(heap.requests() - before, int64_t(kMaxKeptBytes / kBlock)) << "half of them found no stored area";
@@ -89,7 +90,9 @@ TEST(AreaStore, IsEmptyAfterATearDown) {
       return ++out, platformProcessHeap.takeAligned(bytes, to);
     };
     counting.give = [](void *block) { out -= block != nullptr, platformProcessHeap.give(block); };
-    counting.giveAligned = [](void *block) { out -= block != nullptr, platformProcessHeap.giveAligned(block); };
+    counting.giveAligned = [](void *block) {
+      out -= block != nullptr, platformProcessHeap.giveAligned(block);
+    };
     processHeap = &counting;
     onThread(useEverySize);
     tearDownMemory();

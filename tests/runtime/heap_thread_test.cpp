@@ -1,4 +1,5 @@
 // Blocks that cross threads, threads that end, and heaps that outlive them.
+#include "runtime/heap_remote.h"
 #include "runtime/heap_slab.h"
 #include "runtime/heap_state.h"
 #include "runtime/memory.h"
@@ -118,10 +119,11 @@ TEST(RemoteFree, MixesTheBoxAndTheListsOfManySlabs) {
 
 // More cells than a box holds, and cells for which there is no box: both come home all the same.
 TEST(RemoteFree, ReachesTheOwnerWithAFullBoxAndWithoutOne) {
+  constexpr uint32_t kCells = kBoxCells + 124;
   for (const bool noMemory : {false, true}) {
     onThread([&] {
       const uint32_t used = usedBytesOfThisThread();
-      std::vector<void *> blocks(3 * 126);
+      std::vector<void *> blocks(kCells);
       for (void *&block : blocks) block = allocate(40, 0, kFatal);
       onThread([&] {
         FailingHeap heap;
@@ -129,7 +131,7 @@ TEST(RemoteFree, ReachesTheOwnerWithAFullBoxAndWithoutOne) {
         for (void *block : blocks) free(block);
         EXPECT_EQ(heap.failed(), noMemory);
       });
-      EXPECT_EQ(sumOf(2), 40u * 3 * 126);
+      EXPECT_EQ(sumOf(2), 40 * kCells);
       EXPECT_TRUE(isValidHere());
       free(allocate(40, 0, kFatal));
       EXPECT_EQ(usedBytesOfThisThread(), used);
@@ -213,8 +215,11 @@ TEST(ThreadEnd, LeavesLiveBlocksValidForAnyThreadToFree) {
   }
 }
 
+// And gives back what it was kept in.
 TEST(ThreadEnd, ReclaimsWhatOthersHaveFreed) {
   const uint32_t heaps = heapCount();
+  FailingHeap heap;
+  const int64_t tables = pageMapTables();
   onThread([] {
     void *small = allocate(100, 0, kFatal), *big = allocate(5000, 0, kFatal),
          *large = allocate(100000, 0, kFatal);
@@ -224,6 +229,26 @@ TEST(ThreadEnd, ReclaimsWhatOthersHaveFreed) {
       free(large);
     });
   });
+  EXPECT_EQ(heap.blocksOut(), pageMapTables() - tables);
+  EXPECT_EQ(heapCount(), heaps);
+}
+
+// The counters have 32 bits: with more memory than that in slabs, freeBytes may be 0.
+TEST(ThreadEnd, LeavesAHeapThatHasSlabsWhateverItsCounterSays) {
+  const uint32_t heaps = heapCount();
+  void *block = nullptr;
+  ThreadHeap *heap = nullptr;
+  uint32_t freeBytes = 0;
+  onThread([&] {
+    block = allocate(100, 0, kFatal);
+    heap = threadHeap;
+    freeBytes = freeBytesOf(heap);
+    heap->heldBytes -= freeBytes;
+  });
+  ASSERT_EQ(heapCount(), heaps + 1);
+  heap->heldBytes += freeBytes;
+  EXPECT_TRUE(isValidState());
+  free(block);
   EXPECT_EQ(heapCount(), heaps);
 }
 
@@ -319,7 +344,7 @@ TEST(Orphan, TakesBlocksBackWhileItsThreadEnds) {
 }
 
 // Statistics walk the list and every lock while heaps come and go.
-TEST(Orphan, MayEndWhileStatisticsAreTaken) {
+TEST(Orphan, MayEndWhileAnotherThreadTakesStatistics) {
   std::atomic<bool> done{false};
   std::thread reporter([&] {
     while (!done) {

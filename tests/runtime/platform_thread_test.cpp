@@ -2,6 +2,7 @@
 #include "runtime/platform_thread.h"
 #include "support/child_process.h"
 #include "support/failing_heap.h"
+#include "support/sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -54,22 +55,23 @@ TEST(ConcurrentSignal, TurnsPassBetweenSleepers) { playTurns(0, 2000); }
 TEST(ConcurrentSignal, TurnsPassBetweenWatchers) { playTurns(100000, 2000); }
 TEST(ConcurrentSignal, TurnsPassBetweenThreadsThatFallAsleepMeanwhile) { playTurns(500, 2000); }
 
-TEST(ConcurrentSignal, SleeperIsSeenAndWoken) {
+TEST(ConcurrentSignal, SleeperIsSeenAndWokenOnceASet) {
   Lock lock;
   Signal signal;
-  std::atomic<bool> woken{false};
+  std::atomic<int> waits{0};
   std::thread sleeper([&] {
     const LockGuard<Lock> guard(lock);
-    signal.wait(lock, 0);
-    woken = true;
+    for (int i = 0; i < 3; ++i, ++waits) signal.wait(lock, 0);
   });
-  while (!signal.hasSleeper()) std::this_thread::yield();
-  EXPECT_FALSE(woken);
-  EXPECT_TRUE(lock.tryEnter()) << "the wait has left the lock";
-  lock.leave();
-  signal.set();
+  for (int sets = 0; sets < 3; ++sets) {
+    while (!signal.hasSleeper() && waits == sets) std::this_thread::yield();
+    EXPECT_EQ(waits, sets) << "a wait resets the signal, so that the next one sleeps";
+    EXPECT_TRUE(lock.tryEnter()) << "the wait has left the lock";
+    lock.leave();
+    signal.set();
+    while (waits == sets) std::this_thread::yield();
+  }
   sleeper.join();
-  EXPECT_TRUE(woken);
 }
 
 struct Seen {
@@ -123,6 +125,28 @@ TEST(ConcurrentThreads, ThreadIsRefusedWithoutMemory) {
   heap.succeed();
   EXPECT_EQ(heap.blocksOut(), 0);
 }
+
+#if !TORVANE_ADDRESS_SANITIZER && !TORVANE_THREAD_SANITIZER // whose run times need more than the limit leaves
+// Threads hold their stacks, so that a process without room for more is refused one of them.
+TEST(ConcurrentThreads, ThreadIsRefusedByTheSystem) {
+  inFreshProcess([] {
+    FailingHeap heap;
+    const rlimit none = {1, 1};
+    setrlimit(RLIMIT_AS, &none);
+    std::atomic<bool> done{false};
+    const auto wait = [](void *until) {
+      while (!*static_cast<std::atomic<bool> *>(until)) sleepMilliseconds(1);
+    };
+    ThreadHandle threads[64];
+    size_t count = 0;
+    while (count < 64 && startThread(&threads[count], wait, &done, kNormalPriority)) ++count;
+    EXPECT_LT(count, 64u);
+    done = true;
+    for (size_t i = 0; i < count; ++i) EXPECT_TRUE(joinThread(threads[i]));
+    EXPECT_EQ(heap.blocksOut(), 0);
+  });
+}
+#endif
 
 TEST(Processors, AreThoseThatTheProcessMayRunOn) {
   EXPECT_GE(systemProcessorCount(), 1);
