@@ -107,7 +107,7 @@ TEST_F(GeneratorMemory, OfASavedSetAndOfTheClonesBehindItIsNeeded) {
       RandomGeneratorSnapshot_activate(saved);
     };
     const auto isBack = [&, isSeeded] { return (within != expected) == isSeeded && draw() == expected; };
-    expectFatalWherever({isSeeded ? "seed in a block" : "draw in a block", 12, useBlock, isBack});
+    expectFatalWherever({isSeeded ? "seed in a block" : "draw in a block", 6, useBlock, isBack});
   }
 }
 
