@@ -3,6 +3,7 @@
 #include "repetition.h"
 #include "result_types.h"
 #include <torvane/failure.h>
+#include <torvane/machfuncs.h>
 
 #include <algorithm>
 #include <array>
@@ -138,12 +139,69 @@ bool widenDivided(const UnaryPair &pair, mcomplex *result, const Division &divis
 
 bool isKnown(RealDomain domain) { return domain.low > kUnknownDomain.low; }
 
+// The complex root of a negative real is the root of its magnitude, on the imaginary axis: the real routine
+// alone serves both sides.
+bool isSquareRoot(const UnaryPair &pair) { return pair.complex == machfunc_c_sqrt; }
+
+// Where the pair is negative; a NaN is not.
+__m128d negativeOf(__m128d pair) { return _mm_cmplt_pd(pair, _mm_setzero_pd()); }
+
+// A block's results are a page, where the processor would begin anew to fetch ahead. Each of the two loops
+// over a block therefore asks for what the next loop works on: the lines of the result, then the next block's
+// operands.
+constexpr mint kComplexesALine = 4, kRealsALine = 8;
+
+// Negative elements become their magnitudes; whatever else keeps its bits. Yields the kinds of the results.
+mint takeMagnitudes(const mreal *x, mint count, mreal *magnitudes, const mcomplex *result) {
+  __m128d any = _mm_setzero_pd(), all = _mm_cmpeq_pd(any, any);
+  const auto take = [&](__m128d pair) {
+    const __m128d leaves = negativeOf(pair);
+    any = _mm_or_pd(any, leaves);
+    all = _mm_and_pd(all, leaves);
+    return _mm_xor_pd(pair, _mm_and_pd(leaves, _mm_set1_pd(-0.0)));
+  };
+  mint k = 0;
+  for (; count - k >= 2; k += 2) {
+    if (k % kComplexesALine == 0) __builtin_prefetch(result + k, 1);
+    _mm_storeu_pd(magnitudes + k, take(_mm_loadu_pd(x + k)));
+  }
+  if (k < count) _mm_store_sd(magnitudes + k, take(_mm_load1_pd(x + k)));
+  return (_mm_movemask_pd(all) != 3 ? TORVANE_TYPE_REAL : 0) |
+         (_mm_movemask_pd(any) != 0 ? TORVANE_TYPE_COMPLEX : 0);
+}
+
+void storeRoots(mcomplex *result, const mreal *x, const mreal *roots, mint count) {
+  mint k = 0;
+  for (; count - k >= 2; k += 2) {
+    if (k % kRealsALine == 0) __builtin_prefetch(x + k + kBlock);
+    const __m128d leaves = negativeOf(_mm_loadu_pd(x + k)), root = _mm_loadu_pd(roots + k);
+    const __m128d re = _mm_andnot_pd(leaves, root), im = _mm_and_pd(leaves, root);
+    _mm_storeu_pd(&result[k].re, _mm_unpacklo_pd(re, im));
+    _mm_storeu_pd(&result[k + 1].re, _mm_unpackhi_pd(re, im));
+  }
+  if (k < count) result[k] = x[k] < 0 ? mcomplex{0, roots[k]} : mcomplex{roots[k], 0};
+}
+
+// False when the real routine refuses something.
+bool widenRoots(const UnaryPair &pair, mcomplex *result, const mreal *x, mint count, mint flags,
+                mint *kinds) {
+  mreal magnitudes[kBlock], roots[kBlock];
+  const mint seen = takeMagnitudes(x, count, magnitudes, result);
+  if (pair.real(roots, magnitudes, count, kDense2, flags) != 0) return false;
+  storeRoots(result, x, roots, count);
+  *kinds |= seen;
+  return true;
+}
+
 // Each routine once over what is its own. When one refuses something, nothing is certain, and the attempts
 // find out.
 mint widenBlock(const UnaryPair &pair, mcomplex *result, const mreal *x, Range range, mint flags,
                 mint *kinds) {
-  Division division;
   const mreal *from = x + range.first;
+  if (isSquareRoot(pair) &&
+      widenRoots(pair, result + range.first, from, range.end - range.first, flags, kinds))
+    return range.end;
+  Division division;
   if (!isKnown(pair.domain) || !tellApart(pair.domain, from, range.end - range.first, &division) ||
       !widenDivided(pair, result + range.first, division, flags))
     return widenByAttempt(pair, result, x, range, flags, kinds);
