@@ -4,14 +4,11 @@
 // Of every call: the plain form raises only what both forms raise; the checked form raises what the plain one
 // does, else what the cell adds for the value; without a code both forms agree to the bit. Of every cell:
 // each of its codes is met, and so is success.
-#include "typed_call.h"
-
-#include "scalar/operator_traits.h"
+#include "typed_cells.h"
 
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
-#include <torvane/scalars.h>
 #include <vector>
 
 using namespace torvane;
@@ -74,15 +71,7 @@ private:
   std::set<std::pair<mint, mint>> seen;
 };
 
-// The most negative integer divided by -1 traps.
-template <class T> bool traps(const std::string &typed, T x, T y) {
-  if constexpr (isSigned<T>)
-    return (typed == "mod" || typed == "quotient") && isReserved(x) && y == T(-1);
-  else
-    return false;
-}
-
-// Codes that a cell lists and no value of the type brings about, with the reason.
+// Whether no value of the type brings about a code that the cell lists.
 bool isOutOfReach(const std::string &name, mint code);
 
 void expectMet(const Cell &cell) {
@@ -90,90 +79,26 @@ void expectMet(const Cell &cell) {
     EXPECT_TRUE(isOutOfReach(cell.name, code)) << cell.name << " never gives " << code;
 }
 
-template <class T, class Entry>
-[[gnu::noinline]] void checkUnary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain, Entry *checked) {
-  Cell cell(std::string("unary_") + typed + "_" + type, checksFor<T>(cells));
-  for (const T x : samples<T>()) ASSERT_NO_FATAL_FAILURE(cell.meet(call(plain, x), call(checked, x)));
-  expectMet(cell);
+Cell meetAll(const TypedCell &typed) {
+  Cell cell(typed.plain.name, typed.checks);
+  forEachSample(typed, [&](const Operands &operands) {
+    if (!testing::Test::HasFatalFailure())
+      cell.meet(call(typed.plain, operands), call(typed.checked, operands));
+  });
+  return cell;
 }
 
-template <class T, class Entry>
-[[gnu::noinline]] void checkBinary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain,
-                 Entry *checked) {
-  Cell cell(std::string("binary_") + typed + "_" + type, checksFor<T>(cells));
-  size_t turn = 0;
-  for (const T x : samples<T>())
-    for (const T y : secondSamples<T>(++turn))
-      if (!traps(typed, x, y)) ASSERT_NO_FATAL_FAILURE(cell.meet(call(plain, x, y), call(checked, x, y)));
-  expectMet(cell);
+void expectMet(std::span<const TypedCell> cells) {
+  for (const TypedCell &cell : cells) expectMet(meetAll(cell));
 }
 
-template <class T, class Entry>
-[[gnu::noinline]] void checkTernary(const char *typed, const char *type, const ClassChecks &cells, Entry *plain,
-                  Entry *checked) {
-  Cell cell(std::string("ternary_") + typed + "_" + type, checksFor<T>(cells));
-  const std::vector<T> all = samples<T>();
-  for (size_t k = 0; k < 40000; ++k) {
-    const T a = all[k % all.size()], x = all[k * 7 / 3 % all.size()], y = all[k * 11 / 5 % all.size()];
-    ASSERT_NO_FATAL_FAILURE(cell.meet(call(plain, a, x, y), call(checked, a, x, y)));
-  }
-  expectMet(cell);
-}
+TEST(Checks, OfEveryUnaryCellAreMetAndNoOthers) { expectMet(unaryCells()); }
+TEST(Checks, OfEveryBinaryCellAreMetAndNoOthers) { expectMet(binaryCells()); }
+TEST(Checks, OfEveryTernaryCellAreMetAndNoOthers) { expectMet(ternaryCells()); }
 
-#define ENTRIES(name) name, checked_##name
-
-TEST(Checks, OfEveryUnaryCellAreMetAndNoOthers) {
-  size_t next = 0;
-#define ONE(T, typed) checkUnary<T>(#typed, #T, row.checks, ENTRIES(unary_##typed##_##T));
-#define TORVANE_UNARY(family, number, typed, ...)                                                            \
-  {                                                                                                          \
-    const UnaryRow &row = table::kUnary[next++];                                                             \
-    TORVANE_FOR_EACH_SCALAR(ONE, typed)                                                                      \
-  }
-#include "scalar/operators.def"
-#undef ONE
-}
-
-TEST(Checks, OfEveryBinaryCellAreMetAndNoOthers) {
-  size_t next = 0;
-#define ONE(T, typed) checkBinary<T>(#typed, #T, row.checks, ENTRIES(binary_##typed##_##T##_##T));
-#define TORVANE_BINARY(family, number, typed, ...)                                                           \
-  {                                                                                                          \
-    const BinaryRow &row = table::kBinary[next++];                                                           \
-    TORVANE_FOR_EACH_SCALAR(ONE, typed)                                                                      \
-  }
-#include "scalar/operators.def"
-#undef ONE
-}
-
-TEST(Checks, OfEveryTernaryCellAreMetAndNoOthers) {
-  size_t next = 0;
-#define ONE(T, typed) checkTernary<T>(#typed, #T, row.checks, ENTRIES(ternary_##typed##_##T##_##T##_##T));
-#define TORVANE_TERNARY(family, typed, ...)                                                                  \
-  {                                                                                                          \
-    const TernaryRow &row = table::kTernary[next++];                                                         \
-    TORVANE_FOR_EACH_SCALAR(ONE, typed)                                                                      \
-  }
-#include "scalar/operators.def"
-#undef ONE
-}
-
-// Powers of two types stand in the cell of their result.
-template <class X, class Y, class Entry>
-[[gnu::noinline]] void checkPower(const char *x, const char *y, Entry *plain, Entry *checked) {
-  Cell cell(std::string("binary_pow_") + x + "_" + y, kChecks<binary::pow, X, Y>);
-  size_t turn = 0;
-  for (const X a : samples<X>())
-    for (const Y b : secondSamples<Y>(++turn))
-      ASSERT_NO_FATAL_FAILURE(cell.meet(call(plain, a, b), call(checked, a, b)));
-}
-
+// Powers of two types stand in the cell of their result, whose codes not every pair brings about.
 TEST(Checks, OfEveryPairOfAPowerAreThoseOfItsResult) {
-#define PAIR(X, Y) checkPower<X, Y>(#X, #Y, ENTRIES(binary_pow_##X##_##Y));
-#define ROW(X) TORVANE_FOR_EACH_SECOND_SCALAR(PAIR, X)
-  TORVANE_FOR_EACH_SCALAR(ROW)
-#undef ROW
-#undef PAIR
+  for (const TypedCell &cell : powerCells()) meetAll(cell);
 }
 
 // One row of the table of checks stands for a group of functions. Not each of them has a point outside its

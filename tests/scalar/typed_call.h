@@ -1,19 +1,13 @@
-// Typed entries called alike, whatever their conventions: samples of every scalar type that reach its edges,
-// and calls that hold what every entry promises.
-//
-// Result pointers lead to poisoned bytes: a call that raises leaves them, and the first comes back either
-// way. A code is pending before the call: one that succeeds leaves it.
+// What the walks over typed entries have in common: samples of every scalar type that reach its edges, and a
+// call of an entry whatever its convention.
 #pragma once
 
 #include "scalar/half.h"
 #include "scalar/scalar_types.h"
 
-#include <array>
 #include <cmath>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
-#include <torvane/failure.h>
 #include <tuple>
 #include <vector>
 
@@ -66,16 +60,6 @@ template <class T> std::vector<T> samples() {
   return values;
 }
 
-// Complex pairs of all samples are too many; a stride through them meets every value.
-template <class T> std::vector<T> secondSamples(size_t turn) {
-  const std::vector<T> all = samples<T>();
-  if (!isComplex<T>) return all;
-  std::vector<T> some;
-  for (size_t k = turn % 31; k < all.size(); k += 31) some.push_back(all[k]);
-  for (const T z : {T{}, all[2], all[10], all.back()}) some.push_back(z);
-  return some;
-}
-
 // ---- calls ----------------------------------------------------------------------------------------
 
 template <class T> auto partsOf(T x) {
@@ -101,59 +85,6 @@ R callInto(std::remove_pointer_t<R> *parts, R (*entry)(A...), T... x) {
     return std::apply(entry, arguments);
 }
 
-struct Called {
-  mint code = 0;
-  mint valueCode = 0; // 6 or 9 for an infinite or NaN value
-  std::array<unsigned char, 16> bytes = {};
-};
-
 inline mint valueCodeOf(double x) { return std::isnan(x) ? 9 : std::isinf(x) ? 6 : 0; }
-
-template <class P> void note(Called &called, const P *parts, size_t count) {
-  for (size_t k = 0; k < count; ++k) {
-    double value = 0;
-    if constexpr (std::is_same_v<P, uint16_t>)
-      value = double(widen(Real16{parts[k]}));
-    else if constexpr (std::is_floating_point_v<P>)
-      value = double(parts[k]);
-    if (called.valueCode == 0) called.valueCode = valueCodeOf(value);
-  }
-  std::memcpy(called.bytes.data(), parts, count * sizeof(P));
-}
-
-// The code that a call raises in style 1, 0 where it succeeds and leaves the pending code alone.
-template <class Call> mint codeBesidePending(Call call) {
-  constexpr mint pending = -77; // no code of the library
-  const mint outer = setExceptionActive(pending);
-  call();
-  const mint code = setExceptionActive(outer);
-  return code == pending ? 0 : code;
-}
-
-inline constexpr unsigned char kPoison = 0xA5;
-
-// Out of line: the walks call it for thousands of entries of few types.
-template <class R, class... A, class... T> [[gnu::noinline]] Called call(R (*entry)(A...), T... x) {
-  Called called;
-  if constexpr (std::is_pointer_v<R>) {
-    std::remove_pointer_t<R> parts[2];
-    unsigned char poison[sizeof parts];
-    std::memset(parts, kPoison, sizeof parts);
-    std::memset(poison, kPoison, sizeof poison);
-    called.code = codeBesidePending([&] { EXPECT_EQ(callInto(parts, entry, x...), parts); });
-    if (called.code == 0)
-      note(called, parts, std::is_same_v<R, uint16_t *> ? 1 : 2);
-    else
-      EXPECT_EQ(std::memcmp(parts, poison, sizeof parts), 0) << "code " << called.code << " stores";
-  } else {
-    R value = 0;
-    called.code = codeBesidePending([&] { value = callInto<R>(nullptr, entry, x...); });
-    if constexpr (std::is_same_v<R, uint16_t>)
-      std::memcpy(called.bytes.data(), &value, sizeof value);
-    else
-      note(called, &value, 1);
-  }
-  return called;
-}
 
 } // namespace torvane::test
