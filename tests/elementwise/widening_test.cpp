@@ -38,6 +38,26 @@ TEST(WideningUnary, IsTheLoopOverElementsForEveryOperator) {
   EXPECT_EQ(pairs, 46) << "operators with a real and a complex routine that store those";
 }
 
+// Pairs of elements and the last single one are told apart in different ways.
+TEST(WideningUnary, IsTheLoopOverElementsForEveryExtremeAtEveryPlace) {
+  for (mint op = 0; op < 85; ++op) {
+    UnaryPair pair;
+    if (!wideningPair(op, &pair)) continue;
+    for (const mreal extreme : {0.0, -0.0, HUGE_VAL, -HUGE_VAL, mreal(NAN), -mreal(NAN), 5e-324, -5e-324})
+      for (const mint count : {1, 2, 5})
+        for (mint place = 0; place < count; ++place)
+          for (const mreal other : {2.0, -2.0}) {
+            Reals x(size_t(count), other);
+            x[size_t(place)] = extreme;
+            const Looped looped = loopUnary(pair, x.data(), 0, count, 0);
+            Complexes result(size_t(count), kUnwritten);
+            SCOPED_TRACE(testing::Message() << "operator " << op << ": " << extreme << " at " << place);
+            ASSERT_EQ(widenUnary(pair, result.data(), x.data(), 0, count, 0), looped.outcome);
+            ASSERT_NO_FATAL_FAILURE(expectWritten(result.data(), 0, looped));
+          }
+  }
+}
+
 // What stands for a refusal without a call must be one.
 TEST(WideningUnary, OutsideTheKnownDomainTheRealRoutineRefuses) {
   const mint strides[2] = {1, 1};
