@@ -326,6 +326,64 @@ TEST_F(SparseFromTensor, ComparesComplexesPartByPart) {
   EXPECT_EQ(linesOf(slot), Lines({{2}, {3}}));
 }
 
+// The coordinates of an element, by its place in the tensor.
+std::vector<mint> coordinatesAt(const Extents &extents, size_t place) {
+  std::vector<mint> line(extents.size());
+  for (size_t k = extents.size(); k-- > 0; place /= size_t(extents[k]))
+    line[k] = 1 + mint(place % size_t(extents[k]));
+  return line;
+}
+
+template <class Element>
+void expectFound(const Extents &extents, const std::vector<Element> &dense, const Tensor &background,
+                 const std::vector<bool> &counts) {
+  MSparseArray *slot = nullptr;
+  ASSERT_EQ(MSparseArray_fromTensor(tensorOf(extents, dense).get(), background.get(), &slot), 0);
+  const Sparse owned(slot);
+  ASSERT_TRUE(isValidSparseArray(slot));
+  Lines lines;
+  std::vector<Element> values;
+  for (size_t i = 0; i < dense.size(); ++i)
+    if (counts[i]) lines.push_back(coordinatesAt(extents, i)), values.push_back(dense[i]);
+  ASSERT_EQ(linesOf(slot), lines);
+  expectSame(sparseValuesOf<Element>(slot), values);
+}
+
+// What equals the background and what does not, in any mixture from none to all.
+template <class Element>
+void expectFoundAmong(const std::vector<Element> &same, const std::vector<Element> &others,
+                      const Tensor &background) {
+  std::mt19937 random(31);
+  for (mint places = 1; places <= 200; ++places) {
+    const auto ofFour = random() % 5;
+    std::vector<Element> dense;
+    std::vector<bool> counts;
+    for (mint i = 0; i < places; ++i) {
+      counts.push_back(random() % 4 < ofFour);
+      const std::vector<Element> &from = counts.back() ? others : same;
+      dense.push_back(from[random() % from.size()]);
+    }
+    for (const Extents &extents : {Extents{places}, Extents{1, places}, Extents{places, 1}})
+      expectFound(extents, dense, background, counts);
+    for (const mint rows : {2, 3, 7})
+      if (places % rows == 0) {
+        expectFound(Extents{rows, places / rows}, dense, background, counts);
+        expectFound(Extents{places / rows, 1, rows}, dense, background, counts);
+      }
+    if (testing::Test::HasFatalFailure()) return;
+  }
+}
+
+TEST_F(SparseFromTensor, FindsTheElementsThatCountWhereverTheyStand) {
+  const mreal tiny = std::numeric_limits<mreal>::denorm_min(), ulp = std::ldexp(1.0, -52);
+  expectFoundAmong<mint>({0}, {1, -1, INT32_MIN, INT32_MAX, 1 << 16}, nothing);
+  expectFoundAmong<mint>({7}, {0, -7}, scalarTensor<mint>(7));
+  expectFoundAmong<mreal>({0.0, -0.0}, {tiny, -tiny, 1, kNaN, -kNaN, HUGE_VAL}, nothing);
+  expectFoundAmong<mreal>({0.0, -0.0}, {tiny, 1}, scalarTensor<mreal>(-0.0));
+  expectFoundAmong<mreal>({1, 1 + 30 * ulp}, {0, 1 + 200 * ulp, -1, kNaN}, scalarTensor<mreal>(1));
+  expectFoundAmong<mcomplex>({{0, 0}, {-0.0, 0}, {0, -0.0}}, {{tiny, 0}, {0, -tiny}, {kNaN, 0}}, nothing);
+}
+
 // ---- repetitions ----
 
 using SparseRepetitions = SparseContents;
