@@ -2,11 +2,11 @@
 #include "dot.h"
 
 #include "blas.h"
+#include "integer_dot.h"
 #include "plain_products.h"
 #include "plain_sums.h"
 
 #include <torvane/linalg.h>
-#include <torvane/machfuncs.h>
 #include <torvane/operators.h>
 
 namespace torvane {
@@ -53,11 +53,7 @@ mint VectorDot_R64(mreal *result, const mreal *x, mint incx, const mreal *y, min
 }
 
 mint VectorDot_I(mint *result, const mint *x, mint incx, const mint *y, mint incy, mint n, mint flags) {
-  const mint strides[] = {1, incx, incy};
-  mint dot = 0;
-  if (machfunc_ii_dot(&dot, startOf(x, incx, n), startOf(y, incy, n), n, strides, flags) != 0) return 1;
-  *result = dot;
-  return 0;
+  return integerDot(result, x, incx, y, incy, n, flags) ? 0 : 1;
 }
 
 mint VectorDot_CR64(mcomplex *result, const mcomplex *x, mint incx, const mcomplex *y, mint incy, mint n,

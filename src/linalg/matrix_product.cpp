@@ -11,6 +11,7 @@
 #include "../elementwise/reduction_loops.h"
 #include "../runtime/platform_cpu_level.h"
 #include "../scalar/magnitude.h"
+#include "integer_dot.h"
 #include "matrix_product_loops.h"
 
 #include <torvane/machfuncs.h>
@@ -32,12 +33,8 @@ const torvane_loops::ProductLoops &loops() {
 
 // By the dot products themselves, in their order.
 bool rowByDots(mint *result, const mint *a, const mint *b, mint k, mint n, mint flags) {
-  const mint strides[] = {1, 1, n};
-  for (mint j = 0; j < n; ++j) {
-    mint sum;
-    if (machfunc_ii_dot(&sum, a, b + j, k, strides, flags) != 0) return false;
-    result[j] = sum;
-  }
+  for (mint j = 0; j < n; ++j)
+    if (!integerDot(result + j, a, 1, b + j, n, k, flags)) return false;
   return true;
 }
 

@@ -7,6 +7,7 @@
 #include "parallel/four_workers.h"
 
 #include <torvane/linalg.h>
+#include <torvane/machfuncs.h>
 
 #include <gtest/gtest.h>
 
@@ -173,6 +174,36 @@ TEST(VectorDot, OfIntegersIsExactOrFailsWhereACheckedSumDoes) {
   }
   EXPECT_GT(failures, 1000);
   EXPECT_LT(failures, 19000);
+}
+
+// Short ones have a loop of their own.
+TEST(VectorDot, OfIntegersIsTheVectorRoutineAtEveryLength) {
+  const std::vector<mint> bounds = {INT32_MIN, -INT32_MAX, -65536, -46341, -2,    -1,
+                                    0,         1,          2,      46340,  65536, INT32_MAX};
+  Samples samples(9);
+  int failures = 0, rounds = 0;
+  for (mint n = 0; n <= 60; ++n)
+    for (mint round = 0; round < 300; ++round) {
+      std::vector<mint> x(size_t(n) * 5 + 1), y = x;
+      const mint rare = 1 + samples.below(2 * n + 2);
+      for (mint &one : x)
+        one = samples.below(rare) == 0 ? bounds[size_t(samples.below(12))] : samples.bits(9);
+      for (mint &one : y) one = samples.bits(samples.below(rare) == 0 ? 31 : 4);
+      const mint incx = kStrides[samples.below(6)], incy = kStrides[samples.below(6)];
+      const mint strides[] = {1, incx, incy}, startX = incx < 0 && n > 0 ? (1 - n) * incx : 0,
+                 startY = incy < 0 && n > 0 ? (1 - n) * incy : 0;
+      for (const mint flags : {0, 4, kChecks}) {
+        mint dot = 77, expected = 77;
+        const bool fails =
+            machfunc_ii_dot(&expected, x.data() + startX, y.data() + startY, n, strides, flags) != 0;
+        ASSERT_EQ(VectorDot_I(&dot, x.data(), incx, y.data(), incy, n, flags), mint(fails)) << n;
+        ASSERT_EQ(dot, fails ? 77 : expected) << n << " at " << incx << ", " << incy;
+        failures += fails;
+        ++rounds;
+      }
+    }
+  EXPECT_GT(failures, rounds / 20);
+  EXPECT_LT(failures, rounds / 2);
 }
 
 // ---- loops for builds without a BLAS ----------------------------------------------------------------
