@@ -62,6 +62,7 @@ constexpr int kMostVectors = 2;
 // Rows of a tile of reals: as many as the registers hold beside the operands, since the ends of a tile cost
 // as much as several steps of its sums.
 constexpr int kMostRows = 14;
+constexpr int kMostNarrowRows = 8; // of one short vector: the addresses of more of them fill the registers
 constexpr int mostRows(int vectors) {
   constexpr int kRegisters = kMostVectors == 4 ? 32 : 16;
   const int rows = (kRegisters - 2) / vectors - 1;
@@ -74,7 +75,10 @@ template <class T, int length, int most, template <class> class RowVector = Whol
   using Vector = Lanes<T, length>;
   using Row = RowVector<Vector>;
   static constexpr int kLength = length, kWords = 1, kMost = most;
-  static constexpr int rowsBeside(int vectors) { return isSame<T, mreal> ? mostRows(vectors) : 4; }
+  static constexpr int rowsBeside(int vectors) {
+    if (!isSame<T, mreal>) return 4;
+    return isSame<Row, Whole<Vector>> ? mostRows(vectors) : kMostNarrowRows;
+  }
   struct Factor {
     T word;
     explicit Factor(const T *from) : word(*from) {}
@@ -147,27 +151,27 @@ __attribute__((always_inline)) inline void unrolled(const Body &body) {
   }
 }
 
-// The elements of `rows` rows from `row` on, in `vectors` vectors at the given offsets in words. Yields their
-// sum, lane by lane.
+// The elements of one tile, from a row and a column on, in words. From one vector to the next it is a
+// vector's length, and `last` from the first to the last one. Adds its elements to those of `all`, lane by
+// lane.
 template <class Kind, int rows, int vectors>
-typename Kind::Vector runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets) {
+inline __attribute__((always_inline)) typename Kind::Vector runTile(const Matrices<Kind> &at, ptrdiff_t row,
+                                                                    ptrdiff_t column, ptrdiff_t last) {
   using Vector = typename Kind::Vector;
+  constexpr int kStep = Kind::kLength * Kind::kWords;
   const ptrdiff_t k = at.k, n = at.n;
-  const typename Kind::Word *a = at.a + row * k, *columns[vectors];
-  typename Kind::Word *to[vectors];
-  Vector sums[rows][vectors], of[vectors], all[vectors];
-  unrolled<vectors>([&](auto v) {
-    columns[v] = at.b + offsets[v];
-    to[v] = at.result + row * n + offsets[v];
-    all[v] = Vector{};
-    unrolled<rows>([&](auto r) { sums[r][v] = Vector{}; });
-  });
+  const typename Kind::Row vector = at.row; // its lanes would be read again behind each store
+  const typename Kind::Word *a = at.a + row * k, *b = at.b + column;
+  typename Kind::Word *to = at.result + row * n + column;
+  asm(""
+      : "+r"(a), "+r"(b), "+r"(to)); // else the addresses of all rows are made ahead of the walk, and spilled
+  const auto offset = [last](int v) { return v > 0 && v == vectors - 1 ? last : ptrdiff_t{v} * kStep; };
+  Vector sums[rows][vectors], of[vectors], all[4] = {};
+  unrolled<vectors>([&](auto v) { unrolled<rows>([&](auto r) { sums[r][v] = Vector{}; }); });
   ptrdiff_t p = 0;
   do {
-    unrolled<vectors>([&](auto v) {
-      of[v] = at.row.load(columns[v]);
-      columns[v] += n;
-    });
+    unrolled<vectors>([&](auto v) { of[v] = vector.load(b + offset(v)); });
+    b += n;
     unrolled<rows>([&](auto r) {
       const typename Kind::Factor factor(a + r * k + p);
       unrolled<vectors>([&](auto v) { sums[r][v] += factor.times(of[v]); });
@@ -175,84 +179,101 @@ typename Kind::Vector runTile(const Matrices<Kind> &at, ptrdiff_t row, const ptr
   } while ((p += Kind::kWords) < k);
   unrolled<rows>([&](auto r) {
     unrolled<vectors>([&](auto v) {
-      at.row.store(to[v], sums[r][v]);
-      to[v] += n;
-      all[v] += sums[r][v];
+      vector.store(to + offset(v), sums[r][v]);
+      all[(r * vectors + v) % 4] += sums[r][v]; // one sum would wait for itself
     });
+    to += n;
   });
-  for (int v = 1; v < vectors; ++v) all[0] += all[v];
-  return all[0];
+  return (all[0] + all[1]) + (all[2] + all[3]);
+}
+
+// Tiles of one shape, `count` of them down the rows or along the columns. Yields the sum of their elements,
+// lane by lane.
+template <class Kind, int rows, int vectors>
+typename Kind::Vector runTiles(const Matrices<Kind> &at, ptrdiff_t row, ptrdiff_t column, ptrdiff_t last,
+                               ptrdiff_t count, bool isDown) {
+  typename Kind::Vector all = {};
+  for (;;) {
+    asm("" : "+m"(all)); // the registers are the tile's
+    all += runTile<Kind, rows, vectors>(at, row, column, last);
+    if (--count == 0) return all;
+    (isDown ? row : column) += isDown ? rows : vectors * Kind::kLength * Kind::kWords;
+  }
 }
 
 // Tiles by vectors and rows, up to as many as the registers hold.
 template <class Kind>
-using Tile = typename Kind::Vector (*)(const Matrices<Kind> &at, ptrdiff_t row, const ptrdiff_t *offsets);
+using Tiles = typename Kind::Vector (*)(const Matrices<Kind> &at, ptrdiff_t row, ptrdiff_t column,
+                                        ptrdiff_t last, ptrdiff_t count, bool isDown);
 template <class Kind> struct TilesOf {
   ptrdiff_t mostRows;
-  Tile<Kind> byRows[kMostRows];
+  Tiles<Kind> byRows[kMostRows];
 };
 
-template <class Kind, int rows, int vectors> constexpr Tile<Kind> tileOf() {
+template <class Kind, int rows, int vectors> constexpr Tiles<Kind> tilesOf() {
   if constexpr (vectors <= Kind::kMost && rows <= Kind::rowsBeside(vectors))
-    return runTile<Kind, rows, vectors>;
+    return runTiles<Kind, rows, vectors>;
   else
     return nullptr;
 }
 template <class Kind, int vectors>
 constexpr TilesOf<Kind> kTilesOf = {
     Kind::rowsBeside(vectors),
-    {tileOf<Kind, 1, vectors>(), tileOf<Kind, 2, vectors>(), tileOf<Kind, 3, vectors>(),
-     tileOf<Kind, 4, vectors>(), tileOf<Kind, 5, vectors>(), tileOf<Kind, 6, vectors>(),
-     tileOf<Kind, 7, vectors>(), tileOf<Kind, 8, vectors>(), tileOf<Kind, 9, vectors>(),
-     tileOf<Kind, 10, vectors>(), tileOf<Kind, 11, vectors>(), tileOf<Kind, 12, vectors>(),
-     tileOf<Kind, 13, vectors>(), tileOf<Kind, 14, vectors>()}};
+    {tilesOf<Kind, 1, vectors>(), tilesOf<Kind, 2, vectors>(), tilesOf<Kind, 3, vectors>(),
+     tilesOf<Kind, 4, vectors>(), tilesOf<Kind, 5, vectors>(), tilesOf<Kind, 6, vectors>(),
+     tilesOf<Kind, 7, vectors>(), tilesOf<Kind, 8, vectors>(), tilesOf<Kind, 9, vectors>(),
+     tilesOf<Kind, 10, vectors>(), tilesOf<Kind, 11, vectors>(), tilesOf<Kind, 12, vectors>(),
+     tilesOf<Kind, 13, vectors>(), tilesOf<Kind, 14, vectors>()}};
 template <class Kind>
 constexpr TilesOf<Kind> kTiles[] = {kTilesOf<Kind, 1>, kTilesOf<Kind, 2>, kTilesOf<Kind, 3>,
                                     kTilesOf<Kind, 4>};
 
-// Of so many rows or vectors that are left: what fits, or about a half, because a rest of one would wait for
-// its own sums.
-inline ptrdiff_t next(ptrdiff_t left, ptrdiff_t most) {
-  if (left <= most) return left;
-  return left < 2 * most ? left / 2 : most;
+// How many of so many rows or vectors that are left make a tile: what fits, or about a half, because a rest
+// of one would wait for its own sums; and how many tiles of that size come in a row.
+struct Share {
+  ptrdiff_t size, count;
+};
+inline Share shareOf(ptrdiff_t left, ptrdiff_t most) {
+  if (left <= most) return {left, 1};
+  if (left < 2 * most) return {left / 2, 1};
+  return {most, left / most - 1};
 }
 
-// All rows of some columns. The sum of the elements, lane by lane.
+// All rows of `groups` groups of vectors side by side, the first one at a column. The sum of the elements,
+// lane by lane.
 template <class Kind>
 inline typename Kind::Vector runColumns(const Matrices<Kind> &at, ptrdiff_t m, ptrdiff_t vectors,
-                                        const ptrdiff_t *offsets) {
+                                        ptrdiff_t column, ptrdiff_t last, ptrdiff_t groups) {
   const TilesOf<Kind> &tiles = kTiles<Kind>[vectors - 1];
+  if (m <= tiles.mostRows) return tiles.byRows[m - 1](at, 0, column, last, groups, false);
   typename Kind::Vector sum = {};
-  for (ptrdiff_t row = 0; row < m;) {
-    const ptrdiff_t rows = next(m - row, tiles.mostRows);
-    sum += tiles.byRows[rows - 1](at, row, offsets);
-    row += rows;
-  }
+  for (; groups > 0; --groups, column += vectors * Kind::kLength * Kind::kWords)
+    for (ptrdiff_t row = 0; row < m;) {
+      const Share rows = shareOf(m - row, tiles.mostRows);
+      sum += tiles.byRows[rows.size - 1](at, row, column, last, rows.count, true);
+      row += rows.size * rows.count;
+    }
   return sum;
 }
 
 // All columns, by groups of vectors. Whether the sum of the elements is finite.
 template <class Kind> bool run(const Matrices<Kind> &at, ptrdiff_t m) {
   constexpr ptrdiff_t kStep = ptrdiff_t{Kind::kLength} * Kind::kWords;
-  ptrdiff_t offsets[Kind::kMost];
   typename Kind::Vector sum = {};
   const ptrdiff_t all = (at.n + kStep - 1) / kStep;
   for (ptrdiff_t done = 0; done < all;) {
-    const ptrdiff_t vectors = next(all - done, Kind::kMost);
-    for (ptrdiff_t v = 0; v < vectors; ++v) {
-      const ptrdiff_t offset = (done + v) * kStep;
-      offsets[v] = offset + kStep <= at.n ? offset : at.n - kStep;
-    }
-    sum += runColumns(at, m, vectors, offsets);
-    done += vectors;
+    const Share group = shareOf(all - done, Kind::kMost);
+    const ptrdiff_t start = done * kStep, end = start + group.size * kStep;
+    const ptrdiff_t last = (end <= at.n ? end : at.n) - kStep, first = group.size == 1 ? last : start;
+    sum += runColumns(at, m, group.size, first, last - first, group.count);
+    done += group.size * group.count;
   }
   return isSumFinite<typename Kind::Word>(sum);
 }
 
 // Rows that one vector is longer than.
 template <class Kind> bool runNarrow(const Matrices<Kind> &at, ptrdiff_t m) {
-  constexpr ptrdiff_t kOffset = 0;
-  return isSumFinite<typename Kind::Word>(runColumns(at, m, 1, &kOffset));
+  return isSumFinite<typename Kind::Word>(runColumns(at, m, 1, 0, 0, 1));
 }
 
 // A length below the longest serves rows of fewer than two vectors of the next longer one.

@@ -35,28 +35,72 @@ public:
   }
 
 private:
-  GuardedPages pages = GuardedPages(8);
+  GuardedPages pages = GuardedPages(48);
+};
+
+template <class T> struct GuardedOperands {
+  Guarded<T> a, b, result;
+
+  void expectProduct(mint m, mint k, mint n, Samples &samples) {
+    const auto x = samples.list<T>(size_t(m * k)), y = samples.list<T>(size_t(k * n));
+    const auto expected = modelProduct(x.data(), y.data(), m, k, n);
+    for (const bool isAtEnd : {false, true}) {
+      T *to = result.fill(std::vector<T>(size_t(m * n), T{}), isAtEnd);
+      multiply(to, a.fill(x, isAtEnd), b.fill(y, isAtEnd), m, k, n);
+      ASSERT_EQ(std::vector<T>(to, to + m * n), expected) << m << " " << k << " " << n;
+    }
+  }
 };
 
 template <class T> void expectBitsWithinBounds() {
   Samples samples(21);
-  Guarded<T> a, b, result;
+  GuardedOperands<T> operands;
   for (mint m = 1; m <= 9; ++m)
     for (mint n = 1; n <= 70; n += n < 36 ? 1 : 7)
       for (const mint k : {1, 2, 5}) {
-        const auto x = samples.list<T>(size_t(m * k)), y = samples.list<T>(size_t(k * n));
-        const auto expected = modelProduct(x.data(), y.data(), m, k, n);
-        for (const bool isAtEnd : {false, true}) {
-          T *to = result.fill(std::vector<T>(size_t(m * n), T{}), isAtEnd);
-          multiply(to, a.fill(x, isAtEnd), b.fill(y, isAtEnd), m, k, n);
-          ASSERT_EQ(std::vector<T>(to, to + m * n), expected) << m << " " << k << " " << n;
-        }
+        operands.expectProduct(m, k, n, samples);
+        if (testing::Test::HasFatalFailure()) return;
+      }
+}
+
+// Several tiles of one shape in a row, down the rows and along the columns.
+template <class T> void expectBitsOfManyTiles() {
+  Samples samples(24);
+  GuardedOperands<T> operands;
+  for (const mint m : {1, 3, 8, 13, 14, 15, 29, 61})
+    for (const mint n : {1, 3, 4, 5, 8, 9, 16, 17, 31, 97, 104, 133, 200})
+      for (const mint k : {1, 3}) {
+        operands.expectProduct(m, k, n, samples);
+        if (testing::Test::HasFatalFailure()) return;
       }
 }
 
 TEST_P(ProductLoops, OfRealsHoldTheirOrderAndTheirBounds) { expectBitsWithinBounds<mreal>(); }
 TEST_P(ProductLoops, OfComplexNumbersHoldTheirOrderAndTheirBounds) { expectBitsWithinBounds<mcomplex>(); }
 TEST_P(ProductLoops, OfIntegersAreExactWithinTheirBounds) { expectBitsWithinBounds<mint>(); }
+TEST_P(ProductLoops, OfManyTilesOfRealsHoldTheirOrderAndTheirBounds) { expectBitsOfManyTiles<mreal>(); }
+TEST_P(ProductLoops, OfManyTilesOfComplexNumbersHoldThemToo) { expectBitsOfManyTiles<mcomplex>(); }
+TEST_P(ProductLoops, OfManyTilesOfIntegersAreExact) { expectBitsOfManyTiles<mint>(); }
+
+// One infinity in one of many tiles.
+TEST_P(ProductLoops, OfManyTilesFindOneInfinityWhereverItStands) {
+  const mint m = 30, n = 104;
+  const std::vector<mreal> a(m, 1.0), b(n, 1.0);
+  std::vector<mreal> result(size_t(m * n));
+  EXPECT_TRUE(sequentialProduct(result.data(), a.data(), b.data(), m, 1, n));
+  for (mint i = 0; i < m; ++i) {
+    std::vector<mreal> other = a;
+    other[size_t(i)] = std::numeric_limits<mreal>::infinity();
+    EXPECT_FALSE(sequentialProduct(result.data(), other.data(), b.data(), m, 1, n)) << i;
+    EXPECT_FALSE(sequentialProduct(result.data(), other.data(), b.data(), m, 1, 3)) << i;
+  }
+  for (mint j = 0; j < n; ++j)
+    for (const mint rows : {1, 3, m}) {
+      std::vector<mreal> other = b;
+      other[size_t(j)] = -std::numeric_limits<mreal>::infinity();
+      EXPECT_FALSE(sequentialProduct(result.data(), a.data(), other.data(), rows, 1, n)) << j;
+    }
+}
 
 // Their sum is not finite, though each of them is.
 TEST_P(ProductLoops, OfLargeFiniteRealsAreNotTakenForInfinities) {
