@@ -6,6 +6,7 @@
 #include "arrays/clip.h"
 #include "arrays/conversion.h"
 #include "arrays/sparse_support.h"
+#include "elementwise/pieces.h"
 #include "support/memory_sweep.h"
 
 #include <torvane/torvane.h>
@@ -95,7 +96,7 @@ template <class Record> Done byShape(Record *made) {
 }
 
 struct Operands {
-  Tensor x, y, indices, one, swap, four;
+  Tensor x, y, indices, one, swap, four, square, row, column;
   Array array, pair;
   Sparse sparse, repeated;
 };
@@ -108,6 +109,7 @@ struct ExportedCall {
 };
 
 constexpr mint kSmall = 7;
+const ConversionMethod kCoerceAll = {1, kCoerce, 0};
 
 Sparse sparseOf(mint count, mint repeats) {
   Tensor positions = newTensor(TORVANE_TYPE_INTEGER, {count, 2}), values = reals({count});
@@ -131,6 +133,9 @@ Operands operandsOf(mint count) {
           vectorOf<mint>({1}),
           vectorOf<mint>({2, 1}),
           scalarTensor<mreal>(4),
+          reals({2, 2}),
+          rampOf(TORVANE_TYPE_INTEGER, {2, count}, 0),
+          rampOf(TORVANE_TYPE_INTEGER, {count, 2}, 0),
           arrayOf(TORVANE_ELEMENT_INTEGER16, elements),
           arrayOf(TORVANE_ELEMENT_INTEGER16, two),
           sparseOf(count, 1),
@@ -157,6 +162,34 @@ mint getArrayPart(MNumericArray **slot, const Operands &on) {
   return MNumericArray_getParts(nullptr, slot, on.array.get(), 1, 1, &kind, &given);
 }
 
+// Over a block of the allocator that is aligned to 8 bytes, where reals want 16, so that it may have to move.
+// After a failure it is the caller's.
+Done byData(mint count) {
+  auto *const data = static_cast<mreal *>(torvane::allocate(uint32_t(count) * sizeof(mreal), 0, kReport));
+  if (data == nullptr) return {403, "", ""};
+  std::fill_n(data, count, 2.5);
+  MNumericArray *made = MNumericArray_newWithData(TORVANE_ELEMENT_REAL64, 1, &count, data, 1);
+  if (made == nullptr) torvane::free(data);
+  return byResult(made);
+}
+
+// Without workers: the pool that the long sums would make stays.
+mint integerProduct(MTensor **slot, const Operands &on) {
+  const mint threshold = getVectorParallelLengthThreshold(kScalarValued);
+  setVectorParallelLengthThreshold(kScalarValued, INT32_MAX);
+  const mint status = MTensorGeneralDot(slot, on.row.get(), on.column.get(), 4);
+  setVectorParallelLengthThreshold(kScalarValued, threshold);
+  return status;
+}
+
+// The destination stays; after a failure its elements say nothing.
+Done intoArray(const Operands &on) {
+  const Array target = newArray(TORVANE_ELEMENT_REAL32, {on.x->dimensions[0], 2});
+  if (target == nullptr) return {403, "", ""};
+  const mint status = MNumericArray_fromTensor(target.get(), on.x.get(), &kCoerceAll);
+  return {status, status == 0 ? textOf(target.get()) : "", ""};
+}
+
 // A new array, or the array itself, which stays.
 Done byMaybeSame(const MSparseArray *array, const std::function<mint(MSparseArray **)> &call) {
   MSparseArray *slot = nullptr;
@@ -167,7 +200,6 @@ Done byMaybeSame(const MSparseArray *array, const std::function<mint(MSparseArra
 }
 
 const intptr_t kTakeHalf[] = {0, kMany / 2}, kTakeTwo[] = {0, 2};
-const ConversionMethod kCoerceAll = {1, kCoerce, 0};
 
 // clang-format off
 #define TORVANE_CALL(large, statuses, ...)                                                                   \
@@ -194,12 +226,19 @@ const std::vector<ExportedCall> &exportedCalls() {
       TORVANE_CALL(refused, ({403}), bySlot<MTensor>(TORVANE_TO_SLOT(Runtime_MTensor_12TransposeConjugate(slot, on.x.get(), 0))) ),
       TORVANE_CALL(refused, ({403}), bySlot<MTensor>(TORVANE_TO_SLOT(Runtime_MTensor_ndimTransposeConjugate(slot, on.x.get(), on.swap.get()))) ),
       TORVANE_CALL(endsProcess, ({1}), bySlot<MTensor>(TORVANE_TO_SLOT(Runtime_MTensor_Flatten(slot, on.x.get(), 9))) ),
+      TORVANE_CALL(endsProcess, ({1}), bySlot<MTensor>(TORVANE_TO_SLOT(MTensorGeneralDot(slot, on.x.get(), on.square.get(), 6))) ),
+      TORVANE_CALL(endsProcess, ({1}), byUsedSlot(TORVANE_TO_SLOT(MTensorGeneralDot(slot, on.x.get(), on.square.get(), 6))) ),
+      TORVANE_CALL(refused, ({1}), bySlot<MTensor>(TORVANE_TO_SLOT(integerProduct(slot, on))) ),
+      TORVANE_CALL(refused, ({403}), byData(on.x->elementCount)),
+      TORVANE_CALL(refused, ({204, 403}), intoArray(on)),
       TORVANE_CALL(refused, ({403}), byShape(Runtime_CreateNumericArray(10, 2, on.x->dimensions)) ),
       TORVANE_CALL(endsProcess, ({1}), bySlot<MNumericArray>(TORVANE_TO_ARRAY(getArrayPart(slot, on))) ),
       TORVANE_CALL(refused, ({403}), byResult(MNumericArray_clone(on.array.get())) ),
       TORVANE_CALL(refused, ({403}), byArraySlot(TORVANE_TO_ARRAY(MNumericArray_convert(slot, on.array.get(), 10, &kCoerceAll))) ),
       TORVANE_CALL(refused, ({403}), byResult(MNumericArray_convertNew(on.array.get(), 12, 0)) ),
       TORVANE_CALL(refused, ({403}), byArraySlot(TORVANE_TO_ARRAY(MNumericArray_clip(slot, on.array.get(), on.pair.get(), on.pair.get()))) ),
+      TORVANE_CALL(refused, ({403}), byResult(MSparseArray_copy(on.sparse.get()))),
+      TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_fromPositions(on.column.get(), nullptr, nullptr, nullptr, slot))) ),
       TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_copyHandle(on.sparse.get(), slot))) ),
       TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_fromTensor(on.x.get(), nullptr, slot))) ),
       TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_setBackground(on.sparse.get(), nullptr, slot))) ),
