@@ -24,8 +24,8 @@ TORVANE_API mint VectorDot_CR64(mcomplex *result, const mcomplex *x, mint incx, 
 
 /* Contracts the last dimension of `a` with the first of `b`, of one type; ranks of at least 1, of at least 3
  * in sum. A null *resultSlot receives a new tensor, which the caller deletes; another one is reused, and may
- * be `a` or `b`. Two matrices, and reals of up to 8000 products, report infinities and NaNs whatever the
- * flags. Returns 1 for unequal types or a failure, 2 for ranks, 3 for inner dimensions; after a failure a
+ * be `a` or `b`. Two matrices, and without a vector up to 8000 products, report infinities and NaNs whatever
+ * the flags. Returns 1 for unequal types or a failure, 2 for ranks, 3 for inner dimensions; after a failure a
  * reused tensor has its shape and the elements before the failure. Out of memory ends the process. */
 TORVANE_API mint MTensorGeneralDot(MTensor **resultSlot, MTensor *a, MTensor *b, mint flags);
 

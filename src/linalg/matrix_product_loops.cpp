@@ -276,6 +276,79 @@ template <class Kind> bool runNarrow(const Matrices<Kind> &at, ptrdiff_t m) {
   return isSumFinite<typename Kind::Word>(runColumns(at, m, 1, 0, 0, 1));
 }
 
+#ifdef __AVX512F__
+// Rows of one or two whole vectors and up to half of another one: two rows share the last vector, which ends
+// with them, so that none of its lanes is spent on elements that are there already.
+namespace shared {
+
+using Vector = Lanes<mreal, 8>;
+using Whole512 = Plain<mreal, 8, kMostVectors>;
+
+// Two rows at a time from `row` on. Yields the sum of their elements, lane by lane.
+template <int pairs, int vectors> Vector runTile(const Matrices<Whole512> &at, ptrdiff_t row) {
+  const ptrdiff_t k = at.k, n = at.n;
+  const mreal *a = at.a + row * k, *b = at.b;
+  Vector sums[2 * pairs][vectors], lasts[pairs], of[vectors], all[4] = {};
+  unrolled<pairs>([&](auto r) {
+    lasts[r] = Vector{};
+    unrolled<vectors>([&](auto v) { sums[2 * r][v] = sums[2 * r + 1][v] = Vector{}; });
+  });
+  ptrdiff_t p = 0;
+  do {
+    unrolled<vectors>([&](auto v) { of[v] = _mm512_loadu_pd(b + 8 * v); });
+    // Masked by all lanes: GCC 12 takes what the plain form leaves undefined for a fault.
+    const Vector last = _mm512_maskz_broadcast_f64x4(0xFF, _mm256_loadu_pd(b + n - 4));
+    unrolled<pairs>([&](auto r) {
+      const Vector x = _mm512_set1_pd(a[2 * r * k + p]), y = _mm512_set1_pd(a[(2 * r + 1) * k + p]);
+      unrolled<vectors>([&](auto v) {
+        sums[2 * r][v] += x * of[v];
+        sums[2 * r + 1][v] += y * of[v];
+      });
+      lasts[r] += _mm512_mask_blend_pd(0xF0, x, y) * last;
+    });
+    b += n;
+  } while (++p < k);
+  mreal *to = at.result + row * n;
+  unrolled<pairs>([&](auto r) {
+    for (int half = 0; half < 2; ++half, to += n)
+      unrolled<vectors>([&](auto v) {
+        _mm512_storeu_pd(to + 8 * v, sums[2 * r + half][v]);
+        all[(2 * r + half) % 4] += sums[2 * r + half][v];
+      });
+    _mm256_storeu_pd(to - n - 4, __builtin_shufflevector(lasts[r], lasts[r], 0, 1, 2, 3));
+    _mm256_storeu_pd(to - 4, __builtin_shufflevector(lasts[r], lasts[r], 4, 5, 6, 7));
+    all[r % 4] += lasts[r];
+  });
+  return (all[0] + all[1]) + (all[2] + all[3]);
+}
+
+using Tile = Vector (*)(const Matrices<Whole512> &at, ptrdiff_t row);
+constexpr int kMostPairs[] = {8, 5};
+constexpr Tile kTiles[][8] = {{runTile<1, 1>, runTile<2, 1>, runTile<3, 1>, runTile<4, 1>, runTile<5, 1>,
+                               runTile<6, 1>, runTile<7, 1>, runTile<8, 1>},
+                              {runTile<1, 2>, runTile<2, 2>, runTile<3, 2>, runTile<4, 2>, runTile<5, 2>}};
+
+// An odd number of rows takes two tiles and more, which few rows are not worth.
+inline bool areFor(mint m, mint n) {
+  return (m % 2 == 0 || m >= 13) && n > 8 && n <= 20 && n % 8 != 0 && n % 8 <= 4;
+}
+
+// Of an odd number of rows the last tile, which is not the only one, computes one once more.
+bool run(const Matrices<Whole512> &at, ptrdiff_t m) {
+  const ptrdiff_t vectors = at.n / 8, all = (m + 1) / 2, most = kMostPairs[vectors - 1];
+  Vector sum = {};
+  for (ptrdiff_t done = 0, pairs; done < all; done += pairs) {
+    const ptrdiff_t left = all - done;
+    const bool isRest = left <= most && (done > 0 || m % 2 == 0);
+    pairs = isRest ? left : left < 2 * most ? (left + 1) / 2 : most;
+    sum += kTiles[vectors - 1][pairs - 1](at, isRest ? m - 2 * pairs : 2 * done);
+  }
+  return isSumFinite<mreal>(sum);
+}
+
+} // namespace shared
+#endif
+
 // A length below the longest serves rows of fewer than two vectors of the next longer one.
 template <class T, int length>
 constexpr int kMostOf = kPackedBytes == length *static_cast<int>(sizeof(T)) ? kMostVectors : 2;
@@ -283,6 +356,7 @@ constexpr int kMostOf = kPackedBytes == length *static_cast<int>(sizeof(T)) ? kM
 bool runReals(mreal *result, const mreal *a, const mreal *b, mint m, mint k, mint n) {
 #ifdef __AVX512F__
   const auto lanes = static_cast<__mmask8>((1 << n) - 1);
+  if (shared::areFor(m, n)) return shared::run({result, a, b, k, n}, m);
   if (n >= 8) return run<Plain<mreal, 8, kMostVectors>>({result, a, b, k, n}, m);
   if (n > 4) return runNarrow<Plain<mreal, 8, 1, Leading>>({result, a, b, k, n, {lanes}}, m);
   if (n > 2) return runNarrow<Plain<mreal, 4, 1, Leading>>({result, a, b, k, n, {lanes}}, m);

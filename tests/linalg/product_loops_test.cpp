@@ -67,8 +67,8 @@ template <class T> void expectBitsWithinBounds() {
 template <class T> void expectBitsOfManyTiles() {
   Samples samples(24);
   GuardedOperands<T> operands;
-  for (const mint m : {1, 3, 8, 13, 14, 15, 29, 61})
-    for (const mint n : {1, 3, 4, 5, 8, 9, 16, 17, 31, 97, 104, 133, 200})
+  for (const mint m : {1, 3, 8, 11, 12, 13, 14, 15, 18, 20, 29, 61})
+    for (const mint n : {1, 3, 4, 5, 8, 9, 12, 16, 17, 18, 20, 21, 31, 97, 104, 133, 200})
       for (const mint k : {1, 3}) {
         operands.expectProduct(m, k, n, samples);
         if (testing::Test::HasFatalFailure()) return;
@@ -94,12 +94,27 @@ TEST_P(ProductLoops, OfManyTilesFindOneInfinityWhereverItStands) {
     EXPECT_FALSE(sequentialProduct(result.data(), other.data(), b.data(), m, 1, n)) << i;
     EXPECT_FALSE(sequentialProduct(result.data(), other.data(), b.data(), m, 1, 3)) << i;
   }
-  for (mint j = 0; j < n; ++j)
-    for (const mint rows : {1, 3, m}) {
-      std::vector<mreal> other = b;
-      other[size_t(j)] = -std::numeric_limits<mreal>::infinity();
-      EXPECT_FALSE(sequentialProduct(result.data(), a.data(), other.data(), rows, 1, n)) << j;
-    }
+  for (const mint columns : {10, 12, 17, 20, n})
+    for (mint j = 0; j < columns; ++j)
+      for (const mint rows : {1, 2, 3, 11, m}) {
+        std::vector<mreal> other = b;
+        other[size_t(j)] = -std::numeric_limits<mreal>::infinity();
+        EXPECT_FALSE(sequentialProduct(result.data(), a.data(), other.data(), rows, 1, columns)) << j;
+      }
+}
+
+// Of two rows that share a vector too, one infinite.
+TEST_P(ProductLoops, OfOneInfiniteRowAreNotFinite) {
+  for (const mint n : {9, 12, 18, 20})
+    for (const mint m : {2, 11, 12, 20, 23})
+      for (mint i = 0; i < m; ++i) {
+        std::vector<mreal> a(size_t(m), 1.0), b(size_t(n), 0.0), result(size_t(m * n));
+        b.back() = 1;
+        EXPECT_TRUE(sequentialProduct(result.data(), a.data(), b.data(), m, 1, n));
+        a[size_t(i)] = std::numeric_limits<mreal>::infinity();
+        EXPECT_FALSE(sequentialProduct(result.data(), a.data(), b.data(), m, 1, n)) << i << " of " << m;
+        EXPECT_EQ(result[size_t(i * n + n - 1)], std::numeric_limits<mreal>::infinity());
+      }
 }
 
 // Their sum is not finite, though each of them is.
