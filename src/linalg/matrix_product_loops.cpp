@@ -278,7 +278,7 @@ template <class Kind> bool runNarrow(const Matrices<Kind> &at, ptrdiff_t m) {
 
 #ifdef __AVX512F__
 // Rows of one or two whole vectors and up to half of another one: two rows share the last vector, which ends
-// with them, so that none of its lanes is spent on elements that are there already.
+// with them, and fewer of its lanes are spent on elements that are there already.
 namespace shared {
 
 using Vector = Lanes<mreal, 8>;
