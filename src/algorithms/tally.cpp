@@ -1,8 +1,9 @@
 // Tally: distinct elements of an integer vector and their counts, in order of first appearance.
 //
-// Values in a short range are counted in a table over it. Others are sorted, as positions, and the length of
-// each run of equal ones is kept at the position of its first, so that a walk over the positions meets the
-// values as they appear.
+// Values in a range not much longer than the vector are counted in a table over it. Others are sorted, as
+// positions, and the length of each run of equal ones is kept at the position of its first, so that a walk
+// over the positions meets the values as they appear. The abort poll is asked once for each value where
+// the range is longer than a tenth of the vector, whichever way is taken: callers rely on where it is asked.
 #include "tally.h"
 
 #include "../runtime/failure.h"
@@ -19,7 +20,10 @@ namespace torvane {
 
 namespace {
 
-constexpr mint kShareOfLength = 10; // a range is short up to this part of the vector's length
+// A range is short up to this part of the vector's length, and counted up to so many lengths: the table is
+// smaller than a sort's scratch then.
+constexpr mint kShareOfLength = 10;
+constexpr int64_t kLengthsToCount = 4;
 
 // ---- the range ----
 
@@ -52,15 +56,22 @@ mint allocateRows(ResultTensor &result, mint count) {
   return result.allocate(TORVANE_TYPE_INTEGER, 2, extents);
 }
 
+// Once for each of so many values. kSuccess or kAborted.
+mint pollFor(mint values) {
+  for (mint k = 0; k < values; ++k)
+    if (abortQ("RuntimeLibrary") != 0) return kAborted;
+  return kSuccess;
+}
+
 // ---- by counting ----
 
 // Counts of values from `least` on. Neighbours in the vector are counted in tables of their own, where these
 // are small, so that a value that repeats does not wait for its own count.
 class ValueCounts {
 public:
-  ValueCounts(mint leastValue, mint tableSize)
+  ValueCounts(mint leastValue, mint tableSize, mint errorMode)
       : least(leastValue), size(tableSize), tables(tableSize <= kSmallTable ? kLanes : 1),
-        counts(tables * tableSize) {}
+        counts(tables * tableSize, errorMode) {}
 
   mint status() const { return counts.status(); }
   mint &of(mint value) { return counts[value - least]; }
@@ -110,15 +121,16 @@ void writeByAppearance(mint *rows, mint distinct, const mint *x, ValueCounts &co
   }
 }
 
-mint countInto(ResultTensor &result, const MTensor *vector, mint least, mint range) {
-  ValueCounts counts(least, range + 1);
-  if (counts.status() != kSuccess) return counts.status();
+bool isShort(const MTensor *vector, int64_t range) { return range <= vector->elementCount / kShareOfLength; }
+
+mint countInto(ResultTensor &result, const MTensor *vector, ValueCounts &counts, bool isPolled) {
   counts.count(integersOf(vector), vector->elementCount);
   const mint distinct = counts.distinct();
-  const mint status = allocateRows(result, distinct);
+  mint status = isPolled ? pollFor(distinct) : kSuccess;
+  if (status == kSuccess) status = allocateRows(result, distinct);
   if (status != kSuccess) return status;
   writeByAppearance(integersOf(result.get()), distinct, integersOf(vector), counts);
-  return kSuccess;
+  return result.commit();
 }
 
 // ---- by sorting ----
@@ -163,9 +175,12 @@ mint sortInto(ResultTensor &result, const MTensor *vector) {
 } // namespace
 
 mint tallyByCounting(MTensor **resultSlot, const MTensor *vector, mint least, mint range) {
+  const bool isPolled = !isShort(vector, range);
+  ValueCounts counts(least, range + 1, isPolled ? kQuiet : kReport);
+  if (counts.status() != kSuccess)
+    return isPolled ? tallyBySorting(resultSlot, vector) : counts.status(); // which may do with less
   ResultTensor result(resultSlot, {vector});
-  const mint status = countInto(result, vector, least, range);
-  return status == kSuccess ? result.commit() : status;
+  return countInto(result, vector, counts, isPolled);
 }
 
 mint tallyBySorting(MTensor **resultSlot, const MTensor *vector) {
@@ -178,8 +193,9 @@ mint MTensor_tally(MTensor **resultSlot, const MTensor *vector) {
   const mint status = checkIntegerVector(vector), count = vector->elementCount;
   if (status != kSuccess) return status;
   if (count == 0) return kWrongDimensions;
-  const Range range = rangeUpTo(integersOf(vector), count, count / kShareOfLength);
-  if (range.extent() > count / kShareOfLength) return tallyBySorting(resultSlot, vector);
+  const int64_t longest = std::min<int64_t>(kLengthsToCount * count, INT32_MAX - 1);
+  const Range range = rangeUpTo(integersOf(vector), count, longest);
+  if (range.extent() > longest) return tallyBySorting(resultSlot, vector);
   return tallyByCounting(resultSlot, vector, range.least, static_cast<mint>(range.extent()));
 }
 

@@ -61,7 +61,7 @@ std::vector<mint> drawWithin(std::mt19937 &random, mint count, mint least, mint 
   return vector;
 }
 
-// Which way was taken shows in the poll that only sorting makes, once for each value.
+// How often the poll is asked: never for a short range, else once for each value.
 size_t pollsOfTally(const std::vector<mint> &vector) {
   const Tensor tensor = vectorOf(vector);
   MTensor *slot = nullptr;
@@ -88,8 +88,8 @@ TEST_F(Tallies, OfRandomVectorsAreThoseOfAList) {
 
 TEST_F(Tallies, AreTheSameEitherWayAroundTheLimitOfTheRange) {
   std::mt19937 random(2);
-  for (const mint count : {10, 19, 20, 101, 1000, 4100, 25009})
-    for (const mint range : {count / 10 - 1, count / 10, count / 10 + 1})
+  for (const mint count : {10, 19, 20, 101, 1000, 4100, 6009})
+    for (const mint range : {count / 10 - 1, count / 10, count / 10 + 1, 4 * count, 4 * count + 1})
       for (const mint least : {INT32_MIN, -range / 2, INT32_MAX - range}) {
         const std::vector<mint> vector = drawWithin(random, count, least, range);
         expectBothWays(vector);
@@ -112,8 +112,7 @@ TEST_F(Tallies, OfTablesOfEverySizeAreThoseOfAList) {
   expectBothWays(gap);
 }
 
-TEST_F(Tallies, StopWhenThePollSaysSoAndLeaveNothing) {
-  const std::vector<mint> vector = {100, 5, 100, -7, 5, 1000};
+void expectStops(const std::vector<mint> &vector) {
   const uint32_t used = usedBytesOfThisThread();
   for (int64_t passes = 0; passes < 4; ++passes) {
     const Tensor tensor = vectorOf(vector);
@@ -132,6 +131,11 @@ TEST_F(Tallies, StopWhenThePollSaysSoAndLeaveNothing) {
   }
   EXPECT_EQ(pollsOfTally(vector), 4u);
   EXPECT_EQ(usedBytesOfThisThread(), used);
+}
+
+TEST_F(Tallies, StopWhenThePollSaysSoAndLeaveNothing) {
+  expectStops({100, 5, 100, -7, 5, 1000}); // sorted
+  expectStops({9, 5, 9, -7, 5, 10});       // counted
 }
 
 void expectStatus(Tensor tensor, mint status) {
@@ -186,6 +190,23 @@ TEST_F(Tallies, WithoutMemoryFailAndLeaveTheVectorAsItWas) {
     EXPECT_GE(refusals, 3);
     EXPECT_EQ(usedBytesOfThisThread(), used);
   }
+}
+
+// Up to four lengths the table is larger than what sorting cannot do without.
+TEST_F(Tallies, WithoutMemoryForATableAreSorted) {
+  constexpr mint kCount = 300000;
+  std::vector<mint> vector, rows;
+  for (uint32_t k = 0; k < kCount; ++k) vector.push_back(static_cast<mint>(k * 7919u % kCount * 4));
+  for (const mint value : vector) rows.insert(rows.end(), {value, 1});
+  NamedCall call("Tally");
+  call.tensor(vectorOf(vector));
+  const Tensor expected = matrixOf(rows);
+  FailingHeap heap;
+  mint refusals = 0;
+  EXPECT_TRUE(runWithout(heap, call, expected, false, 1, &refusals));
+  EXPECT_EQ(refusals, 0);
+  EXPECT_TRUE(runWithout(heap, call, expected, false, 2, &refusals));
+  EXPECT_EQ(refusals, 1) << "the result has no second way";
 }
 
 TEST_F(Tallies, OfAShortRangeWithoutMemoryFailAsWell) {
