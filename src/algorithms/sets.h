@@ -10,9 +10,6 @@
 
 namespace torvane {
 
-inline constexpr mint kNothingLeft =
-    7; // a set operation on several tensors of rank 2 or more has no elements
-
 enum SetOperation : mint {
   kComplement = 1,   // rows of the first that are in no other
   kIntersection = 2, // rows that are in all

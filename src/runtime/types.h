@@ -29,6 +29,7 @@ enum Status : mint {
   kValueFailed = 4,
   kNoMemory = 5,
   kNoSuchService = 6,
+  kNothingLeft = 7, // of several sets of rows of rank 2 or more
   kNoFunction = 11, // of a random generator
   kWrongArguments = 12,
   kNotInThisForm = 14,
