@@ -22,6 +22,19 @@ template <size_t kStep> void moveSteps(char *target, const char *source, size_t 
   if (done < bytes) moveFixed<kStep>(target + bytes - kStep, source + bytes - kStep);
 }
 
+// Four at a time: of short moves the counting would take as long as they do.
+template <class Move> void forRowsByFour(char *target, const char *source, const BoxAxis &rows, Move move) {
+  const ptrdiff_t toThird = 3 * rows.target, fromThird = 3 * rows.source;
+  size_t left = rows.count;
+  for (; left >= 4; left -= 4, target += 4 * rows.target, source += 4 * rows.source) {
+    move(target, source);
+    move(target + rows.target, source + rows.source);
+    move(target + 2 * rows.target, source + 2 * rows.source);
+    move(target + toThird, source + fromThird);
+  }
+  for (; left > 0; --left, target += rows.target, source += rows.source) move(target, source);
+}
+
 template <class Move> void forRows(char *target, const char *source, const BoxAxis &rows, Move move) {
   for (size_t i = 0; i < rows.count; ++i, target += rows.target, source += rows.source) move(target, source);
 }
@@ -49,15 +62,17 @@ void forRowsAhead(char *target, const char *source, size_t block, const BoxAxis 
   forRows(target + done * rows.target, source + done * rows.source, {ahead, rows.target, rows.source}, move);
 }
 
-// Blocks of one element or two. A run that stands backwards in its source has a loop with constant strides,
+// Blocks of one element or two. A run that stands backwards on one side has a loop with constant strides,
 // which the compiler vectorises.
 template <size_t kBlock> void copyFixed(char *target, const char *source, size_t, const BoxAxis &rows) {
   constexpr auto kBytes = static_cast<ptrdiff_t>(kBlock);
   const auto move = [](char *to, const char *from) { moveFixed<kBlock>(to, from); };
   if (rows.target == kBytes && rows.source == -kBytes)
     forRows(target, source, {rows.count, kBytes, -kBytes}, move);
+  else if (rows.target == -kBytes && rows.source == kBytes)
+    forRows(target, source, {rows.count, -kBytes, kBytes}, move);
   else
-    forRows(target, source, rows, move);
+    forRowsByFour(target, source, rows, move);
 }
 
 template <size_t kStep> void copySteps(char *target, const char *source, size_t block, const BoxAxis &rows) {
@@ -71,6 +86,10 @@ void copyBlocks(char *target, const char *source, size_t block, const BoxAxis &r
 void copyLines(char *target, const char *source, size_t block, const BoxAxis &rows) {
   forRowsAhead(target, source, block, rows,
                [block](char *to, const char *from) { moveSteps<16>(to, from, block); });
+}
+
+template <size_t kBlock> void copyFixedLines(char *target, const char *source, size_t, const BoxAxis &rows) {
+  forRowsAhead(target, source, kBlock, rows, [](char *to, const char *from) { moveFixed<kBlock>(to, from); });
 }
 
 void copyLongBlocks(char *target, const char *source, size_t block, const BoxAxis &rows) {
@@ -94,6 +113,12 @@ Rows rowsFor(size_t block) {
     return copyFixed<sizeof(mreal)>;
   case sizeof(mcomplex):
     return copyFixed<sizeof(mcomplex)>;
+  case 2 * sizeof(mcomplex):
+    return copyFixed<2 * sizeof(mcomplex)>;
+  case kLine:
+    return copyFixedLines<kLine>;
+  case 2 * kLine:
+    return copyFixedLines<2 * kLine>;
   default:
     return block < 4              ? copySteps<2>
            : block < 8            ? copySteps<4>

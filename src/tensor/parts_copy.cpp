@@ -22,7 +22,8 @@ struct PartAxis {
   ptrdiff_t selected, packed;
 };
 
-using MoveListed = void (*)(char *selected, char *packed, size_t block, const PartAxis &list);
+using MoveListed = void (*)(char *selected, char *packed, size_t block, const PartAxis &outer,
+                            const PartAxis &list);
 
 ptrdiff_t offsetOf(const PartAxis &axis, size_t i) {
   const auto index = axis.positions == nullptr ? static_cast<ptrdiff_t>(i) : ptrdiff_t{axis.positions[i]} - 1;
@@ -36,9 +37,9 @@ template <PartDirection kDirection> void moveBlock(char *selected, char *packed,
     memcpy(selected, packed, bytes);
 }
 
-// Of a list of neighbours into a run the strides are constants: no multiplication stands before a load.
+// One list. Of neighbours into a run the strides are constants: no multiplication stands before a load.
 template <size_t kBlock, PartDirection kDirection>
-void moveListed(char *selected, char *packed, size_t block, const PartAxis &list) {
+void moveOneListed(char *selected, char *packed, size_t block, const PartAxis &list) {
   const size_t bytes = kBlock == 0 ? block : kBlock;
   constexpr auto kStride = static_cast<ptrdiff_t>(kBlock);
   const mint *const end = list.positions + list.count;
@@ -50,6 +51,15 @@ void moveListed(char *selected, char *packed, size_t block, const PartAxis &list
   }
   for (const mint *position = list.positions; position < end; ++position, packed += list.packed)
     moveBlock<kDirection>(selected + (ptrdiff_t{*position} - 1) * list.selected, packed, bytes);
+}
+
+// A list at every index of the axis before it: where it is short, calls would cost more than it does.
+template <size_t kBlock, PartDirection kDirection>
+void moveListed(char *selected, char *packed, size_t block, const PartAxis &outerAxis,
+                const PartAxis &listAxis) {
+  const PartAxis outer = outerAxis, list = listAxis; // which no store of an element can change
+  for (size_t i = 0; i < outer.count; ++i, packed += outer.packed)
+    moveOneListed<kBlock, kDirection>(selected + offsetOf(outer, i), packed, block, list);
 }
 
 template <PartDirection kDirection> MoveListed moveListedFor(size_t block) {
@@ -161,7 +171,8 @@ private:
   void walk(mint at, char *selected, char *packed, const Leaf &leaf) const {
     if (at == listed) return copyBox(selected, packed, leaf.direction);
     const PartAxis &axis = axes[at];
-    if (at == rank - 1) return leaf.move(selected, packed, block, axis);
+    if (at == rank - 1) return leaf.move(selected, packed, block, {1, nullptr, 0, 0}, axis);
+    if (at == rank - 2 && listed == rank) return leaf.move(selected, packed, block, axis, axes[rank - 1]);
     for (size_t i = 0; i < axis.count; ++i, packed += axis.packed)
       walk(at + 1, selected + offsetOf(axis, i), packed, leaf);
   }
