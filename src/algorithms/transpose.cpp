@@ -77,11 +77,10 @@ mint buildLevels(const LevelMap &map, const MTensor *tensor, Level *levels) {
   return kSuccess;
 }
 
-mint copyMapped(MTensor **slot, MTensor *tensor, Level *levels, mint count, mint conjugate) {
+mint copyMapped(ResultTensor &result, const MTensor *tensor, Level *levels, mint count, mint conjugate) {
   const ScratchBytes extents(static_cast<uint64_t>(count) * sizeof(mint), kReport);
   if (!extents && count > 0) return kSizeFailed;
   for (mint k = 0; k < count; ++k) extents.as<mint>()[k] = levels[k].length;
-  ResultTensor result(slot, {tensor});
   mint status = result.allocate(tensor->type, count, extents.as<mint>());
   if (status != kSuccess) return status;
   if (result.get()->elementCount > 0)
@@ -91,14 +90,20 @@ mint copyMapped(MTensor **slot, MTensor *tensor, Level *levels, mint count, mint
   return status == kSuccess ? result.commit() : status;
 }
 
-mint transposeMapped(MTensor **slot, MTensor *tensor, const LevelMap &map, mint conjugate,
+mint transposeMapped(ResultTensor &result, const MTensor *tensor, const LevelMap &map, mint conjugate,
                      const mint *expectedRank) {
   const ScratchBytes levels(static_cast<uint64_t>(map.resultRank) * sizeof(Level), kReport);
   if (!levels && map.resultRank > 0) return kSizeFailed;
   const mint status = buildLevels(map, tensor, levels.as<Level>());
   if (status != kSuccess) return status;
   if (expectedRank != nullptr && *expectedRank != map.resultRank) return kWrongRank;
-  return copyMapped(slot, tensor, levels.as<Level>(), map.resultRank, conjugate);
+  return copyMapped(result, tensor, levels.as<Level>(), map.resultRank, conjugate);
+}
+
+// Of a tensor that the slot does not hold.
+mint transpose12Apart(ResultTensor &result, const MTensor *tensor, mint conjugate) {
+  const mint swapped[] = {2, 1};
+  return transposeMapped(result, tensor, {swapped, 2, 2, tensor->rank, tensor->rank}, conjugate, nullptr);
 }
 
 // 0 where the entries may name levels; their extents are not looked at yet.
@@ -139,8 +144,8 @@ mint MTensor_conjugate(MTensor *result, const MTensor *tensor) {
 mint MTensor_transpose12(MTensor **resultSlot, MTensor *tensor, mint conjugate) {
   if (tensor->rank < 2) return kWrongRank;
   if (*resultSlot == tensor) return transpose12InPlace(tensor, conjugate);
-  const mint swapped[] = {2, 1};
-  return transposeMapped(resultSlot, tensor, {swapped, 2, 2, tensor->rank, tensor->rank}, conjugate, nullptr);
+  ResultTensor result(resultSlot);
+  return transpose12Apart(result, tensor, conjugate);
 }
 
 mint MTensor_transposeLevels(MTensor **resultSlot, MTensor *tensor, const MTensor *permutation,
@@ -150,10 +155,12 @@ mint MTensor_transposeLevels(MTensor **resultSlot, MTensor *tensor, const MTenso
   const mint highest = length > 0 ? *std::max_element(entries, entries + length) : 0;
   const LevelMap map = {entries, length, highest, tensor->rank, highest - length + tensor->rank};
   const bool isIdentity = isIdentityFrom(entries, length, 0), isSwap = swapsFirstTwo(entries, length);
-  if (!isIdentity && !isSwap) return transposeMapped(resultSlot, tensor, map, conjugate, expectedRank);
+  ResultTensor result(resultSlot, {tensor, permutation});
+  if (!isIdentity && !isSwap) return transposeMapped(result, tensor, map, conjugate, expectedRank);
   if (expectedRank != nullptr && *expectedRank != tensor->rank) return kWrongRank;
-  return isSwap ? MTensor_transpose12(resultSlot, tensor, conjugate)
-                : copyLevel(resultSlot, tensor, conjugate);
+  if (isIdentity) return copyLevel(resultSlot, tensor, conjugate);
+  return result.isIn(tensor) ? transpose12InPlace(tensor, conjugate)
+                             : transpose12Apart(result, tensor, conjugate);
 }
 
 namespace {

@@ -437,4 +437,21 @@ TEST(Transpose, OfLevelsWithoutMemoryKeepsTheOperandAlsoInItsOwnSlot) {
   }
 }
 
+TEST(Transpose, MayTakeThePlaceOfThePermutationWhichAFailureLeavesWhole) {
+  const Tensor tensor = numberedTensor<mreal>({50, 60, 70});
+  for (const Permutation &levels : {Permutation{3, 1, 2}, {2, 1, 3}, {2, 1}}) {
+    const Tensor permutation = tensorOf<mint>({mint(levels.size())}, levels);
+    MTensor *slot = permutation.get();
+    FailingHeap heap;
+    heap.failRequest(1);
+    EXPECT_EQ(MTensor_transposeLevels(&slot, tensor.get(), slot, 0), 403);
+    EXPECT_TRUE(heap.failed());
+    heap.succeed();
+    EXPECT_EQ(valuesOf<mint>(permutation), levels);
+    ASSERT_EQ(MTensor_transposeLevels(&slot, tensor.get(), slot, 0), 0);
+    EXPECT_EQ(slot, permutation.get());
+    EXPECT_EQ(valuesOf<mreal>(permutation), modelTransposed<mreal>({50, 60, 70}, levels, false));
+  }
+}
+
 } // namespace
