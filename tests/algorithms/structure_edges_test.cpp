@@ -320,6 +320,14 @@ TEST_F(StructureEdges, InsertOfNothingIntoNothingHasItsShape) {
   expectInEverySlot(call.tensor(positions({1, 1}, {2})), TORVANE_TYPE_REAL, numbered({4, 0}));
 }
 
+// Refused before anything is asked of the heap.
+TEST_F(StructureEdges, InsertOfMoreThanADimensionCountsIsRefused) {
+  NamedCall call("Insert");
+  call.tensor(TORVANE_TYPE_REAL, numbered({INT32_MAX, 0})).tensor(TORVANE_TYPE_REAL, numbered({0}));
+  expectRefused(NamedCall(call).tensor(positions({1, 1}, {2})), 403);
+  expectRefused(NamedCall(call).tensor(positions({2, 1}, {1, -1})), 403);
+}
+
 TEST_F(StructureEdges, InsertRefusesItemsAndPositionsThatDoNotFit) {
   const auto inserted = [](Tensor item, Tensor at) {
     return NamedCall(matrixCall("Insert").tensor(std::move(item)).tensor(std::move(at)));

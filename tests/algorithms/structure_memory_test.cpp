@@ -52,6 +52,14 @@ const std::vector<Attempt> kAttempts = {
      [] {
        return NamedCall("Take").tensor(reals({2, 200000})).integer(0).integer(1);
      }},
+    {"take by a vector", 1, 403,
+     [] {
+       return NamedCall("Take").tensor(reals({400000})).integer(1).vector({1, -1, 2});
+     }},
+    {"drop by a vector", 1, 403,
+     [] {
+       return NamedCall("Drop").tensor(reals({400000})).integer(1).vector({1, -1, 2});
+     }},
     {"take of a high rank", 3, 403,
      [] { return NamedCall("Take").tensor(reals(wide(200000))).integer(0).integer(1); }},
     {"drop of a high rank", 3, 403,
