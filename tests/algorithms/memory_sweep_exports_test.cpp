@@ -95,7 +95,7 @@ template <class Record> Done byShape(Record *made) {
   return byResult(made);
 }
 
-// Into a tensor that the call is given, of the operand's shape where it has one.
+// Into an empty tensor that the call is given.
 template <class Call> Done byTensor(Call call) {
   MTensor *const given = MTensor_new();
   Done done = {call(given), "", ""};
