@@ -6,6 +6,7 @@
 #include "runtime/memory.h"
 #include "sort_model.h"
 #include "support/failing_heap.h"
+#include "support/named_rows.h"
 
 #include <gtest/gtest.h>
 
@@ -405,6 +406,21 @@ TEST(Transpose, WithoutMemoryFailsAndLeavesTheOperandAsItWas) {
   expectSurvivesFailures<mreal>({2, 3, 140000}, true, 403);
   expectSurvivesFailures<mint>({3, 2, 280000}, true, 403);
   expectSurvivesFailures<mcomplex>({2, 3, 70000}, true, -1);
+}
+
+TEST(Transpose, OfComplexesInPlaceWithoutMemoryHasAStatusOfItsRow) {
+  for (const NamedRow &row : kNamedRows) {
+    if (!row.isOneOf({"Transpose", "ConjugateTranspose"})) continue;
+    const Tensor tensor = numberedTensor<mcomplex>({2, 3, 70000});
+    MTensor *argument = tensor.get(), *slot = argument;
+    void *arguments[] = {&argument};
+    FailingHeap heap;
+    heap.failFrom(1);
+    const mint status = row.handler(nullptr, 1, arguments, &slot);
+    heap.succeed();
+    EXPECT_EQ(status, -1) << row.name;
+    EXPECT_TRUE(row.mayReturn(status)) << row.name;
+  }
 }
 
 TEST(Transpose, InPlaceFindsAnotherWayWhereThereIsMemoryForBitsOnly) {
