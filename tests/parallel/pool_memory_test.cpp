@@ -144,7 +144,9 @@ TEST_F(ShortPool, WithoutMemoryEndsTheProcessOrGoesOnWithFewerThreads) {
   EXPECT_EQ(outcome.faults, "");
   EXPECT_EQ(outcome.refused, 0);
   EXPECT_GE(outcome.ended, 2) << "the pool's block and that of its workers";
-  EXPECT_EQ(outcome.requests - outcome.ended, kWorkers) << "a start for each thread";
+  // What an ended thread left may serve the next one, which then asks for less: not every start need be met.
+  EXPECT_GE(outcome.requests - outcome.ended, 1) << "the start of a thread";
+  EXPECT_LE(outcome.requests - outcome.ended, kWorkers);
 }
 
 } // namespace
