@@ -40,9 +40,10 @@ template <class... T> using FirstOf = typename First<T...>::Type;
 
 inline constexpr mint kLineBytes = 64;
 
-// A processor fetches ahead within a page and stops at its end. Where the run is longer than the caches, and
-// so one page after another is new, the first lines of the next piece are asked for before each piece.
-inline constexpr mint kLongRun = 65536, kPiece = 512, kLinesAhead = 4;
+// A processor fetches ahead within a page and stops at its end. Where the run is long, and so one page after
+// another may be new, the first lines of the next piece are asked for before each piece. A worker's share
+// of a run counts as long.
+inline constexpr mint kLongRun = 16384, kPiece = 512, kLinesAhead = 4;
 template <int forWriting> void fetch(const void *data) {
   for (mint line = 0; line < kLinesAhead; ++line)
     __builtin_prefetch(static_cast<const char *>(data) + line * kLineBytes, forWriting);
