@@ -199,6 +199,41 @@ Done intoArray(const Operands &on) {
   return {status, status == 0 ? textOf(target.get()) : "", ""};
 }
 
+// Without memory these end the process: a sparse array's index tensors and values, properties, texts.
+Done sparseWithValues(const Operands &on) {
+  const mint count = on.x->dimensions[0];
+  MSparseArray *made = MSparseArray_newAllocated(2, on.x->dimensions, count);
+  MTensor_initialize(made->skeleton->columnIndices, 0);
+  MTensor_initialize(MSparseArray_allocValues(made, TORVANE_TYPE_REAL), 0);
+  return byResult(made);
+}
+
+Done propertyTwice(const Operands &on) {
+  const mint rank = on.x->dimensions[0];
+  TensorProperty *first = TensorProperty_new(rank);
+  std::fill_n(first->dimensions, rank, 3);
+  TensorProperty *second = TensorProperty_copy(first);
+  TensorProperty_delete(first);
+  const std::string text = bytesOf(second->dimensions, size_t(rank) * sizeof(mint));
+  TensorProperty_delete(second);
+  return {0, text, ""};
+}
+
+// The payload is there; the record is what is made.
+Done overPayload(const Operands &on) {
+  const auto bytes = uint32_t(on.x->elementCount) * uint32_t(sizeof(mreal));
+  void *const payload = allocate(bytes, 16, kReport);
+  if (payload == nullptr) return {403, "", ""};
+  std::memcpy(payload, on.x->data, bytes);
+  return byResult(MTensor_newUsingDataArray(TORVANE_TYPE_REAL, 2, on.x->dimensions, payload));
+}
+
+Done asText(char *text) {
+  const std::string kept = text;
+  to_string_free(text);
+  return {0, kept, ""};
+}
+
 // A new array, or the array itself, which stays.
 Done byMaybeSame(const MSparseArray *array, const std::function<mint(MSparseArray **)> &call) {
   MSparseArray *slot = nullptr;
@@ -284,6 +319,11 @@ const std::vector<ExportedCall> &exportedCalls() {
       TORVANE_CALL(refused, ({403}), byResult(MNumericArray_convertNew(on.array.get(), 12, 0)) ),
       TORVANE_CALL(refused, ({403}), byArraySlot(TORVANE_TO_ARRAY(MNumericArray_clip(slot, on.array.get(), on.pair.get(), on.pair.get()))) ),
       TORVANE_CALL(refused, ({403}), byResult(MSparseArray_copy(on.sparse.get()))),
+      TORVANE_CALL(endsProcess, ({}), sparseWithValues(on)),
+      TORVANE_CALL(endsProcess, ({}), propertyTwice(on)),
+      TORVANE_CALL(refused, ({403}), overPayload(on)),
+      TORVANE_CALL(none, ({}), asText(to_string_Real64(on.x->elementCount / 7.0))),
+      TORVANE_CALL(none, ({}), asText(to_string_ComplexReal64(1e300, -on.x->elementCount / 7.0))),
       TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_fromPositions(on.column.get(), nullptr, nullptr, nullptr, slot))) ),
       TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_copyHandle(on.sparse.get(), slot))) ),
       TORVANE_CALL(refused, ({-1}), bySlot<MSparseArray>(TORVANE_TO_SPARSE(MSparseArray_fromTensor(on.x.get(), nullptr, slot))) ),

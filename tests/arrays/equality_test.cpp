@@ -53,6 +53,8 @@ TEST(Agreement, TakesPartsOfBits) {
   EXPECT_TRUE(agreeAt<double>(0.5, 1e-300, 1e-300));
   EXPECT_FALSE(agreeAt<double>(52.9, 1.0, 0.5)); // half is too far whatever the factor
   EXPECT_TRUE(agreeAt<double>(52.9, 1.0, 0.51));
+  EXPECT_FALSE(agreeAt<double>(52.9, 0.5, 0.25)); // below 1 too, where the difference is divided
+  EXPECT_TRUE(agreeAt<double>(52.9, 0.5, 0.26));
   EXPECT_FALSE(agreeAt<double>(NAN, 1.0, 1.0 + ulp));
 }
 
