@@ -81,9 +81,14 @@ struct Run {
   }
 };
 
+// A cross product that fails on its way leaves what it has computed, whatever the slot held.
+bool leavesResult(const NamedArguments &call, mint status) {
+  return status == 0 || (call.row->is("Cross") && status == kValueFailed);
+}
+
 // An argument whose place the result takes is as it was where there is none.
 void expectUntouched(const NamedArguments &call, const Run &run, bool isTensor) {
-  const MTensor *replaced = isTensor && run.status == 0 ? run.result.slot : nullptr;
+  const MTensor *replaced = isTensor && leavesResult(call, run.status) ? run.result.slot : nullptr;
   for (size_t i = 0; i < call.count(); ++i) {
     if (run.handles[i] == nullptr || run.handles[i] == replaced) continue;
     require(isValidTensor(run.handles[i]));
@@ -110,7 +115,7 @@ void expectKept(const NamedArguments &call, const Run &run, bool isTensor, const
   if (!isTensor) return;
   if (held != nullptr) require(run.result.slot == held || takesNewRecord(call));
   if (run.status == 0) require(run.result.slot != nullptr && isValidTensor(run.result.slot));
-  if (run.status != 0 && held == nullptr) require(run.result.slot == nullptr || call.row->is("Cross"));
+  if (!leavesResult(call, run.status) && held == nullptr) require(run.result.slot == nullptr);
 }
 
 // Whether the second run must tell the same: bags have another number each, what seeds has no result, nothing
